@@ -1,0 +1,50 @@
+#pragma once
+
+#include "graphics/GraphicsContext.h"
+#include "graphics/PixelBuffer.h"
+
+#include <memory>
+
+namespace marlevo {
+
+/// How the drawing frame lies on the device plane: device = (x · scaleX + originX,
+/// y · scaleY + originY), device rows counted downwards.
+struct DeviceFrame {
+    double scaleX = 1;
+    double scaleY = 1;
+    double originX = 0;
+    double originY = 0;
+
+    /// The frame of a picture `height` pixels high: origin at its bottom left, y upwards.
+    static DeviceFrame yUp(double height) { return {1, -1, 0, height}; }
+    /// Origin at the top left, y downwards, `scale` device pixels a unit.
+    static DeviceFrame yDown(double scale) { return {scale, scale, 0, 0}; }
+};
+
+/// Draws on pixels that the caller owns.
+///
+/// The buffer may be any part of the device plane (a band, a tile): each pixel gets the same bytes
+/// whatever part is painted, so disjoint parts may be painted by several threads, each with a
+/// context of its own. Nothing outside the buffer's area is touched, and work outside is skipped.
+class BitmapContext final : public GraphicsContext {
+public:
+    BitmapContext(PixelBuffer target, DeviceFrame frame);
+    ~BitmapContext() override;
+    BitmapContext(const BitmapContext&) = delete;
+    BitmapContext& operator=(const BitmapContext&) = delete;
+
+    void saveState() override;
+    void restoreState() override;
+    void scale(double x, double y) override;
+    void setAlpha(double alpha) override;
+    void fillRect(const Rect& rect, const Color& color) override;
+    void fillPath(const Path& path, const Color& color) override;
+    void strokePath(const Path& path, const Color& color, double lineWidth) override;
+    void drawImage(const RasterImage& image, const Rect& rect) override;
+
+private:
+    struct Rasterizer;
+    std::unique_ptr<Rasterizer> rasterizer_;
+};
+
+} // namespace marlevo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "graphics/Color.h"
+#include "graphics/Path.h"
+#include "graphics/RasterImage.h"
+#include "graphics/Rect.h"
+
+namespace marlevo {
+
+/// Something to draw on: pixels (BitmapContext) or a page.
+///
+/// The drawing frame has its origin at the bottom left corner and y growing upwards, one unit a
+/// pixel or point, until scale() changes it. Every operation composites source-over, anti-aliased.
+/// Coordinates that are not finite or absurdly large never hurt: what cannot be drawn is left out.
+class GraphicsContext {
+public:
+    virtual ~GraphicsContext() = default;
+
+    /// Saves and restores the global alpha and the frame. A restore without a save does nothing.
+    virtual void saveState() = 0;
+    virtual void restoreState() = 0;
+
+    /// Scales the frame for everything that follows; pens are scaled with it.
+    virtual void scale(double x, double y) = 0;
+
+    /// The alpha, 0 to 1, multiplied into every following operation; replaces the current one.
+    virtual void setAlpha(double alpha) = 0;
+
+    virtual void fillRect(const Rect& rect, const Color& color) = 0;
+
+    /// Fills the path with the non-zero winding rule; open sub-paths are closed by a straight line.
+    virtual void fillPath(const Path& path, const Color& color) = 0;
+
+    /// Draws the path as an outline with round caps and joins, as one operation: where the outline
+    /// crosses itself it is not darker. A sub-path of length zero is a dot.
+    virtual void strokePath(const Path& path, const Color& color, double lineWidth) = 0;
+
+    /// Draws the whole image stretched into the rectangle, upright as one looks at the result.
+    virtual void drawImage(const RasterImage& image, const Rect& rect) = 0;
+};
+
+} // namespace marlevo

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace marlevo {
+
+/// An extent, or a movement when it is called a translation. May be negative or not finite
+/// where it comes from a file.
+struct Size {
+    double width = 0;
+    double height = 0;
+
+    friend bool operator==(const Size&, const Size&) = default;
+};
+
+} // namespace marlevo

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "graphics/GraphicsContext.h"
+#include "graphics/RasterImage.h"
+#include "model/CanvasSize.h"
+#include "model/ExportFormat.h"
+#include "model/Layer.h"
+#include "model/Property.h"
+#include "platform/Services.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace marlevo {
+
+/// Everything that one window shows and edits: the picture, the stroke in progress, the tool
+/// settings, the selection, the view, the file and the history.
+///
+/// Used on the user-interface thread only. Operations never report errors: an invalid index, an
+/// absent selection or an empty history changes nothing. Each property publishes its own changes to
+/// the readers that read it (Property.h).
+///
+/// Declared here as a whole; an operation is defined in the folder of its subsystem, as the group
+/// comments say.
+class DrawingDocument {
+public:
+    using Snapshot = LayerList;
+    using P = DocumentProperty;
+
+    explicit DrawingDocument(const Services& services = {});
+    ~DrawingDocument();
+    DrawingDocument(const DrawingDocument&) = delete;
+    DrawingDocument& operator=(const DrawingDocument&) = delete;
+
+private:
+    // First, since every property holds on to it.
+    ChangeRegistry changeRegistry_;
+
+public:
+    // ---- Stored state ---------------------------------------------------------------------------
+    Property<LayerList, P::layers, Publishing::always> layers;
+    Property<std::int64_t, P::activeLayerIndex> activeLayerIndex;
+    Property<std::optional<Stroke>, P::currentStroke, Publishing::always> currentStroke;
+    Property<Color, P::selectedColor> selectedColor;
+    Property<double, P::lineWidth> lineWidth;
+    Property<double, P::brushOpacity> brushOpacity;
+    Property<bool, P::isEraser> isEraser;
+    Property<bool, P::isFillTool> isFillTool;
+    Property<bool, P::isShapeTool> isShapeTool;
+    Property<bool, P::isEyeDropper> isEyeDropper;
+    Property<bool, P::isSelectTool> isSelectTool;
+    Property<Stroke::ShapeType, P::currentShapeType> currentShapeType;
+    Property<std::optional<Uuid>, P::selectedLayerID> selectedLayerID;
+    Property<std::optional<std::int64_t>, P::selectedStrokeIndex> selectedStrokeIndex;
+    Property<std::optional<PointList>, P::selectionDragStartPositions> selectionDragStartPositions;
+    Property<Color, P::backgroundColor> backgroundColor;
+    Property<bool, P::backgroundIsTransparent> backgroundIsTransparent;
+    Property<CanvasSize, P::canvasSize> canvasSize;
+    Property<double, P::zoom> zoom;
+    Property<bool, P::showGrid> showGrid;
+    Property<ExportFormat, P::exportFormat> exportFormat;
+    Property<bool, P::showExportPopover> showExportPopover;
+    Property<std::optional<std::filesystem::path>, P::currentFileURL> currentFileURL;
+
+private:
+    Property<std::vector<Snapshot>, P::undoStack, Publishing::always> undoStack;
+    Property<std::vector<Snapshot>, P::redoStack, Publishing::always> redoStack;
+    Property<std::unordered_map<Uuid, RasterImage>, P::layerThumbnails> layerThumbnails;
+
+public:
+    /// To make a Reader of this document's properties.
+    ChangeRegistry& changeRegistry() { return changeRegistry_; }
+    const Services& services() const { return services_; }
+
+    // ---- Layers and history (model/) ------------------------------------------------------------
+    /// The layer that receives new strokes, or null when `activeLayerIndex` names none. Valid until
+    /// the next change of `layers`.
+    const Layer* activeLayer() const;
+
+    /// True when no tool flag is set: the brush draws.
+    bool isDrawingMode() const;
+
+    /// Makes sure that there is a layer.
+    void ensureLayers();
+
+    void addLayer();
+    void deleteLayer(std::int64_t at);
+    void moveLayer(std::int64_t from, std::int64_t to);
+    void toggleLayerVisibility(std::int64_t index);
+    void clearActiveLayer();
+    void clearAll();
+
+    /// Puts the layers on the undo stack and empties the redo stack; to be called before a change.
+    void saveState();
+    void undo();
+    void redo();
+
+    /// Readings of the history's stacks, which count as reading the stack.
+    bool canUndo() const { return !undoStack->empty(); }
+    bool canRedo() const { return !redoStack->empty(); }
+
+    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels ---------------------
+    void beginStroke(Point at);
+    void addPointToStroke(Point point);
+    void endStroke();
+
+    // ---- Rendering (render/RasterCompositing.cpp) -----------------------------------------------
+    /// The whole picture at one pixel per canvas pixel; nothing when the canvas is smaller than
+    /// 1 × 1 or too large for memory.
+    std::optional<RasterImage> renderCGImage() const;
+
+    /// One layer on white, stretched to the given size; its visibility does not matter.
+    std::optional<RasterImage> renderSingleLayer(const Layer& layer, Size size) const;
+
+    // ---- Export (io/) ---------------------------------------------------------------------------
+    /// Writes the picture to the file, replacing it. Failures are silent.
+    void exportTo(const std::filesystem::path& file, ExportFormat format);
+
+    /// Asks for a file in a save panel, then exports to it.
+    void performExport(ExportFormat format);
+
+private:
+    std::optional<RasterImage> renderForFill() const;
+    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
+    void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
+
+    Services services_;
+};
+
+} // namespace marlevo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "model/Bytes.h"
+#include "model/StrokeList.h"
+#include "model/Uuid.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace marlevo {
+
+/// One sheet of the picture. A value: a copy shares strokes and image and is independent of later
+/// changes to either.
+struct Layer {
+    explicit Layer(std::string layerName) : name(std::move(layerName)) {}
+
+    Uuid id = Uuid::random();        ///< kept for life, also by copies
+    std::string name;
+    StrokeList strokes;              ///< in drawing order
+    bool isVisible = true;
+    double opacity = 1.0;            ///< of the image only; each stroke has its own
+    bool isLocked = false;
+    std::optional<Bytes> thumbnail;
+    std::optional<Bytes> imageData;  ///< an encoded image file, drawn below the strokes
+};
+
+/// Index 0 lies lowest and is drawn first.
+using LayerList = std::vector<Layer>;
+
+} // namespace marlevo

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace marlevo {
+
+class FilePanels;
+class ImageCodec;
+class MainQueue;
+
+/// What a document wants of the desktop. The services are borrowed and must outlive whoever holds
+/// them; an absent one makes the operations that need it do nothing.
+struct Services {
+    MainQueue* mainQueue = nullptr;
+    FilePanels* filePanels = nullptr;
+    const ImageCodec* imageCodec = nullptr;
+};
+
+} // namespace marlevo
