@@ -102,7 +102,8 @@ public:
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 
-    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels ---------------------
+    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels
+    // ---------------------
     void beginStroke(Point at);
     void addPointToStroke(Point point);
     void endStroke();
@@ -123,11 +124,14 @@ public:
     void performExport(ExportFormat format);
 
 private:
+    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
     std::optional<RasterImage> renderForFill() const;
-    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
+    void drawLayers(GraphicsContext& context, double height) const;
+    void drawLayer(GraphicsContext& context, const Layer& layer, double height) const;
     void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
+    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

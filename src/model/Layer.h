@@ -15,11 +15,11 @@ namespace marlevo {
 struct Layer {
     explicit Layer(std::string layerName) : name(std::move(layerName)) {}
 
-    Uuid id = Uuid::random();        ///< kept for life, also by copies
+    Uuid id = Uuid::random();  ///< kept for life, also by copies
     std::string name;
-    StrokeList strokes;              ///< in drawing order
+    StrokeList strokes;  ///< in drawing order
     bool isVisible = true;
-    double opacity = 1.0;            ///< of the image only; each stroke has its own
+    double opacity = 1.0;  ///< of the image only; each stroke has its own
     bool isLocked = false;
     std::optional<Bytes> thumbnail;
     std::optional<Bytes> imageData;  ///< an encoded image file, drawn below the strokes
@@ -28,4 +28,4 @@ struct Layer {
 /// Index 0 lies lowest and is drawn first.
 using LayerList = std::vector<Layer>;
 
-} // namespace marlevo
+}  // namespace marlevo

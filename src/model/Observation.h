@@ -41,8 +41,8 @@ class Reader;
 ///
 /// Single-threaded: everything happens on the thread of the document. Publishing is synchronous and
 /// allocates nothing. While being told, a reader may read, change properties, register anew, vanish
-/// or make others vanish; a reader that vanished is not told, one that came during a publish is told
-/// from the next one on.
+/// or make others vanish; a reader that vanished is not told, one that came during a publish is
+/// told from the next one on.
 class ChangeRegistry {
 public:
     ChangeRegistry() = default;
@@ -106,4 +106,4 @@ private:
     Reader* next_ = nullptr;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -43,4 +43,4 @@ private:
     std::shared_ptr<std::vector<Point>> block_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -12,4 +12,4 @@ namespace marlevo {
 /// change (a tree of immutable, reference-counted nodes). See StrokeList.cpp for its shape.
 class StrokeList;
 
-} // namespace marlevo
+}  // namespace marlevo
