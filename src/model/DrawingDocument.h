@@ -3,6 +3,7 @@
 #include "graphics/GraphicsContext.h"
 #include "graphics/RasterImage.h"
 #include "model/CanvasSize.h"
+#include "model/DecodedImages.h"
 #include "model/ExportFormat.h"
 #include "model/Layer.h"
 #include "model/Property.h"
@@ -75,6 +76,9 @@ public:
     ChangeRegistry& changeRegistry() { return changeRegistry_; }
     const Services& services() const { return services_; }
 
+    /// The decoded images of the layers; what it holds is no state of the document.
+    DecodedImages& decodedImages() const { return decodedImages_; }
+
     // ---- Layers and history (model/) ------------------------------------------------------------
     /// The layer that receives new strokes, or null when `activeLayerIndex` names none. Valid until
     /// the next change of `layers`.
@@ -132,6 +136,7 @@ private:
     void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
+    mutable DecodedImages decodedImages_;
 };
 
 }  // namespace marlevo
