@@ -27,4 +27,4 @@ private:
     std::shared_ptr<const std::vector<std::uint8_t>> bytes_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -26,4 +26,4 @@ struct CanvasSize::Preset {
     CanvasSize size;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

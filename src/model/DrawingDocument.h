@@ -102,7 +102,8 @@ public:
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 
-    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels ---------------------
+    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels
+    // ---------------------
     void beginStroke(Point at);
     void addPointToStroke(Point point);
     void endStroke();
@@ -123,6 +124,12 @@ public:
     void performExport(ExportFormat format);
 
 private:
+    /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
+    void clampActiveLayerIndex();
+
+    template <typename Source, typename Target>
+    void stepHistory(Source& source, Target& target);
+
     std::optional<RasterImage> renderForFill() const;
     void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
     void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
@@ -130,4 +137,4 @@ private:
     Services services_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -15,13 +15,18 @@ inline constexpr std::array allExportFormats{ExportFormat::png, ExportFormat::jp
 /// The format's name as shown and as its identity: "PNG", "JPEG", "TIFF", "BMP", "PDF".
 constexpr std::string_view rawValue(ExportFormat format) {
     switch (format) {
-    case ExportFormat::png: return "PNG";
-    case ExportFormat::jpeg: return "JPEG";
-    case ExportFormat::tiff: return "TIFF";
-    case ExportFormat::bmp: return "BMP";
-    case ExportFormat::pdf: return "PDF";
+    case ExportFormat::png:
+        return "PNG";
+    case ExportFormat::jpeg:
+        return "JPEG";
+    case ExportFormat::tiff:
+        return "TIFF";
+    case ExportFormat::bmp:
+        return "BMP";
+    case ExportFormat::pdf:
+        return "PDF";
     }
     return {};
 }
 
-} // namespace marlevo
+}  // namespace marlevo

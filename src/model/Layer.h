@@ -4,6 +4,8 @@
 #include "model/StrokeList.h"
 #include "model/Uuid.h"
 
+#include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,11 +17,11 @@ namespace marlevo {
 struct Layer {
     explicit Layer(std::string layerName) : name(std::move(layerName)) {}
 
-    Uuid id = Uuid::random();        ///< kept for life, also by copies
+    Uuid id = Uuid::random();  ///< kept for life, also by copies
     std::string name;
-    StrokeList strokes;              ///< in drawing order
+    StrokeList strokes;  ///< in drawing order
     bool isVisible = true;
-    double opacity = 1.0;            ///< of the image only; each stroke has its own
+    double opacity = 1.0;  ///< of the image only; each stroke has its own
     bool isLocked = false;
     std::optional<Bytes> thumbnail;
     std::optional<Bytes> imageData;  ///< an encoded image file, drawn below the strokes
@@ -28,4 +30,9 @@ struct Layer {
 /// Index 0 lies lowest and is drawn first.
 using LayerList = std::vector<Layer>;
 
-} // namespace marlevo
+/// True when a layer has the index, which may come from anywhere and also be negative.
+inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
+    return index >= 0 && index < std::ssize(layers);
+}
+
+}  // namespace marlevo

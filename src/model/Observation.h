@@ -2,10 +2,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 namespace marlevo {
 
-/// The document's observable properties, as bits of a reader's dependencies.
+/// The document's observable properties.
 enum class DocumentProperty : unsigned char {
     layers,
     activeLayerIndex,
@@ -35,14 +36,19 @@ enum class DocumentProperty : unsigned char {
     layerThumbnails,
 };
 
+/// The property as one bit of a set.
+constexpr std::uint32_t dependencyBit(DocumentProperty property) {
+    return std::uint32_t{1} << static_cast<unsigned>(property);
+}
+
 class Reader;
 
 /// Knows which reader depends on which property and tells readers of changes.
 ///
 /// Single-threaded: everything happens on the thread of the document. Publishing is synchronous and
 /// allocates nothing. While being told, a reader may read, change properties, register anew, vanish
-/// or make others vanish; a reader that vanished is not told, one that came during a publish is told
-/// from the next one on.
+/// or make others vanish; a reader that vanished is not told, one that came during a publish is
+/// told from the next one on.
 class ChangeRegistry {
 public:
     ChangeRegistry() = default;
@@ -100,10 +106,14 @@ private:
     };
 
     ChangeRegistry* registry_;
-    Callback onChange_;
+    std::shared_ptr<const Callback> onChange_;
     std::uint32_t dependencies_ = 0;
     Reader* previous_ = nullptr;
     Reader* next_ = nullptr;
 };
 
-} // namespace marlevo
+inline void ChangeRegistry::noteRead(DocumentProperty property) const {
+    if (rendering_) rendering_->dependencies_ |= dependencyBit(property);
+}
+
+}  // namespace marlevo

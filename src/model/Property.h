@@ -54,4 +54,4 @@ private:
     T value_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -18,10 +18,10 @@ struct Stroke {
     static constexpr std::array allShapeTypes{ShapeType::freehand, ShapeType::line, ShapeType::rect,
                                               ShapeType::ellipse};
 
-    PointList points;     ///< freehand: every position; shapes: start and end; fills: the outline
+    PointList points;  ///< freehand: every position; shapes: start and end; fills: the outline
     Color color;
-    double lineWidth = 0; ///< canvas pixels
-    double opacity = 0;   ///< 0 to 1, of the whole mark
+    double lineWidth = 0;  ///< canvas pixels
+    double opacity = 0;    ///< 0 to 1, of the whole mark
     bool isEraser = false;
     bool isFill = false;
     ShapeType shapeType = ShapeType::freehand;
@@ -44,12 +44,16 @@ struct Stroke {
 /// The name under which a shape type is stored.
 constexpr std::string_view rawValue(Stroke::ShapeType type) {
     switch (type) {
-    case Stroke::ShapeType::freehand: return "freehand";
-    case Stroke::ShapeType::line: return "line";
-    case Stroke::ShapeType::rect: return "rect";
-    case Stroke::ShapeType::ellipse: return "ellipse";
+    case Stroke::ShapeType::freehand:
+        return "freehand";
+    case Stroke::ShapeType::line:
+        return "line";
+    case Stroke::ShapeType::rect:
+        return "rect";
+    case Stroke::ShapeType::ellipse:
+        return "ellipse";
     }
     return {};
 }
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -23,7 +23,7 @@ private:
     std::array<std::uint64_t, 2> halves_{};
 };
 
-} // namespace marlevo
+}  // namespace marlevo
 
 template <>
 struct std::hash<marlevo::Uuid> {
