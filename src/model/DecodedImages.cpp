@@ -19,9 +19,9 @@ std::optional<RasterImage> DecodedImages::image(const Bytes& file) {
     Entry entry{file, codec_->decode(file.span())};
     const std::optional<RasterImage> result = entry.image;
     entries_.push_back(std::move(entry));
-    std::size_t total = std::accumulate(
-        entries_.begin(), entries_.end(), std::size_t{0},
-        [](std::size_t sum, const Entry& each) { return sum + each.size(); });
+    std::size_t total =
+        std::accumulate(entries_.begin(), entries_.end(), std::size_t{0},
+                        [](std::size_t sum, const Entry& each) { return sum + each.size(); });
     while (total > maxBytes) {
         total -= entries_.front().size();
         entries_.erase(entries_.begin());
@@ -37,4 +37,4 @@ void DecodedImages::keepOnly(const LayerList& layers) {
     });
 }
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -37,7 +37,7 @@ private:
     };
 
     const ImageCodec* codec_;
-    std::vector<Entry> entries_; ///< most recently used last
+    std::vector<Entry> entries_;  ///< most recently used last
 };
 
-} // namespace marlevo
+}  // namespace marlevo

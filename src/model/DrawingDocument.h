@@ -106,8 +106,8 @@ public:
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 
-    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels
-    // ---------------------
+    // ---- Stroke capture (tools/), positions in canvas pixels
+    // --------------------------------------
     void beginStroke(Point at);
     void addPointToStroke(Point point);
     void endStroke();
@@ -128,6 +128,12 @@ public:
     void performExport(ExportFormat format);
 
 private:
+    /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
+    void clampActiveLayerIndex();
+
+    template <typename Source, typename Target>
+    void stepHistory(Source& source, Target& target);
+
     // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
     std::optional<RasterImage> renderForFill() const;
     void drawLayers(GraphicsContext& context, double height) const;

@@ -13,10 +13,11 @@ template <typename Line>
 void forEachPosition(double end, double from, double to, Line line) {
     const double first = std::max(0.0, std::ceil((from - gridLineWidth) / gridSpacing));
     const double last = std::floor(std::min(end, to + gridLineWidth) / gridSpacing);
-    for (double k = first; k <= last; ++k) line(k * gridSpacing);
+    for (double k = first; k <= last; ++k)
+        line(k * gridSpacing);
 }
 
-} // namespace
+}  // namespace
 
 Path gridPath(CanvasSize canvas, const Rect& visible) {
     Path path;
@@ -30,4 +31,4 @@ Path gridPath(CanvasSize canvas, const Rect& visible) {
     return path;
 }
 
-} // namespace marlevo
+}  // namespace marlevo

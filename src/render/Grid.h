@@ -14,4 +14,4 @@ inline constexpr double gridLineWidth = 0.5;
 /// that may touch `visible` are in it.
 Path gridPath(CanvasSize canvas, const Rect& visible);
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -8,8 +8,8 @@
 
 namespace marlevo {
 
-/// What a pen may touch beyond half its width, in device pixels: anti-aliasing, and hairlines, which
-/// are drawn wider than they are.
+/// What a pen may touch beyond half its width, in device pixels: anti-aliasing, and hairlines,
+/// which are drawn wider than they are.
 inline constexpr double penFringe = 1.5;
 
 /// The device pixels that may change when something with these point bounds and pen width is drawn
@@ -28,4 +28,4 @@ inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {
     return {low(bounds.minX()), low(bounds.minY()), high(bounds.maxX()), high(bounds.maxY())};
 }
 
-} // namespace marlevo
+}  // namespace marlevo

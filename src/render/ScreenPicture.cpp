@@ -1,6 +1,7 @@
 #include "render/ScreenPicture.h"
 
 #include "model/DecodedImages.h"
+#include "model/StrokeDifference.h"
 #include "render/Grid.h"
 #include "render/PaintedArea.h"
 
@@ -86,18 +87,17 @@ void forEachDamage(const Layer& before, const Layer& after, double scale, Damage
         // An image covers the whole canvas; without one only the strokes come or go.
         if (hasImage) return damage(everything);
         for (const Layer* layer : {&before, &after}) {
-            layer->strokes.visit([](const auto&) { return true; },
-                                 [&](std::size_t, const Stroke& stroke) {
-                                     damage(paintedArea(stroke, scale));
-                                     return true;
-                                 });
+            for (const Stroke& stroke : layer->strokes)
+                damage(paintedArea(stroke, scale));
         }
         return;
     }
     if (!after.isVisible) return;
-    StrokeList::forEachDifference(before.strokes, after.strokes, [&](const Stroke& stroke) {
-        damage(paintedArea(stroke, scale));
-    });
+    const auto difference = StrokeDifference::between(before.strokes, after.strokes);
+    for (const Stroke* stroke : difference.went)
+        damage(paintedArea(*stroke, scale));
+    for (const Stroke* stroke : difference.came)
+        damage(paintedArea(*stroke, scale));
 }
 
 /// The same for two stacks of layers.
@@ -105,8 +105,8 @@ template <typename Damage>
 void forEachDamage(const LayerList& before, const LayerList& after, double scale, Damage damage) {
     const auto sameLayer = [](const Layer& a, const Layer& b) { return a.id == b.id; };
     // Layers that came, went or changed places lie between the equal ends of the two stacks.
-    const auto [differs, differsAfter] = std::mismatch(before.begin(), before.end(), after.begin(),
-                                                       after.end(), sameLayer);
+    const auto [differs, differsAfter] =
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), sameLayer);
     const auto head = static_cast<std::size_t>(differs - before.begin());
     const auto [tailBefore, tailAfter] =
         std::mismatch(before.rbegin(), before.rend() - static_cast<std::ptrdiff_t>(head),
@@ -115,7 +115,8 @@ void forEachDamage(const LayerList& before, const LayerList& after, double scale
     (void)differsAfter;
     (void)tailAfter;
 
-    for (std::size_t i = 0; i < head; ++i) forEachDamage(before[i], after[i], scale, damage);
+    for (std::size_t i = 0; i < head; ++i)
+        forEachDamage(before[i], after[i], scale, damage);
     for (std::size_t i = 1; i <= tail; ++i) {
         forEachDamage(before[before.size() - i], after[after.size() - i], scale, damage);
     }
@@ -128,12 +129,14 @@ void forEachDamage(const LayerList& before, const LayerList& after, double scale
     }
 }
 
-} // namespace
+}  // namespace
 
 ScreenPicture::Contents ScreenPicture::Contents::of(const DrawingDocument& document, double scale,
                                                     PixelOrder order) {
-    return {document.layers, document.backgroundIsTransparent ? clear : *document.backgroundColor,
-            document.canvasSize, scale, document.showGrid, order};
+    return {
+        document.layers,     document.backgroundIsTransparent ? clear : *document.backgroundColor,
+        document.canvasSize, scale,
+        document.showGrid,   order};
 }
 
 void ScreenPicture::paint(const DrawingDocument& document, double scale,
@@ -190,11 +193,11 @@ void ScreenPicture::render(const DrawingDocument& document, const PixelBuffer& p
     const double scale = contents_.scale;
     const CanvasSize canvas = contents_.canvasSize;
     const Rect canvasRect{{0, 0}, {canvas.width, canvas.height}};
+    const Rect visible{{part.area.left / scale, part.area.top / scale},
+                       {part.area.width() / scale, part.area.height() / scale}};
     BitmapContext context(part, DeviceFrame::yDown(scale));
     context.fillRect(canvasRect, contents_.background);
     if (contents_.hasGrid) {
-        const Rect visible{{part.area.left / scale, part.area.top / scale},
-                           {part.area.width() / scale, part.area.height() / scale}};
         context.fillPath(gridPath(canvas, visible), gridColor_);
     }
     for (const Layer& layer : contents_.layers) {
@@ -206,10 +209,8 @@ void ScreenPicture::render(const DrawingDocument& document, const PixelBuffer& p
             }
         }
         layer.strokes.visit(
-            [&](const StrokeList::Summary& below) {
-                return !paintedArea(below.bounds, below.maxLineWidth, scale)
-                            .intersectedWith(part.area)
-                            .isEmpty();
+            [&](const StrokeSummary& strokes) {
+                return strokes.reaches(visible, strokes.maxLineWidth / 2 + penFringe / scale);
             },
             [&](std::size_t, const Stroke& stroke) {
                 if (stroke.points.size() >= 2) drawOnScreen(context, stroke);
@@ -224,4 +225,4 @@ void ScreenPicture::dropTilesOutside(const IntRect& area) {
     });
 }
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -44,7 +44,7 @@ private:
 
     struct Tile {
         std::vector<std::uint8_t> pixels;
-        IntRect stale; ///< the part to be rendered again, in device pixels
+        IntRect stale;  ///< the part to be rendered again, in device pixels
     };
 
     void update(Contents next);
@@ -54,7 +54,7 @@ private:
 
     Color gridColor_;
     Contents contents_;
-    std::unordered_map<std::uint64_t, Tile> tiles_; ///< by column and row
+    std::unordered_map<std::uint64_t, Tile> tiles_;  ///< by column and row
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -2,12 +2,12 @@
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/Strokes.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include <array>
 #include <cmath>
 #include <limits>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace marlevo {
 namespace {
@@ -27,7 +27,8 @@ protected:
         document.layers.modify([&](LayerList& layers) { layers[layer].strokes.append(stroke); });
     }
 
-    /// An image layer of `width` × `height` pixels, the upper half in one colour, the lower in another.
+    /// An image layer of `width` × `height` pixels, the upper half in one colour, the lower in
+    /// another.
     void addImage(int width, int height, Pixel upper, Pixel lower, double opacity = 1) {
         std::vector<std::uint8_t> file{static_cast<std::uint8_t>(width),
                                        static_cast<std::uint8_t>(height)};
@@ -68,8 +69,13 @@ TEST_F(RasterCompositing, SizesAreTruncatedAndImpossibleOnesGiveNoPicture) {
     EXPECT_EQ(image->height(), 50);
 
     const double infinity = std::numeric_limits<double>::infinity();
-    for (const CanvasSize size : {CanvasSize{0.5, 100}, {100, 0}, {-5, 10}, {1e300, 10}, {1e9, 1e9},
-                                  {std::nan(""), 10}, {10, infinity}}) {
+    for (const CanvasSize size : {CanvasSize{0.5, 100},
+                                  {100, 0},
+                                  {-5, 10},
+                                  {1e300, 10},
+                                  {1e9, 1e9},
+                                  {std::nan(""), 10},
+                                  {10, infinity}}) {
         document.canvasSize = size;
         EXPECT_FALSE(document.renderCGImage()) << size.width << " × " << size.height;
     }
@@ -160,7 +166,7 @@ TEST_F(RasterCompositing, SingleLayersAreStretchedOverWhite) {
     EXPECT_EQ(image->width(), 88);
     EXPECT_EQ(image->height(), 64);
     EXPECT_THAT(image->pixel(44, 32), ElementsAre(255, 0, 0, 0));
-    EXPECT_THAT(image->pixel(44, 27), ElementsAre(255, 0, 0, 0)); // 100 × 0.128 = 12.8 pixels high
+    EXPECT_THAT(image->pixel(44, 27), ElementsAre(255, 0, 0, 0));  // 100 × 0.128 = 12.8 pixels high
     EXPECT_THAT(image->pixel(44, 20), ElementsAre(255, 255, 255, 255));
     EXPECT_FALSE(document.renderSingleLayer(document.layers->front(), {0.9, 64}));
 
@@ -168,5 +174,5 @@ TEST_F(RasterCompositing, SingleLayersAreStretchedOverWhite) {
     EXPECT_TRUE(document.renderSingleLayer(document.layers->front(), {88, 64}));
 }
 
-} // namespace
-} // namespace marlevo
+}  // namespace
+}  // namespace marlevo

@@ -55,5 +55,5 @@ TEST(StrokeGeometry, BoundsHoldEveryPointOfAnyShape) {
     EXPECT_EQ(makeStroke({}).boundingRect(), Rect{});
 }
 
-} // namespace
-} // namespace marlevo
+}  // namespace
+}  // namespace marlevo

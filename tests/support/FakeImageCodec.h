@@ -27,4 +27,4 @@ public:
     }
 };
 
-} // namespace marlevo
+}  // namespace marlevo

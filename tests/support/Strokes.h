@@ -12,4 +12,4 @@ inline Stroke makeStroke(PointList points, double lineWidth = 3,
     return {std::move(points), black, lineWidth, 1.0, false, false, shapeType};
 }
 
-} // namespace marlevo
+}  // namespace marlevo
