@@ -102,8 +102,7 @@ public:
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 
-    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels
-    // ---------------------
+    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels -------------------
     void beginStroke(Point at);
     void addPointToStroke(Point point);
     void endStroke();
