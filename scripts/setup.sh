@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|fuzz]...
+# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|fuzz|pictures]...
 # Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
 set -euo pipefail
 
@@ -14,6 +14,7 @@ for purpose in "${@:-build}"; do
                [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
         test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev "${virtual_display[@]}") ;;
         bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev pkg-config) ;;
+        pictures) wanted+=("${virtual_display[@]}" imagemagick) ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
         fuzz)  wanted+=(cmake ninja-build libhwy-dev clang) ;;
         *) echo "setup.sh: no purpose named '$purpose'" >&2; exit 2 ;;

@@ -3,6 +3,7 @@
 #include "graphics/GraphicsContext.h"
 #include "graphics/RasterImage.h"
 #include "model/CanvasSize.h"
+#include "model/DecodedImages.h"
 #include "model/ExportFormat.h"
 #include "model/Layer.h"
 #include "model/Property.h"
@@ -75,6 +76,9 @@ public:
     ChangeRegistry& changeRegistry() { return changeRegistry_; }
     const Services& services() const { return services_; }
 
+    /// The decoded images of the layers; what it holds is no state of the document.
+    DecodedImages& decodedImages() const { return decodedImages_; }
+
     // ---- Layers and history (model/) ------------------------------------------------------------
     /// The layer that receives new strokes, or null when `activeLayerIndex` names none. Valid until
     /// the next change of `layers`.
@@ -102,8 +106,8 @@ public:
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 
-    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels
-    // ---------------------
+    // ---- Stroke capture (tools/), positions in canvas pixels
+    // --------------------------------------
     void beginStroke(Point at);
     void addPointToStroke(Point point);
     void endStroke();
@@ -124,6 +128,12 @@ public:
     void performExport(ExportFormat format);
 
 private:
+    /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
+    void clampActiveLayerIndex();
+
+    template <typename Source, typename Target>
+    void stepHistory(Source& source, Target& target);
+
     // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
     std::optional<RasterImage> renderForFill() const;
     void drawLayers(GraphicsContext& context, double height) const;
@@ -132,6 +142,7 @@ private:
     void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
+    mutable DecodedImages decodedImages_;
 };
 
 }  // namespace marlevo

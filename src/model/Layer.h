@@ -4,6 +4,8 @@
 #include "model/StrokeList.h"
 #include "model/Uuid.h"
 
+#include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,5 +29,10 @@ struct Layer {
 
 /// Index 0 lies lowest and is drawn first.
 using LayerList = std::vector<Layer>;
+
+/// True when a layer has the index, which may come from anywhere and also be negative.
+inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
+    return index >= 0 && index < std::ssize(layers);
+}
 
 }  // namespace marlevo

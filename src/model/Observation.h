@@ -2,10 +2,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 namespace marlevo {
 
-/// The document's observable properties, as bits of a reader's dependencies.
+/// The document's observable properties.
 enum class DocumentProperty : unsigned char {
     layers,
     activeLayerIndex,
@@ -34,6 +35,11 @@ enum class DocumentProperty : unsigned char {
     redoStack,
     layerThumbnails,
 };
+
+/// The property as one bit of a set.
+constexpr std::uint32_t dependencyBit(DocumentProperty property) {
+    return std::uint32_t{1} << static_cast<unsigned>(property);
+}
 
 class Reader;
 
@@ -100,10 +106,14 @@ private:
     };
 
     ChangeRegistry* registry_;
-    Callback onChange_;
+    std::shared_ptr<const Callback> onChange_;
     std::uint32_t dependencies_ = 0;
     Reader* previous_ = nullptr;
     Reader* next_ = nullptr;
 };
+
+inline void ChangeRegistry::noteRead(DocumentProperty property) const {
+    if (rendering_) rendering_->dependencies_ |= dependencyBit(property);
+}
 
 }  // namespace marlevo

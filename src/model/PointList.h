@@ -1,10 +1,11 @@
 #pragma once
 
 #include "graphics/Point.h"
+#include "graphics/Rect.h"
+#include "model/Ref.h"
 
 #include <cstddef>
 #include <initializer_list>
-#include <memory>
 #include <span>
 #include <vector>
 
@@ -18,11 +19,11 @@ public:
     PointList(std::initializer_list<Point> points) : PointList(std::vector<Point>(points)) {}
     explicit PointList(std::vector<Point> points);
 
-    std::size_t size() const { return block_ ? block_->size() : 0; }
+    std::size_t size() const { return block_ ? block_->points.size() : 0; }
     bool isEmpty() const { return size() == 0; }
-    const Point& operator[](std::size_t index) const { return (*block_)[index]; }
+    const Point& operator[](std::size_t index) const { return block_->points[index]; }
     std::span<const Point> span() const {
-        return block_ ? std::span<const Point>(*block_) : std::span<const Point>();
+        return block_ ? std::span<const Point>(block_->points) : std::span<const Point>();
     }
     auto begin() const { return span().begin(); }
     auto end() const { return span().end(); }
@@ -32,15 +33,26 @@ public:
     /// Frees memory kept ready for further points.
     void shrinkToFit();
 
+    /// The smallest rectangle that holds every point, at no cost; all zero without points. A side
+    /// is NaN when a coordinate along it is.
+    Rect bounds() const;
+
     /// True when both share one block: a cheap "known equal".
     bool sharesWith(const PointList& other) const { return block_ == other.block_; }
 
     friend bool operator==(const PointList& a, const PointList& b);
 
 private:
-    std::vector<Point>& ownBlock();
+    struct Block : RefCounted {
+        explicit Block(std::vector<Point> initial);
+        void stretchTo(Point point);
 
-    std::shared_ptr<std::vector<Point>> block_;
+        std::vector<Point> points;  ///< never empty
+        Point least;
+        Point greatest;
+    };
+
+    Ref<Block> block_;
 };
 
 }  // namespace marlevo

@@ -1,15 +1,144 @@
 #pragma once
 
 #include "graphics/Rect.h"
+#include "model/Ref.h"
 #include "model/Stroke.h"
+#include "model/StrokeSummary.h"
+#include "model/StrokeTree.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <span>
+#include <vector>
 
 namespace marlevo {
 
 /// The strokes of a layer: a sequence with value semantics whose copies share all that did not
-/// change (a tree of immutable, reference-counted nodes). See StrokeList.cpp for its shape.
-class StrokeList;
+/// change, so that a copy costs two pointers and a changed copy a path of nodes.
+///
+/// A tree of reference-counted nodes, 32 wide, whose leaves hold the strokes by pointer, and an
+/// open leaf at the end that is not yet in the tree. Nodes are changed in place when this list is
+/// their only owner. Appending to the open leaf takes constant time even though older copies share
+/// it: each copy knows how many of the leaf's strokes are its own. Other changes, and finding a
+/// stroke by its index, take time logarithmic in the size.
+///
+/// One list belongs to one thread at a time; copies may be used and changed on different threads.
+/// Indices must be valid. References to strokes are valid until their list changes.
+class StrokeList {
+public:
+    class Iterator;
+    using value_type = Stroke;
+    using const_iterator = Iterator;
+
+    StrokeList() = default;
+    explicit StrokeList(std::vector<Stroke> strokes);
+
+    std::size_t size() const { return treeSize() + tailSize_; }
+    bool isEmpty() const { return size() == 0; }
+    const Stroke& operator[](std::size_t index) const;
+    Iterator begin() const;
+    Iterator end() const;
+
+    /// Also gives back the memory that the stroke's points keep ready for more.
+    void append(Stroke stroke);
+    void erase(std::size_t at);
+    void replace(std::size_t at, Stroke stroke);
+    void clear() { *this = StrokeList(); }
+
+    /// Applies `change` to the stroke.
+    template <typename Change>
+    void modify(std::size_t at, Change&& change) {
+        Stroke stroke = (*this)[at];
+        std::forward<Change>(change)(stroke);
+        replace(at, std::move(stroke));
+    }
+
+    /// What all strokes add up to.
+    StrokeSummary summary() const;
+
+    /// Calls `visitor(index, stroke)` in order for each stroke whose summary `matters`, a predicate
+    /// on StrokeSummary, accepts; whole runs of strokes are skipped when it refuses their common
+    /// summary, so it must accept a summary if it accepts a part of it. Stops when the visitor
+    /// answers false; false if it did.
+    template <typename Predicate, typename Visitor>
+    bool visit(const Predicate& matters, Visitor&& visitor) const {
+        return (!tree_ || stroke_tree::visit(*tree_, 0, matters, visitor)) &&
+               stroke_tree::visit(tail(), treeSize(), matters, visitor);
+    }
+
+    /// Calls `visitor(index, stroke)` in order for each stroke that may paint in `area`.
+    template <typename Visitor>
+    void forEachTouching(const Rect& area, Visitor&& visitor) const {
+        visit([&](const StrokeSummary& summary) { return summary.paintsIn(area); },
+              [&](std::size_t index, const Stroke& stroke) {
+                  visitor(index, stroke);
+                  return true;
+              });
+    }
+
+    /// True when both share all their strokes: a cheap "known equal".
+    bool sharesWith(const StrokeList& other) const {
+        return tree_ == other.tree_ && tailSize_ == other.tailSize_ &&
+               (tailSize_ == 0 || tail_ == other.tail_);
+    }
+
+private:
+    friend struct StrokeDifference;
+
+    std::size_t treeSize() const { return tree_ ? tree_->summary.count : 0; }
+    std::span<const Ref<stroke_tree::Record>> tail() const {
+        if (tailSize_ == 0) return {};
+        return {tail_->slots.data(), tailSize_};
+    }
+    std::span<const Ref<stroke_tree::Record>> recordsFrom(std::size_t index) const;
+    stroke_tree::Leaf& ownTail();
+
+    Ref<stroke_tree::Node> tree_;
+    Ref<stroke_tree::Leaf> tail_;  ///< its first `tailSize_` strokes follow those of the tree
+    std::uint32_t tailSize_ = 0;   ///< less than a full leaf
+};
+
+/// Goes through a list in order; a change of the list invalidates it.
+class StrokeList::Iterator {
+public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = Stroke;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const Stroke*;
+    using reference = const Stroke&;
+
+    Iterator() = default;
+
+    const Stroke& operator*() const { return (*record_)->stroke; }
+    const Stroke* operator->() const { return &**this; }
+    Iterator& operator++() {
+        ++index_;
+        if (++record_ == leafEnd_) enterLeaf();
+        return *this;
+    }
+    Iterator operator++(int) {
+        Iterator before = *this;
+        ++*this;
+        return before;
+    }
+    friend bool operator==(const Iterator& a, const Iterator& b) { return a.index_ == b.index_; }
+
+private:
+    friend class StrokeList;
+
+    Iterator(const StrokeList& list, std::size_t index) : list_(&list), index_(index) {
+        enterLeaf();
+    }
+    void enterLeaf();
+
+    const StrokeList* list_ = nullptr;
+    std::size_t index_ = 0;
+    const Ref<stroke_tree::Record>* record_ = nullptr;
+    const Ref<stroke_tree::Record>* leafEnd_ = nullptr;
+};
+
+inline StrokeList::Iterator StrokeList::begin() const { return {*this, 0}; }
+inline StrokeList::Iterator StrokeList::end() const { return {*this, size()}; }
 
 }  // namespace marlevo

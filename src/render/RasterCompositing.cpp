@@ -1,6 +1,5 @@
 #include "graphics/BitmapContext.h"
 #include "model/DrawingDocument.h"
-#include "platform/ImageCodec.h"
 #include "render/RasterSize.h"
 #include "render/StrokeGeometry.h"
 
@@ -85,8 +84,8 @@ void DrawingDocument::drawLayer(GraphicsContext& context, const Layer& layer, do
 
 void DrawingDocument::drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer,
                                               double height) const {
-    if (!layer.imageData || services_.imageCodec == nullptr) return;
-    const auto image = services_.imageCodec->decode(layer.imageData->span());
+    if (!layer.imageData) return;
+    const auto image = decodedImages_.image(*layer.imageData);
     if (!image) return;
     // The frame's origin lies `height` below the picture's upper edge, which a fractional canvas
     // overhangs at the bottom.

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "graphics/Polyline.h"
+
+namespace marlevo {
+
+/// Replaces `out` by the outline of `centerLine` drawn with a round pen `lineWidth` wide: all that
+/// is at most half of that away from the line, to be filled with the non-zero rule. A sub-path of
+/// length zero gives a disc.
+///
+/// Curves of the outline are flattened to `tolerance`, in the unit of the line, and points of the
+/// line closer together than a fraction of it are joined; where the outline is wider than some
+/// 100,000 times the tolerance the error grows with it. Coordinates of `out` may lie half a line
+/// width beyond FlattenedPath::maxCoordinate. A width that is not finite or not positive gives an
+/// empty outline.
+///
+/// How: each segment has a cell on each side of it, half the width high. On the outer side of a
+/// turn the cells of two segments end at their normals with a circle's sector between them; on the
+/// inner side they meet on the bisector, and a cell whose bisectors meet before half the width ends
+/// in their crossing. Where a segment is so short that a bisector would cut off more than it makes
+/// up for, the cells end at their normals there too and overlap; where a turn is so slight that the
+/// tolerance does not tell a corner from an arc, they meet on the bisector on both sides. Every
+/// point that the pen reaches is in the cell of the segment nearest to it, or in a sector or cap,
+/// and no cell turns backwards, so winding numbers inside are never 0 however tight the line turns.
+/// Borders between cells cancel; only the outer border of their sum is put out.
+void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double tolerance,
+                   FlattenedPath& out);
+
+}  // namespace marlevo

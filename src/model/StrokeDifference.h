@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/StrokeList.h"
+
+#include <vector>
+
+namespace marlevo {
+
+/// The strokes by which two versions of a list differ, each side in drawing order. A stroke that
+/// was replaced or modified is on both sides. The pointers are valid as long as their list is
+/// unchanged.
+struct StrokeDifference {
+    std::vector<const Stroke*> went;  ///< only in `before`
+    std::vector<const Stroke*> came;  ///< only in `after`
+
+    /// Takes time in proportion to what the lists do not share, wherever that lies; a stroke that
+    /// both hold is never reported, also when an erase has shifted it. Strokes are compared by
+    /// identity: two equal ones that were added separately differ.
+    static StrokeDifference between(const StrokeList& before, const StrokeList& after);
+};
+
+}  // namespace marlevo

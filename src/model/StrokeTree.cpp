@@ -1,0 +1,169 @@
+#include "model/StrokeTree.h"
+
+#include <algorithm>
+
+namespace marlevo::stroke_tree {
+
+namespace {
+
+/// Makes this owner the only one of the node, by a copy if need be. With every node above owned
+/// likewise, the node may then be changed.
+template <typename NodeType>
+NodeType& own(Ref<Node>& node) {
+    if (!node.isUnique()) node = Ref<NodeType>::make(static_cast<const NodeType&>(*node));
+    return static_cast<NodeType&>(*node);
+}
+
+template <typename T>
+void closeGap(std::array<Ref<T>, fanOut>& slots, std::size_t at, std::size_t size) {
+    std::move(slots.begin() + at + 1, slots.begin() + size, slots.begin() + at);
+    slots[size - 1] = {};
+}
+
+struct Place {
+    std::size_t child;
+    std::size_t index;  ///< within that child
+};
+
+Place findChild(const Branch& branch, std::size_t index) {
+    std::size_t child = 0;
+    while (index >= branch.children[child]->summary.count) {
+        index -= branch.children[child]->summary.count;
+        ++child;
+    }
+    return {child, index};
+}
+
+bool hasRoomForLeaf(const Node& node) {
+    if (node.isLeaf()) return false;
+    const Branch& branch = asBranch(node);
+    return branch.childCount < fanOut || hasRoomForLeaf(*branch.last());
+}
+
+Ref<Node> branchOver(Ref<Node> child) {
+    auto branch = Ref<Branch>::make(child->height + 1);
+    branch->append(std::move(child));
+    branch->summarise();
+    return branch;
+}
+
+void appendBelow(Ref<Node>& node, Ref<Node> leaf) {
+    Branch& branch = own<Branch>(node);
+    if (hasRoomForLeaf(*branch.last())) {
+        appendBelow(branch.last(), std::move(leaf));
+    } else {
+        while (leaf->height + 1 < branch.height)
+            leaf = branchOver(std::move(leaf));
+        branch.append(std::move(leaf));
+    }
+    branch.summarise();
+}
+
+void eraseBelow(Ref<Node>& node, std::size_t index) {
+    if (node->isLeaf()) {
+        Leaf& leaf = own<Leaf>(node);
+        leaf.erase(index);
+        leaf.summarise();
+        return;
+    }
+    Branch& branch = own<Branch>(node);
+    const Place place = findChild(branch, index);
+    Ref<Node>& child = branch.children[place.child];
+    eraseBelow(child, place.index);
+    if (child->summary.count == 0) branch.erase(place.child);
+    branch.summarise();
+}
+
+}  // namespace
+
+Leaf::Leaf(std::span<const Ref<Record>> initial) : Node(0), filled(initial.size()) {
+    std::ranges::copy(initial, slots.begin());
+}
+
+bool Leaf::appendAfter(std::size_t known, const Ref<Record>& record) {
+    // Two versions on two threads may both want the slot.
+    if (known == fanOut || !filled.compare_exchange_strong(known, known + 1)) return false;
+    slots[known] = record;
+    return true;
+}
+
+void Leaf::erase(std::size_t at) {
+    closeGap(slots, at, filled);
+    --filled;
+}
+
+void Leaf::truncate(std::size_t size) {
+    for (std::size_t at = size; at < filled; ++at)
+        slots[at] = {};
+    filled = size;
+}
+
+void Leaf::summarise() {
+    summary = {};
+    for (const Ref<Record>& record : records())
+        summary.add(StrokeSummary::of(record->stroke));
+}
+
+void Branch::erase(std::size_t at) {
+    closeGap(children, at, childCount);
+    --childCount;
+}
+
+void Branch::summarise() {
+    summary = {};
+    for (const Ref<Node>& child : nodes())
+        summary.add(child->summary);
+}
+
+std::span<const Ref<Record>> recordsFrom(const Node& root, std::size_t index) {
+    const Node* node = &root;
+    while (!node->isLeaf()) {
+        const Place place = findChild(asBranch(*node), index);
+        node = asBranch(*node).children[place.child].get();
+        index = place.index;
+    }
+    return asLeaf(*node).records().subspan(index);
+}
+
+void appendLeaf(Ref<Node>& root, Ref<Node> leaf) {
+    if (!root) {
+        root = std::move(leaf);
+        return;
+    }
+    if (!hasRoomForLeaf(*root)) root = branchOver(std::move(root));
+    appendBelow(root, std::move(leaf));
+}
+
+void erase(Ref<Node>& root, std::size_t index) {
+    eraseBelow(root, index);
+    if (root->summary.count == 0) {
+        root = {};
+        return;
+    }
+    while (!root->isLeaf() && asBranch(*root).childCount == 1) {
+        Ref<Node> child = asBranch(*root).last();
+        root = std::move(child);
+    }
+}
+
+void replace(Ref<Node>& root, std::size_t index, Stroke stroke) {
+    if (root->isLeaf()) {
+        Leaf& leaf = own<Leaf>(root);
+        replace(leaf.slots[index], std::move(stroke));
+        leaf.summarise();
+        return;
+    }
+    Branch& branch = own<Branch>(root);
+    const Place place = findChild(branch, index);
+    replace(branch.children[place.child], place.index, std::move(stroke));
+    branch.summarise();
+}
+
+void replace(Ref<Record>& record, Stroke stroke) {
+    if (record.isUnique())
+        record->stroke = std::move(stroke);
+    else
+        record = Ref<Record>::make(std::move(stroke));
+}
+
+}  // namespace marlevo::stroke_tree
