@@ -83,6 +83,14 @@ struct SharingDocument {
     DrawingDocument doc;
 };
 
+/// As after 199 fills, each of which makes a layer.
+struct LayeredDocument : SharingDocument {
+    LayeredDocument() {
+        for (int i = 0; i < 200; ++i)
+            doc.layers.modify([](LayerList& all) { all.push_back(Layer("")); });
+    }
+};
+
 /// The bytes of the strokes themselves, held in the program's own list without any history.
 std::size_t bytesOfStrokes(int count) {
     std::mt19937 random(1);
@@ -147,4 +155,6 @@ int main() {
         measure<SharingDocument>("sharing", count, 250);
     }
     measure<SharingDocument>("sharing", 100000, 1000);
+    std::printf("\nWith 200 layers:\n");
+    measure<LayeredDocument>("sharing", 20000, 1000);
 }

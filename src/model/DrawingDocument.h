@@ -4,7 +4,7 @@
 #include "graphics/RasterImage.h"
 #include "model/CanvasSize.h"
 #include "model/ExportFormat.h"
-#include "model/Layer.h"
+#include "model/LayerList.h"
 #include "model/Property.h"
 #include "platform/Services.h"
 
