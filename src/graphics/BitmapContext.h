@@ -47,4 +47,4 @@ private:
     std::unique_ptr<Rasterizer> rasterizer_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -17,4 +17,4 @@ inline constexpr Color black{0, 0, 0, 1};
 inline constexpr Color white{1, 1, 1, 1};
 inline constexpr Color clear{0, 0, 0, 0};
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -39,4 +39,4 @@ public:
     virtual void drawImage(const RasterImage& image, const Rect& rect) = 0;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -17,19 +17,19 @@ struct IntRect {
     bool isEmpty() const { return right <= left || bottom <= top; }
 
     IntRect intersectedWith(const IntRect& other) const {
-        return {std::max(left, other.left), std::max(top, other.top),
-                std::min(right, other.right), std::min(bottom, other.bottom)};
+        return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+                std::min(bottom, other.bottom)};
     }
 
     /// The smallest rectangle that holds both; an empty operand does not count.
     IntRect unitedWith(const IntRect& other) const {
         if (isEmpty()) return other;
         if (other.isEmpty()) return *this;
-        return {std::min(left, other.left), std::min(top, other.top),
-                std::max(right, other.right), std::max(bottom, other.bottom)};
+        return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
+                std::max(bottom, other.bottom)};
     }
 
     friend bool operator==(const IntRect&, const IntRect&) = default;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -11,11 +11,11 @@ namespace marlevo {
 class Path {
 public:
     enum class Kind : unsigned char {
-        move,     ///< starts a sub-path at `point`
-        line,     ///< straight line to `point`
-        quadCurve, ///< quadratic Bézier curve to `point`, bending towards `control`
-        rect,     ///< a closed rectangle: origin `point`, size `control`
-        ellipse,  ///< a closed ellipse inscribed in the rectangle: origin `point`, size `control`
+        move,       ///< starts a sub-path at `point`
+        line,       ///< straight line to `point`
+        quadCurve,  ///< quadratic Bézier curve to `point`, bending towards `control`
+        rect,       ///< a closed rectangle: origin `point`, size `control`
+        ellipse,    ///< a closed ellipse inscribed in the rectangle: origin `point`, size `control`
     };
 
     struct Element {
@@ -52,4 +52,4 @@ private:
     std::vector<Element> elements_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -26,4 +26,4 @@ struct PixelBuffer {
     }
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -10,4 +10,4 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -28,7 +28,8 @@ public:
     /// The four bytes of the pixel in column `x` of row `y`.
     std::span<const std::uint8_t, bytesPerPixel> pixel(int x, int y) const {
         const std::size_t at = (static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-                                static_cast<std::size_t>(x)) * bytesPerPixel;
+                                static_cast<std::size_t>(x)) *
+                               bytesPerPixel;
         return std::span<const std::uint8_t, bytesPerPixel>(bytes_->data() + at, bytesPerPixel);
     }
 
@@ -43,4 +44,4 @@ private:
     std::shared_ptr<const std::vector<std::uint8_t>> bytes_;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

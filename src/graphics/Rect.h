@@ -29,4 +29,4 @@ struct Rect {
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -11,4 +11,4 @@ struct Size {
     friend bool operator==(const Size&, const Size&) = default;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -16,7 +16,8 @@ DrawingDocument::DrawingDocument(const Services& services)
       zoom(changeRegistry_, 1.0), showGrid(changeRegistry_, false),
       exportFormat(changeRegistry_, ExportFormat::png), showExportPopover(changeRegistry_, false),
       currentFileURL(changeRegistry_, {}), undoStack(changeRegistry_, {}),
-      redoStack(changeRegistry_, {}), layerThumbnails(changeRegistry_, {}), services_(services) {}
+      redoStack(changeRegistry_, {}), layerThumbnails(changeRegistry_, {}), services_(services),
+      decodedImages_(services.imageCodec) {}
 
 DrawingDocument::~DrawingDocument() = default;
 

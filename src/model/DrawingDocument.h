@@ -3,6 +3,7 @@
 #include "graphics/GraphicsContext.h"
 #include "graphics/RasterImage.h"
 #include "model/CanvasSize.h"
+#include "model/DecodedImages.h"
 #include "model/ExportFormat.h"
 #include "model/LayerList.h"
 #include "model/Property.h"
@@ -75,6 +76,9 @@ public:
     ChangeRegistry& changeRegistry() { return changeRegistry_; }
     const Services& services() const { return services_; }
 
+    /// The decoded images of the layers; what it holds is no state of the document.
+    DecodedImages& decodedImages() const { return decodedImages_; }
+
     // ---- Layers and history (model/) ------------------------------------------------------------
     /// The layer that receives new strokes, or null when `activeLayerIndex` names none. Valid until
     /// the next change of `layers`.
@@ -130,10 +134,15 @@ private:
     void stepHistory(Source& source, Target& target);
 
     std::optional<RasterImage> renderForFill() const;
-    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
+
+    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
+    void drawLayers(GraphicsContext& context, double height) const;
+    void drawLayer(GraphicsContext& context, const Layer& layer, double height) const;
     void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
+    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
+    mutable DecodedImages decodedImages_;
 };
 
 }  // namespace marlevo

@@ -10,16 +10,16 @@ namespace marlevo {
 
 /// A kind of file that a panel offers.
 struct FileType {
-    std::string description;             ///< as shown in the panel, such as "PNG image"
+    std::string description;  ///< as shown in the panel, such as "PNG image"
     std::string mimeType;
-    std::vector<std::string> extensions; ///< without the dot; the first one is added when missing
+    std::vector<std::string> extensions;  ///< without the dot; the first one is added when missing
 };
 
 struct SavePanelRequest {
     std::string title;
     FileType fileType;
     std::string proposedName;
-    std::optional<std::filesystem::path> folder; ///< where to start; else the panel's own choice
+    std::optional<std::filesystem::path> folder;  ///< where to start; else the panel's own choice
 };
 
 /// The desktop's panels for choosing files, shown over one window without blocking it.
@@ -36,4 +36,4 @@ public:
     virtual void showSavePanel(const SavePanelRequest& request, Completion completion) = 0;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

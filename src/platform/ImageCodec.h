@@ -29,4 +29,4 @@ public:
     static constexpr std::int64_t maxDecodedPixels = std::int64_t{1} << 28;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

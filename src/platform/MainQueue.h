@@ -14,4 +14,4 @@ public:
     virtual void post(std::function<void()> work) = 0;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -14,4 +14,4 @@ struct Services {
     const ImageCodec* imageCodec = nullptr;
 };
 
-} // namespace marlevo
+}  // namespace marlevo

@@ -1,0 +1,23 @@
+# Shared by the scripts of this folder; to be sourced. Leaves the shell in the project's root.
+# shellcheck shell=bash
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+
+# build_preset <preset> [cmake options...]: configures (again only when needed) and builds.
+build_preset() {
+    local preset=$1
+    shift
+    local options=("$@")
+    if [ -n "${CI:-}" ]; then options+=(-DMARLEVO_WERROR=ON); fi
+    cmake --preset "$preset" "${options[@]}" >/dev/null
+    cmake --build --preset "$preset" -j "$(nproc)" -- --quiet
+}
+
+# with_display <command>...: runs the command on a virtual screen with a window manager.
+with_display() {
+    # shellcheck disable=SC2016
+    xvfb-run -a -s "-screen 0 1600x1000x24" bash -c '
+        openbox >/dev/null 2>&1 &
+        manager=$!
+        trap "kill $manager 2>/dev/null" EXIT
+        "$@"' with_display "$@"
+}

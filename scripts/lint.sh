@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Checks what a compiler does not: format, layering, shell scripts, and clang-tidy's findings.
+set -euo pipefail
+"$(dirname "$0")/setup.sh" build test lint
+. "$(dirname "$0")/common.sh"
+
+mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'fuzz/*.cpp')
+clang-format --dry-run --Werror "${sources[@]}"
+
+# A folder may include its own headers and those of the floors below it.
+below() {
+    case "$1" in
+        graphics)    echo 'graphics' ;;
+        platform)    echo 'graphics|platform' ;;
+        model)       echo 'graphics|platform|model' ;;
+        render)      echo 'graphics|platform|model|render' ;;
+        tools)       echo 'graphics|platform|model|render|tools' ;;
+        io)          echo 'graphics|platform|model|render|io' ;;
+        platform/qt) echo 'graphics|platform|platform/qt' ;;
+        *)           echo '.*' ;;
+    esac
+}
+failed=0
+for file in $(git ls-files 'src/*/*.h' 'src/*/*.cpp'); do
+    folder=${file#src/}
+    folder=${folder%/*}
+    if grep -nHE '^#include "' "$file" | grep -vE "#include \"($(below "$folder"))/[^/]+\""; then
+        echo "$file reaches above its layer ($folder)" >&2
+        failed=1
+    fi
+    case "$folder" in
+        platform/qt | ui) ;;
+        *) if grep -nHE '^#include <Q' "$file"; then
+               echo "$file uses Qt outside platform/qt and ui" >&2
+               failed=1
+           fi ;;
+    esac
+done
+[ $failed -eq 0 ]
+
+mapfile -t scripts < <(git ls-files 'scripts/*.sh' .ci/run)
+shellcheck -x -P scripts "${scripts[@]}"
+
+# The generated sources (moc) must exist before clang-tidy reads what includes them.
+build_preset release -DMARLEVO_TESTS=ON
+git ls-files 'src/*.cpp' | xargs -P "$(nproc)" -n 2 clang-tidy --quiet -p build/release 2>/dev/null
+echo "Lint: nothing to say."

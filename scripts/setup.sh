@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|fuzz|pictures]...
+# Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
+set -euo pipefail
+
+build=(g++ cmake ninja-build libhwy-dev qt6-base-dev qt6-image-formats-plugins)
+virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
+
+wanted=()
+for purpose in "${@:-build}"; do
+    case "$purpose" in
+        build) wanted+=("${build[@]}") ;;
+        run)   wanted+=("${build[@]}")
+               [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
+        test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev "${virtual_display[@]}") ;;
+        bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev pkg-config) ;;
+        pictures) wanted+=("${virtual_display[@]}" imagemagick) ;;
+        lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
+        fuzz)  wanted+=(cmake ninja-build libhwy-dev clang) ;;
+        *) echo "setup.sh: no purpose named '$purpose'" >&2; exit 2 ;;
+    esac
+done
+
+installed=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' 2>/dev/null | sed -n 's/^ii *//p')
+missing=()
+for package in "${wanted[@]}"; do
+    grep -qxF "$package" <<<"$installed" || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+sudo=()
+if [ "$(id -u)" -ne 0 ]; then sudo=(sudo); fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${sudo[@]}" apt-get update -qq
+"${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

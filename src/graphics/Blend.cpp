@@ -1,0 +1,118 @@
+#include "graphics/Blend.h"
+
+#include <algorithm>
+#include <cmath>
+
+// Compiles this file once for each instruction set; must come before what includes Highway.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "graphics/Blend.cpp"
+#include <hwy/foreach_target.h>
+// After foreach_target.h, which says what to compile it for.
+#include "graphics/BlendVector-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace marlevo::HWY_NAMESPACE {
+
+#if HWY_TARGET != HWY_SCALAR
+
+/// Blends as many whole vectors as there are and returns the number of pixels done.
+std::size_t blendCoveredVectors(std::uint8_t* HWY_RESTRICT pixels,
+                                const std::uint8_t* HWY_RESTRICT coverage, std::size_t count,
+                                PackedColor packed) {
+    const hn::ScalableTag<std::uint32_t> d32;
+    const hn::Repartition<std::uint16_t, decltype(d32)> d16;
+    const hn::Repartition<std::uint8_t, decltype(d32)> dBytes;
+    const hn::Rebind<std::uint8_t, decltype(d32)> dCoverage;
+    const auto color = spread(d32, loadPixelOfColor(d32, packed));
+    const auto alpha = hn::Set(d16, packed.alpha);
+
+    const std::size_t lanes = hn::Lanes(d32);
+    std::size_t done = 0;
+    for (; done + lanes <= count; done += lanes) {
+        const auto below = hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * done));
+        const auto cover = hn::PromoteTo(d32, hn::LoadU(dCoverage, coverage + done));
+        const auto blended = blendPixels(d32, below, cover, color, alpha);
+        hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + 4 * done);
+    }
+    return done;
+}
+
+/// As blendCoveredVectors for full coverage, where the colour needs no product.
+std::size_t blendSolidVectors(std::uint8_t* pixels, std::size_t count, PackedColor packed) {
+    const hn::ScalableTag<std::uint32_t> d32;
+    const hn::Repartition<std::uint16_t, decltype(d32)> d16;
+    const hn::Repartition<std::uint8_t, decltype(d32)> dBytes;
+    const auto color = loadPixelOfColor(d32, packed);
+    const auto keep = hn::Set(d16, static_cast<std::uint16_t>(255 - packed.alpha));
+
+    const std::size_t lanes = hn::Lanes(d32);
+    std::size_t done = 0;
+    for (; done + lanes <= count; done += lanes) {
+        const auto below = spread(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * done)));
+        const auto even = hn::BitCast(d32, mulDiv255(d16, below.even, keep));
+        const auto odd = hn::BitCast(d32, mulDiv255(d16, below.odd, keep));
+        // No byte overflows into the next: colour ≤ alpha, and at most 255 − alpha is kept.
+        const auto blended = hn::Add(color, hn::Or(even, hn::ShiftLeft<8>(odd)));
+        hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + 4 * done);
+    }
+    return done;
+}
+
+#else
+
+std::size_t blendCoveredVectors(std::uint8_t*, const std::uint8_t*, std::size_t, PackedColor) {
+    return 0;
+}
+std::size_t blendSolidVectors(std::uint8_t*, std::size_t, PackedColor) { return 0; }
+
+#endif
+
+}  // namespace marlevo::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace marlevo {
+
+HWY_EXPORT(blendCoveredVectors);
+HWY_EXPORT(blendSolidVectors);
+
+namespace {
+
+double clampedToUnit(double value) { return value > 0 ? std::min(value, 1.0) : 0; }
+
+std::uint8_t toByte(double unit) { return static_cast<std::uint8_t>(std::lround(unit * 255)); }
+
+}  // namespace
+
+PackedColor packColor(const Color& color, double alpha, PixelOrder order) {
+    const double opacity = clampedToUnit(color.alpha) * clampedToUnit(alpha);
+    const std::uint8_t a = toByte(opacity);
+    const std::uint8_t r = toByte(clampedToUnit(color.red) * opacity);
+    const std::uint8_t g = toByte(clampedToUnit(color.green) * opacity);
+    const std::uint8_t b = toByte(clampedToUnit(color.blue) * opacity);
+    switch (order) {
+    case PixelOrder::argb:
+        return {{a, r, g, b}, a};
+    case PixelOrder::bgra:
+        break;
+    }
+    return {{b, g, r, a}, a};
+}
+
+void blendSpan(std::uint8_t* pixels, const std::uint8_t* coverage, std::size_t count,
+               PackedColor color) {
+    if (color.alpha == 0) return;
+    std::size_t i = HWY_DYNAMIC_DISPATCH(blendCoveredVectors)(pixels, coverage, count, color);
+    for (; i < count; ++i)
+        blendPixel(pixels + 4 * i, color, coverage[i]);
+}
+
+void blendSolid(std::uint8_t* pixels, std::size_t count, PackedColor color) {
+    if (color.alpha == 0) return;
+    std::size_t i = HWY_DYNAMIC_DISPATCH(blendSolidVectors)(pixels, count, color);
+    for (; i < count; ++i)
+        blendPixel(pixels + 4 * i, color, 255);
+}
+
+}  // namespace marlevo
+#endif

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "graphics/Color.h"
+#include "graphics/PixelBuffer.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace marlevo {
+
+/// A premultiplied colour as a pixel's four bytes in memory.
+struct PackedColor {
+    std::array<std::uint8_t, 4> bytes{};
+    std::uint8_t alpha = 0;  ///< one of `bytes`
+
+    friend bool operator==(const PackedColor&, const PackedColor&) = default;
+};
+
+/// The colour at `alpha` times its own alpha, each byte the nearest to its exact value.
+/// Components and alphas are clamped to 0 … 1; one that is not a number counts as 0.
+PackedColor packColor(const Color& color, double alpha, PixelOrder order);
+
+/// a · b / 255 for a and b from 0 to 255, rounded to nearest.
+constexpr std::uint8_t mulDiv255(unsigned a, unsigned b) {
+    return static_cast<std::uint8_t>((a * b + 128) * 257 >> 16);
+}
+
+/// Source-over for one byte of a premultiplied pixel: byte · (1 − alpha · coverage) + color ·
+/// coverage, each product rounded to nearest. It is the same for the colours and for alpha, so the
+/// order of a pixel's bytes does not matter here.
+constexpr std::uint8_t blendByte(std::uint8_t byte, std::uint8_t color, std::uint8_t alpha,
+                                 std::uint8_t coverage) {
+    const unsigned keep = 255U - mulDiv255(alpha, coverage);
+    return static_cast<std::uint8_t>(mulDiv255(color, coverage) + mulDiv255(byte, keep));
+}
+
+inline void blendPixel(std::uint8_t* pixel, PackedColor color, std::uint8_t coverage) {
+    for (std::size_t i = 0; i < color.bytes.size(); ++i) {
+        pixel[i] = blendByte(pixel[i], color.bytes[i], color.alpha, coverage);
+    }
+}
+
+/// Blends `color` onto `count` pixels, each with its own coverage.
+void blendSpan(std::uint8_t* pixels, const std::uint8_t* coverage, std::size_t count,
+               PackedColor color);
+
+/// Blends `color` onto `count` pixels, all fully covered.
+void blendSolid(std::uint8_t* pixels, std::size_t count, PackedColor color);
+
+}  // namespace marlevo

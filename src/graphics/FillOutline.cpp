@@ -1,0 +1,180 @@
+#include "graphics/FillOutline.h"
+
+#include "graphics/CoverageBand.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace marlevo {
+
+namespace {
+
+constexpr double limit = FlattenedPath::maxCoordinate;
+
+/// Cells a band holds at most (unless one row is longer): few enough to stay in the cache.
+constexpr int bandCells = 1 << 16;
+
+/// The edges of an outline that can matter in an area, filed by the band in which they begin.
+class EdgeTable {
+public:
+    /// Takes what the outline covers of `area`; returns false when that is nothing.
+    bool build(const FlattenedPath& outline, const IntRect& area);
+
+    void blend(const PixelBuffer& target, PackedColor color);
+
+private:
+    struct Entry {
+        OutlineEdge edge;
+        std::int32_t next;  ///< of the same band
+    };
+    static constexpr std::int32_t none = -1;
+
+    void addSegment(Point from, Point to);
+    void addClippedSegment(Point from, Point to);
+    void addEdge(Point from, Point to);
+    std::int32_t& bandOf(std::int32_t y) {
+        const int row = std::max(y >> CoverageBand::subpixelBits, box_.top) - box_.top;
+        return bandHeads_[static_cast<std::size_t>(row / bandRows_)];
+    }
+
+    IntRect box_;
+    int bandRows_ = 1;
+    std::vector<Entry> entries_;
+    std::vector<std::int32_t> bandHeads_;
+    CoverageBand band_;
+};
+
+bool isWithinLimit(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
+
+bool isFinite(std::span<const Point> points) {
+    return std::all_of(points.begin(), points.end(),
+                       [](Point p) { return std::isfinite(p.x) && std::isfinite(p.y); });
+}
+
+std::int32_t toSubpixels(double v) {
+    // Truncation of a positive number is a floor, and a machine instruction.
+    constexpr std::int64_t bias = std::int64_t{1} << 32;
+    return static_cast<std::int32_t>(
+        static_cast<std::int64_t>(v * CoverageBand::subpixels + (double(bias) + 0.5)) - bias);
+}
+
+/// The pixels of `area` that the outline's bounding box touches.
+IntRect coveredBox(const FlattenedPath& outline, const IntRect& area) {
+    double minX = limit, minY = limit, maxX = -limit, maxY = -limit;
+    for (const auto& part : outline.subPaths) {
+        for (const Point p : outline.pointsOf(part)) {
+            minX = std::min(minX, p.x);
+            minY = std::min(minY, p.y);
+            maxX = std::max(maxX, p.x);
+            maxY = std::max(maxY, p.y);
+        }
+    }
+    const auto toInt = [](double v) { return static_cast<int>(std::clamp(v, -limit, limit)); };
+    return area.intersectedWith({toInt(std::floor(minX)), toInt(std::floor(minY)),
+                                 toInt(std::floor(maxX) + 1), toInt(std::floor(maxY) + 1)});
+}
+
+bool EdgeTable::build(const FlattenedPath& outline, const IntRect& area) {
+    box_ = coveredBox(outline, area);
+    if (box_.isEmpty()) return false;
+
+    bandRows_ = std::clamp(bandCells / box_.width(), 1, box_.height());
+    entries_.clear();
+    bandHeads_.assign(static_cast<std::size_t>((box_.height() + bandRows_ - 1) / bandRows_), none);
+    for (const auto& part : outline.subPaths) {
+        const auto points = outline.pointsOf(part);
+        if (points.size() < 2 || !isFinite(points)) continue;
+        Point from = points.back();
+        for (const Point to : points) {
+            addSegment(from, to);
+            from = to;
+        }
+    }
+    return !entries_.empty();
+}
+
+void EdgeTable::addSegment(Point from, Point to) {
+    if (isWithinLimit(from) && isWithinLimit(to))
+        addEdge(from, to);
+    else
+        addClippedSegment(from, to);
+}
+
+/// Cuts the segment at the upper and lower limit, and lets it follow the left and right one.
+void EdgeTable::addClippedSegment(Point from, Point to) {
+    const auto cut = [&](double t) {
+        // Weighting both ends does not overflow where their difference would.
+        return Point{from.x * (1 - t) + to.x * t, from.y * (1 - t) + to.y * t};
+    };
+    const auto crossing = [](double a, double b, double at) {
+        // Halves, again so that the difference of two huge numbers stays finite.
+        return std::clamp((at / 2 - a / 2) / (b / 2 - a / 2), 0.0, 1.0);
+    };
+    if (std::max(from.y, to.y) <= -limit || std::min(from.y, to.y) >= limit) return;
+
+    double cuts[6] = {0, 1};
+    int count = 2;
+    for (const double at : {-limit, limit}) {
+        if ((from.y < at) != (to.y < at)) cuts[count++] = crossing(from.y, to.y, at);
+        if ((from.x < at) != (to.x < at)) cuts[count++] = crossing(from.x, to.x, at);
+    }
+    std::sort(cuts, cuts + count);
+    const auto moved = [](Point p) {
+        return Point{std::clamp(p.x, -limit, limit), std::clamp(p.y, -limit, limit)};
+    };
+    Point last = moved(from);
+    for (int i = 1; i < count; ++i) {
+        const Point next = i + 1 == count ? moved(to) : moved(cut(cuts[i]));
+        addEdge(last, next);
+        last = next;
+    }
+}
+
+void EdgeTable::addEdge(Point from, Point to) {
+    OutlineEdge edge{toSubpixels(from.x), toSubpixels(from.y), toSubpixels(to.x), toSubpixels(to.y),
+                     1};
+    if (edge.y0 == edge.y1) return;
+    if (edge.y0 > edge.y1) {
+        std::swap(edge.x0, edge.x1);
+        std::swap(edge.y0, edge.y1);
+        edge.winding = -1;
+    }
+    constexpr int one = CoverageBand::subpixels;
+    if (edge.y1 <= box_.top * one || edge.y0 >= box_.bottom * one ||
+        std::min(edge.x0, edge.x1) >= box_.right * one)
+        return;
+    std::int32_t& head = bandOf(edge.y0);
+    entries_.push_back({edge, head});
+    head = static_cast<std::int32_t>(entries_.size() - 1);
+}
+
+void EdgeTable::blend(const PixelBuffer& target, PackedColor color) {
+    for (std::size_t i = 0; i < bandHeads_.size(); ++i) {
+        IntRect part = box_;
+        part.top = box_.top + static_cast<int>(i) * bandRows_;
+        part.bottom = std::min(part.top + bandRows_, box_.bottom);
+        band_.reset(part);
+        for (std::int32_t at = bandHeads_[i]; at != none;) {
+            Entry& entry = entries_[static_cast<std::size_t>(at)];
+            band_.add(entry.edge);
+            const std::int32_t next = entry.next;
+            if (entry.edge.y1 > part.bottom * CoverageBand::subpixels &&
+                i + 1 < bandHeads_.size()) {
+                entry.next = bandHeads_[i + 1];
+                bandHeads_[i + 1] = at;
+            }
+            at = next;
+        }
+        band_.blendInto(target, color);
+    }
+}
+
+}  // namespace
+
+void fillOutline(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color) {
+    // Kept between calls for its memory only.
+    thread_local EdgeTable table;
+    if (table.build(outline, target.area)) table.blend(target, color);
+}
+
+}  // namespace marlevo

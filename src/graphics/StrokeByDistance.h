@@ -1,0 +1,26 @@
+#pragma once
+
+#include "graphics/Blend.h"
+#include "graphics/PixelBuffer.h"
+#include "graphics/Polyline.h"
+
+namespace marlevo {
+
+/// Draws the polyline with a round pen `deviceWidth` pixels wide.
+///
+/// A stroke with round caps and joins is the set of points within half a width of its polyline. The
+/// coverage of a pixel follows from the distance of its centre to the nearest segment; the minimum
+/// does not depend on the order of segments, so self-crossings are not darker and a stroke drawn
+/// piece by piece into one distance field has the bytes of one drawn at once. Each pixel gets the
+/// same bytes whatever part of the plane `target` is.
+///
+/// Costs grow with length · width: meant for pens of up to `maxWidthByDistance`. A pen thinner than
+/// a pixel draws as one of a pixel, lighter in proportion. A width that is not positive draws
+/// nothing.
+void strokeByDistance(const FlattenedPath& path, double deviceWidth, const PixelBuffer& target,
+                      PackedColor color);
+
+/// Above this width, in device pixels, filling the outline of the stroke is faster.
+inline constexpr double maxWidthByDistance = 20;
+
+}  // namespace marlevo

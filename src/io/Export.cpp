@@ -1,0 +1,67 @@
+#include "io/FileTypes.h"
+#include "model/DrawingDocument.h"
+#include "platform/FilePanels.h"
+#include "platform/ImageCodec.h"
+
+#include <cstdint>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace marlevo {
+
+namespace {
+
+std::optional<ImageCodec::Format> rasterFormat(ExportFormat format) {
+    switch (format) {
+    case ExportFormat::png:
+        return ImageCodec::Format::png;
+    case ExportFormat::jpeg:
+        return ImageCodec::Format::jpeg;
+    case ExportFormat::tiff:
+        return ImageCodec::Format::tiff;
+    case ExportFormat::bmp:
+        return ImageCodec::Format::bmp;
+    case ExportFormat::pdf:
+        break;
+    }
+    return std::nullopt;
+}
+
+/// A side of the canvas as it stands in a file name. Beyond the integers there is no such number:
+/// those read as 0.
+std::string wholeNumber(double value) {
+    const bool fits = value > -0x1p63 && value < 0x1p63;
+    return std::to_string(fits ? static_cast<std::int64_t>(value) : 0);
+}
+
+std::string proposedName(CanvasSize size, const FileType& type) {
+    return "Drawing-" + wholeNumber(size.width) + "x" + wholeNumber(size.height) + "." +
+           type.extensions.front();
+}
+
+}  // namespace
+
+void DrawingDocument::exportTo(const std::filesystem::path& file, ExportFormat format) {
+    const auto encoding = rasterFormat(format);
+    if (!encoding || services_.imageCodec == nullptr) return;
+    const auto image = renderCGImage();
+    if (!image) return;
+    const auto bytes = services_.imageCodec->encode(*image, *encoding);
+    if (!bytes) return;
+    std::ofstream(file, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes->data()),
+               static_cast<std::streamsize>(bytes->size()));
+}
+
+void DrawingDocument::performExport(ExportFormat format) {
+    if (services_.filePanels == nullptr) return;
+    const FileType type = fileType(format);
+    services_.filePanels->showSavePanel(
+        {"Export Drawing", type, proposedName(canvasSize, type), std::nullopt},
+        [this, format](const std::optional<std::filesystem::path>& file) {
+            if (file) exportTo(*file, format);
+        });
+}
+
+}  // namespace marlevo

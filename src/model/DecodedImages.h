@@ -1,0 +1,43 @@
+#pragma once
+
+#include "graphics/RasterImage.h"
+#include "model/Bytes.h"
+#include "model/Layer.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace marlevo {
+
+class ImageCodec;
+
+/// The pixels of the image files that a picture is being drawn with, so that a redraw does not
+/// decode them again. Which files it holds shows in nothing but time.
+class DecodedImages {
+public:
+    /// The most that is kept. A single picture beyond it is decoded at each use.
+    static constexpr std::size_t maxBytes = std::size_t{512} << 20;
+
+    /// Without a codec no file is an image.
+    explicit DecodedImages(const ImageCodec* codec) : codec_(codec) {}
+
+    /// The picture in the file, sharing its pixels; nothing when it cannot be decoded.
+    std::optional<RasterImage> image(const Bytes& file);
+
+    /// Lets go of every file that no visible layer of the list uses.
+    void keepOnly(const LayerList& layers);
+
+private:
+    struct Entry {
+        Bytes file;
+        std::optional<RasterImage> image;
+
+        std::size_t size() const { return image ? image->bytes().size() : 0; }
+    };
+
+    const ImageCodec* codec_;
+    std::vector<Entry> entries_;  ///< most recently used last
+};
+
+}  // namespace marlevo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/FilePanels.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace marlevo {
+
+class SavePanel;
+
+/// The file panels of one window, shown over it. Panels still open when this object goes away are
+/// closed without an answer.
+class QtFilePanels final : public FilePanels {
+public:
+    /// The window must outlive this object.
+    explicit QtFilePanels(QWidget& window);
+    ~QtFilePanels() override;
+    QtFilePanels(const QtFilePanels&) = delete;
+    QtFilePanels& operator=(const QtFilePanels&) = delete;
+
+    /// While a panel is open a further request is answered as cancelled.
+    void showSavePanel(const SavePanelRequest& request, Completion completion) override;
+
+private:
+    QWidget& window_;
+    QPointer<SavePanel> open_;
+};
+
+}  // namespace marlevo

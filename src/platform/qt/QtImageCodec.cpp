@@ -1,0 +1,109 @@
+#include "platform/qt/QtImageCodec.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QPainter>
+#include <QtEndian>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int jpegQuality = 90;
+
+// QRgb is 0xAARRGGBB: its big-endian bytes are ours.
+RasterImage rasterFrom(const QImage& image) {
+    const auto width = static_cast<std::size_t>(image.width());
+    std::vector<std::uint8_t> bytes(width * static_cast<std::size_t>(image.height()) *
+                                    RasterImage::bytesPerPixel);
+    std::uint8_t* row = bytes.data();
+    for (int y = 0; y < image.height(); ++y, row += width * RasterImage::bytesPerPixel)
+        qToBigEndian<quint32>(image.constScanLine(y), image.width(), row);
+    return {image.width(), image.height(), std::move(bytes)};
+}
+
+/// Null when there is no memory for it.
+QImage qImageFrom(const RasterImage& raster) {
+    QImage image(raster.width(), raster.height(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) return image;
+    const std::size_t rowBytes =
+        static_cast<std::size_t>(raster.width()) * RasterImage::bytesPerPixel;
+    const std::uint8_t* row = raster.bytes().data();
+    for (int y = 0; y < raster.height(); ++y, row += rowBytes)
+        qFromBigEndian<quint32>(row, raster.width(), image.scanLine(y));
+    return image;
+}
+
+QImage onWhite(const QImage& image) {
+    QImage flat(image.size(), QImage::Format_RGB32);
+    if (flat.isNull()) return flat;
+    flat.fill(Qt::white);
+    QPainter(&flat).drawImage(0, 0, image);
+    return flat;
+}
+
+bool exceedsLimit(QSize size) {
+    return std::int64_t{size.width()} * size.height() > ImageCodec::maxDecodedPixels;
+}
+
+}  // namespace
+
+QtImageCodec::QtImageCodec() {
+    constexpr std::int64_t bytes = maxDecodedPixels * std::int64_t{RasterImage::bytesPerPixel};
+    QImageReader::setAllocationLimit(static_cast<int>(bytes >> 20));
+}
+
+std::optional<RasterImage> QtImageCodec::decode(std::span<const std::uint8_t> file) const {
+    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
+                                               static_cast<qsizetype>(file.size()));
+    QBuffer device(&bytes);
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    // From the file's header, before there is memory for a pixel. Where a format does not tell, the
+    // allocation limit holds.
+    if (exceedsLimit(reader.size())) return std::nullopt;
+
+    QImage image = reader.read();
+    if (image.isNull() || exceedsLimit(image.size())) return std::nullopt;
+    if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace::SRgb)
+        image.convertToColorSpace(QColorSpace::SRgb);
+    image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) return std::nullopt;
+    return rasterFrom(image);
+}
+
+std::optional<std::vector<std::uint8_t>> QtImageCodec::encode(const RasterImage& raster,
+                                                              Format format) const {
+    QBuffer device;
+    QImageWriter writer;
+    writer.setDevice(&device);
+    QImage image = qImageFrom(raster);
+    switch (format) {
+    case Format::png:
+        writer.setFormat("png");
+        image.convertTo(QImage::Format_ARGB32);
+        break;
+    case Format::jpeg:
+        writer.setFormat("jpeg");
+        writer.setQuality(jpegQuality);
+        image = onWhite(image);
+        break;
+    case Format::tiff:
+        writer.setFormat("tiff");
+        image.convertTo(QImage::Format_ARGB32);
+        break;
+    case Format::bmp:
+        writer.setFormat("bmp");
+        image = onWhite(image);
+        break;
+    }
+    if (image.isNull() || !writer.write(image)) return std::nullopt;
+    const QByteArray& file = device.data();
+    return std::vector<std::uint8_t>(file.begin(), file.end());
+}
+
+}  // namespace marlevo

@@ -1,0 +1,34 @@
+#include "render/Grid.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace marlevo {
+
+namespace {
+
+/// Calls `line` with the position of each grid line in 0 … end that may touch from … to. Positions
+/// are multiples taken anew each time, so that they do not drift.
+template <typename Line>
+void forEachPosition(double end, double from, double to, Line line) {
+    const double first = std::max(0.0, std::ceil((from - gridLineWidth) / gridSpacing));
+    const double last = std::floor(std::min(end, to + gridLineWidth) / gridSpacing);
+    for (double k = first; k <= last; ++k)
+        line(k * gridSpacing);
+}
+
+}  // namespace
+
+Path gridPath(CanvasSize canvas, const Rect& visible) {
+    Path path;
+    constexpr double half = gridLineWidth / 2;
+    forEachPosition(canvas.width, visible.minX(), visible.maxX(), [&](double x) {
+        path.addRect({{x - half, 0}, {gridLineWidth, canvas.height}});
+    });
+    forEachPosition(canvas.height, visible.minY(), visible.maxY(), [&](double y) {
+        path.addRect({{0, y - half}, {canvas.width, gridLineWidth}});
+    });
+    return path;
+}
+
+}  // namespace marlevo

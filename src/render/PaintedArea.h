@@ -1,0 +1,31 @@
+#pragma once
+
+#include "graphics/IntRect.h"
+#include "graphics/Rect.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace marlevo {
+
+/// What a pen may touch beyond half its width, in device pixels: anti-aliasing, and hairlines,
+/// which are drawn wider than they are.
+inline constexpr double penFringe = 1.5;
+
+/// The device pixels that may change when something with these point bounds and pen width is drawn
+/// at `scale` device pixels a canvas pixel. Bounds that are no numbers may change everything.
+inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {
+    constexpr double farthest = 1 << 30;
+    const double margin = std::max(lineWidth, 0.0) / 2 * scale + penFringe;
+    const auto low = [&](double edge) {
+        const double device = std::floor(edge * scale - margin);
+        return device > -farthest ? static_cast<int>(std::min(device, farthest)) : -(1 << 30);
+    };
+    const auto high = [&](double edge) {
+        const double device = std::ceil(edge * scale + margin);
+        return device < farthest ? static_cast<int>(std::max(device, -farthest)) : 1 << 30;
+    };
+    return {low(bounds.minX()), low(bounds.minY()), high(bounds.maxX()), high(bounds.maxY())};
+}
+
+}  // namespace marlevo

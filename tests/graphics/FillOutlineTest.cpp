@@ -1,0 +1,179 @@
+#include "graphics/FillOutline.h"
+
+#include "tests/graphics/Supersampling.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <numbers>
+#include <random>
+
+namespace marlevo {
+namespace {
+
+const PackedColor opaque = packColor(black, 1, PixelOrder::argb);
+
+Canvas filled(const FlattenedPath& outline, int width, int height) {
+    Canvas canvas(width, height);
+    fillOutline(outline, canvas.buffer(), opaque);
+    return canvas;
+}
+
+double coveredArea(Canvas& canvas, const IntRect& area) {
+    double sum = 0;
+    for (int y = area.top; y < area.bottom; ++y)
+        for (int x = area.left; x < area.right; ++x)
+            sum += canvas.alpha(x, y) / 255.0;
+    return sum;
+}
+
+FlattenedPath polygon(const std::vector<Point>& points) {
+    FlattenedPath path;
+    addPolygon(path, points);
+    return path;
+}
+
+FlattenedPath circle(Point center, double radius, int corners) {
+    std::vector<Point> points;
+    for (int i = 0; i < corners; ++i) {
+        const double angle = 2 * std::numbers::pi * i / corners;
+        points.push_back(
+            {center.x + radius * std::cos(angle), center.y + radius * std::sin(angle)});
+    }
+    return polygon(points);
+}
+
+FlattenedPath scribble(std::mt19937& random, int corners, double extent, double step) {
+    std::uniform_real_distribution<double> start(0, extent);
+    std::normal_distribution<double> move(0, step);
+    std::vector<Point> points{{start(random), start(random)}};
+    while (int(points.size()) < corners)
+        points.push_back({points.back().x + move(random), points.back().y + move(random)});
+    return polygon(points);
+}
+
+TEST(FillOutline, CoversEachPixelByItsExactArea) {
+    Canvas rect = filled(polygon({{1.25, 2.5}, {3.5, 2.5}, {3.5, 4}, {1.25, 4}}), 6, 6);
+    EXPECT_EQ(rect.alpha(1, 2), 96);  // 0.75 × 0.5
+    EXPECT_EQ(rect.alpha(2, 2), 128);
+    EXPECT_EQ(rect.alpha(3, 3), 128);
+    EXPECT_EQ(rect.alpha(2, 3), 255);
+    EXPECT_EQ(rect.alpha(0, 3), 0);
+    EXPECT_EQ(rect.alpha(4, 3), 0);
+    EXPECT_EQ(rect.alpha(2, 4), 0);
+
+    // A gentle slope: its share of each pixel of the row grows evenly.
+    Canvas wedge = filled(polygon({{0, 1}, {10, 0}, {10, 1}}), 10, 1);
+    for (int x = 0; x < 10; ++x)
+        EXPECT_NEAR(wedge.alpha(x, 0), 255 * (x + 0.5) / 10, 1);
+
+    for (const double radius : {0.3, 2.7, 40.2}) {
+        Canvas disc = filled(circle({50.3, 49.6}, radius, 400), 100, 100);
+        const double area = std::numbers::pi * radius * radius;
+        EXPECT_NEAR(coveredArea(disc, {0, 0, 100, 100}), area, 0.01 * area + 0.01);
+    }
+}
+
+TEST(FillOutline, FollowsTheNonZeroRule) {
+    // The inner square is filled whichever way it turns unless it turns against the outer one.
+    const std::vector<Point> outer{{1, 1}, {19, 1}, {19, 19}, {1, 19}};
+    const std::vector<Point> inner{{5, 5}, {15, 5}, {15, 15}, {5, 15}};
+    FlattenedPath same = polygon(outer);
+    addPolygon(same, inner);
+    EXPECT_EQ(filled(same, 20, 20).alpha(10, 10), 255);
+    FlattenedPath hole = polygon(outer);
+    addPolygon(hole, {inner.rbegin(), inner.rend()});
+    Canvas ring = filled(hole, 20, 20);
+    EXPECT_EQ(ring.alpha(10, 10), 0);
+    EXPECT_EQ(ring.alpha(3, 10), 255);
+    EXPECT_EQ(ring.alpha(17, 10), 255);
+}
+
+TEST(FillOutline, ClosesOpenSubPathsAndIgnoresWhatHasNoArea) {
+    FlattenedPath path;
+    addPolygon(path, {{2, 2}, {8, 2}, {8, 8}}, false);
+    addPolygon(path, {{12, 3}, {18, 9}}, false);
+    addPolygon(path, {{5, 15}}, false);
+    Canvas canvas = filled(path, 20, 20);
+    EXPECT_EQ(canvas.alpha(6, 3), 255);
+    EXPECT_EQ(canvas.alpha(3, 6), 0);
+    EXPECT_NEAR(coveredArea(canvas, {0, 0, 20, 20}), 18, 0.1);
+}
+
+TEST(FillOutline, AgreesWithSupersampledTruth) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 6; ++round) {
+        const FlattenedPath outline =
+            round < 3 ? scribble(random, 12, 60, 15) : scribble(random, 100, 60, 6);
+        Canvas canvas = filled(outline, 64, 64);
+        double difference = 0;
+        for (int y = 0; y < 64; ++y) {
+            for (int x = 0; x < 64; ++x) {
+                const double truth =
+                    supersampled(x, y, 8, [&](Point p) { return windingNumber(outline, p) != 0; });
+                difference += std::abs(canvas.alpha(x, y) - 255 * truth);
+            }
+        }
+        EXPECT_LT(difference / (64 * 64), 1.2) << "outline " << round;
+    }
+}
+
+TEST(FillOutline, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
+    std::mt19937 random(11);
+    for (int round = 0; round < 40; ++round) {
+        const int width = 300;
+        const int height = 260;
+        FlattenedPath outline = scribble(random, 60, 260, round % 2 ? 8 : 200);
+        for (Point& p : outline.points)
+            p.x -= 20;
+        Canvas whole = filled(outline, width, height);
+
+        Canvas parts(width, height);
+        std::uniform_int_distribution<int> size(1, 120);
+        for (int top = 0; top < height;) {
+            const int bottom = std::min(height, top + size(random));
+            for (int left = 0; left < width;) {
+                const int right = std::min(width, left + size(random));
+                fillOutline(outline, parts.part({left, top, right, bottom}), opaque);
+                left = right;
+            }
+            top = bottom;
+        }
+        ASSERT_EQ(whole.bytes(), parts.bytes()) << "outline " << round;
+    }
+}
+
+TEST(FillOutline, EndsBandsAtTheSamePixelsOnWidePictures) {
+    // So wide that a band holds few rows, and edges go on from band to band.
+    const FlattenedPath outline = polygon({{10, 3}, {29000, 40}, {15000, 77}});
+    Canvas canvas = filled(outline, 30000, 80);
+    for (int y = 0; y < 80; y += 7) {
+        for (int x = 500; x < 30000; x += 1370) {
+            const double truth =
+                supersampled(x, y, 16, [&](Point p) { return windingNumber(outline, p) != 0; });
+            ASSERT_NEAR(canvas.alpha(x, y), 255 * truth, 18) << x << ", " << y;
+        }
+    }
+}
+
+TEST(FillOutline, SurvivesCoordinatesOfAnySize) {
+    const double inf = std::numeric_limits<double>::infinity();
+    for (const double far : {1e5, 4194304.0, 1e7, 1e12, 1e300, 1.7e308}) {
+        // The diagonal passes through the middle of the picture.
+        Canvas canvas = filled(polygon({{-far, -far}, {far, far}, {-far, far}}), 40, 40);
+        EXPECT_EQ(canvas.alpha(5, 30), 255) << far;
+        EXPECT_EQ(canvas.alpha(30, 5), 0) << far;
+        EXPECT_NEAR(canvas.alpha(20, 20), 128, 8) << far;
+
+        Canvas all = filled(polygon({{-far, -far}, {far, -far}, {far, far}, {-far, far}}), 40, 40);
+        EXPECT_NEAR(coveredArea(all, {0, 0, 40, 40}), 1600, 0) << far;
+    }
+    FlattenedPath path = polygon({{0, 0}, {inf, 3}, {5, 5}});
+    addPolygon(path, {{0, 0}, {std::nan(""), 3}, {5, 5}});
+    addPolygon(path, {{10, 10}, {20, 10}, {20, 20}, {10, 20}});
+    Canvas canvas = filled(path, 40, 40);
+    EXPECT_EQ(coveredArea(canvas, {0, 0, 40, 40}), 100);
+}
+
+}  // namespace
+}  // namespace marlevo

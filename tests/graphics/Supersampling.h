@@ -1,0 +1,87 @@
+#pragma once
+
+#include "graphics/PixelBuffer.h"
+#include "graphics/Polyline.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace marlevo {
+
+/// A transparent picture in ARGB order to draw on.
+class Canvas {
+public:
+    Canvas(int width, int height) : Canvas(IntRect{0, 0, width, height}) {}
+    explicit Canvas(IntRect area)
+        : area_(area), bytes_(static_cast<std::size_t>(area.width()) * area.height() * 4) {}
+
+    PixelBuffer buffer() { return {bytes_.data(), 4 * area_.width(), area_, PixelOrder::argb}; }
+    /// The part of the picture in `area`, sharing its bytes.
+    PixelBuffer part(const IntRect& area) {
+        PixelBuffer part = buffer();
+        part.bytes = part.pixel(area.left, area.top);
+        part.area = area;
+        return part;
+    }
+    int alpha(int x, int y) { return *buffer().pixel(x, y); }
+    const std::vector<std::uint8_t>& bytes() const { return bytes_; }
+
+private:
+    IntRect area_;
+    std::vector<std::uint8_t> bytes_;
+};
+
+/// The part of the pixel (x, y), 0 to 1, whose `samples`² sample points fulfil `inside(point)`.
+template <class Inside>
+double supersampled(int x, int y, int samples, Inside inside) {
+    int hits = 0;
+    for (int j = 0; j < samples; ++j)
+        for (int i = 0; i < samples; ++i)
+            hits += inside(Point{x + (i + 0.5) / samples, y + (j + 0.5) / samples});
+    return double(hits) / (samples * samples);
+}
+
+inline int windingNumber(const FlattenedPath& outline, Point p) {
+    int winding = 0;
+    for (const auto& part : outline.subPaths) {
+        const auto points = outline.pointsOf(part);
+        Point a = points.back();
+        for (const Point b : points) {
+            if ((a.y <= p.y) != (b.y <= p.y) && a.x + (p.y - a.y) * (b.x - a.x) / (b.y - a.y) < p.x)
+                winding += a.y < b.y ? 1 : -1;
+            a = b;
+        }
+    }
+    return winding;
+}
+
+inline double distanceToSegment(Point p, Point a, Point b) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double square = dx * dx + dy * dy;
+    const double t = square > 0 ? ((p.x - a.x) * dx + (p.y - a.y) * dy) / square : 0;
+    const double s = std::clamp(t, 0.0, 1.0);
+    return std::hypot(p.x - a.x - s * dx, p.y - a.y - s * dy);
+}
+
+inline double distanceToLines(Point p, const FlattenedPath& lines) {
+    double least = std::numeric_limits<double>::infinity();
+    for (const auto& part : lines.subPaths) {
+        const auto points = lines.pointsOf(part);
+        Point a = part.closed ? points.back() : points.front();
+        for (const Point b : points) {
+            least = std::min(least, distanceToSegment(p, a, b));
+            a = b;
+        }
+    }
+    return least;
+}
+
+inline void addPolygon(FlattenedPath& path, const std::vector<Point>& points, bool closed = true) {
+    path.subPaths.push_back({path.points.size(), points.size(), closed});
+    path.points.insert(path.points.end(), points.begin(), points.end());
+}
+
+}  // namespace marlevo

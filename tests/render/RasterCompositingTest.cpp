@@ -1,0 +1,178 @@
+#include "model/DrawingDocument.h"
+#include "tests/support/FakeImageCodec.h"
+#include "tests/support/Strokes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace marlevo {
+namespace {
+
+using testing::ElementsAre;
+using Type = Stroke::ShapeType;
+using Pixel = std::array<int, 4>;
+
+class RasterCompositing : public testing::Test {
+protected:
+    RasterCompositing() : document({.imageCodec = &codec}) {
+        document.ensureLayers();
+        document.canvasSize = CanvasSize{100, 80};
+    }
+
+    void add(Stroke stroke, std::size_t layer = 0) {
+        document.layers.modify([&](LayerList& layers) { layers[layer].strokes.append(stroke); });
+    }
+
+    /// An image layer of `width` × `height` pixels, the upper half in one colour, the lower in
+    /// another.
+    void addImage(int width, int height, Pixel upper, Pixel lower, double opacity = 1) {
+        std::vector<std::uint8_t> file{static_cast<std::uint8_t>(width),
+                                       static_cast<std::uint8_t>(height)};
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                const Pixel& pixel = y < height / 2 ? upper : lower;
+                file.insert(file.end(), pixel.begin(), pixel.end());
+            }
+        }
+        document.layers.modify([&](LayerList& layers) {
+            layers.emplace_back("Image");
+            layers.back().imageData.emplace(std::move(file));
+            layers.back().opacity = opacity;
+        });
+    }
+
+    Pixel pixel(int x, int y) const {
+        const auto image = document.renderCGImage();
+        const auto bytes = image.value().pixel(x, y);
+        return {bytes[0], bytes[1], bytes[2], bytes[3]};
+    }
+
+    FakeImageCodec codec;
+    DrawingDocument document;
+};
+
+constexpr Pixel opaqueWhite{255, 255, 255, 255};
+constexpr Pixel opaqueBlack{255, 0, 0, 0};
+constexpr Pixel nothing{0, 0, 0, 0};
+constexpr Pixel red{255, 255, 0, 0};
+constexpr Pixel blue{255, 0, 0, 255};
+
+TEST_F(RasterCompositing, SizesAreTruncatedAndImpossibleOnesGiveNoPicture) {
+    document.canvasSize = CanvasSize{100.7, 50.2};
+    const auto image = document.renderCGImage();
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->width(), 100);
+    EXPECT_EQ(image->height(), 50);
+
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const CanvasSize size : {CanvasSize{0.5, 100},
+                                  {100, 0},
+                                  {-5, 10},
+                                  {1e300, 10},
+                                  {1e9, 1e9},
+                                  {std::nan(""), 10},
+                                  {10, infinity}}) {
+        document.canvasSize = size;
+        EXPECT_FALSE(document.renderCGImage()) << size.width << " × " << size.height;
+    }
+}
+
+TEST_F(RasterCompositing, BackgroundIsPaintedUnlessTransparent) {
+    EXPECT_EQ(pixel(0, 0), opaqueWhite);
+    document.backgroundColor = Color{1, 0, 0, 0.5};
+    EXPECT_EQ(pixel(99, 79), (Pixel{128, 128, 0, 0}));
+    document.backgroundIsTransparent = true;
+    EXPECT_EQ(pixel(50, 50), nothing);
+}
+
+TEST_F(RasterCompositing, CanvasTopIsTheRastersTop) {
+    add(makeStroke({{10, 1}, {90, 1}}, 4, Type::line));
+    EXPECT_EQ(pixel(50, 0), opaqueBlack);
+    EXPECT_EQ(pixel(50, 10), opaqueWhite);
+    EXPECT_EQ(pixel(50, 79), opaqueWhite);
+}
+
+TEST_F(RasterCompositing, StrokesOfOnePointAreSkippedAndHiddenLayersToo) {
+    add(makeStroke({{50, 50}}, 20));
+    EXPECT_EQ(pixel(50, 50), opaqueWhite);
+    add(makeStroke({{50, 50}, {50, 50}}, 20));
+    EXPECT_EQ(pixel(50, 50), opaqueBlack);
+    document.toggleLayerVisibility(0);
+    EXPECT_EQ(pixel(50, 50), opaqueWhite);
+    const auto thumbnail = document.renderSingleLayer(document.layers->front(), {100, 80});
+    EXPECT_THAT(thumbnail.value().pixel(50, 50), ElementsAre(255, 0, 0, 0));
+}
+
+TEST_F(RasterCompositing, LinesRunToTheSecondPoint) {
+    add(makeStroke({{10, 20}, {50, 20}, {90, 60}}, 6, Type::line));
+    EXPECT_EQ(pixel(45, 20), opaqueBlack);
+    EXPECT_EQ(pixel(80, 54), opaqueWhite);
+}
+
+TEST_F(RasterCompositing, FillsCoverTheirInsideAndOutlinesDoNot) {
+    Stroke box = makeStroke({{20, 20}, {60, 60}}, 4, Type::rect);
+    add(box);
+    EXPECT_EQ(pixel(20, 40), opaqueBlack);
+    EXPECT_EQ(pixel(40, 40), opaqueWhite);
+    box.isFill = true;
+    add(box);
+    EXPECT_EQ(pixel(40, 40), opaqueBlack);
+    add(makeStroke({{70, 70}, {90, 75}}, 4, Type::ellipse));
+    EXPECT_EQ(pixel(80, 70), opaqueBlack);
+}
+
+TEST_F(RasterCompositing, EraserPaintsItsColourAlsoOverNothing) {
+    document.backgroundIsTransparent = true;
+    Stroke eraser = makeStroke({{10, 40}, {90, 40}}, 24);
+    eraser.color = white;
+    eraser.isEraser = true;
+    add(eraser);
+    EXPECT_EQ(pixel(50, 40), opaqueWhite);
+}
+
+TEST_F(RasterCompositing, ImagesStandUprightUnderTheStrokesOfTheirLayer) {
+    addImage(2, 4, red, blue);
+    EXPECT_EQ(pixel(50, 10), red);
+    EXPECT_EQ(pixel(50, 70), blue);
+    add(makeStroke({{10, 70}, {90, 70}}), 1);
+    EXPECT_EQ(pixel(50, 70), opaqueBlack);
+}
+
+TEST_F(RasterCompositing, LayerOpacityFadesTheImageButNoStroke) {
+    addImage(1, 2, opaqueBlack, opaqueBlack, 0.5);
+    add(makeStroke({{10, 40}, {90, 40}}, 6), 1);
+    EXPECT_EQ(pixel(50, 20), (Pixel{255, 127, 127, 127}));
+    EXPECT_EQ(pixel(50, 40), opaqueBlack);
+}
+
+TEST_F(RasterCompositing, UndecodableImagesAreSkippedButNotTheirStrokes) {
+    document.layers.modify([](LayerList& layers) {
+        layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 2, 3});
+    });
+    add(makeStroke({{10, 40}, {90, 40}}));
+    EXPECT_EQ(pixel(50, 40), opaqueBlack);
+    EXPECT_EQ(pixel(50, 10), opaqueWhite);
+}
+
+TEST_F(RasterCompositing, SingleLayersAreStretchedOverWhite) {
+    document.canvasSize = CanvasSize{2000, 500};
+    add(makeStroke({{0, 250}, {2000, 250}}, 100));
+    const auto image = document.renderSingleLayer(document.layers->front(), {88, 64});
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->width(), 88);
+    EXPECT_EQ(image->height(), 64);
+    EXPECT_THAT(image->pixel(44, 32), ElementsAre(255, 0, 0, 0));
+    EXPECT_THAT(image->pixel(44, 27), ElementsAre(255, 0, 0, 0));  // 100 × 0.128 = 12.8 pixels high
+    EXPECT_THAT(image->pixel(44, 20), ElementsAre(255, 255, 255, 255));
+    EXPECT_FALSE(document.renderSingleLayer(document.layers->front(), {0.9, 64}));
+
+    document.canvasSize = CanvasSize{0, 0};
+    EXPECT_TRUE(document.renderSingleLayer(document.layers->front(), {88, 64}));
+}
+
+}  // namespace
+}  // namespace marlevo

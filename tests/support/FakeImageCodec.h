@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/ImageCodec.h"
+
+#include <cstring>
+
+namespace marlevo {
+
+/// "Files" are width and height in one byte each, then the pixels as they stand in a RasterImage.
+class FakeImageCodec : public ImageCodec {
+public:
+    std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {
+        if (file.size() < 2) return std::nullopt;
+        const int width = file[0];
+        const int height = file[1];
+        const auto pixels = file.subspan(2);
+        if (pixels.size() != std::size_t{4} * width * height || pixels.empty()) return std::nullopt;
+        return RasterImage(width, height, {pixels.begin(), pixels.end()});
+    }
+
+    std::optional<std::vector<std::uint8_t>> encode(const RasterImage& image,
+                                                    Format /*format*/) const override {
+        std::vector<std::uint8_t> file{static_cast<std::uint8_t>(image.width()),
+                                       static_cast<std::uint8_t>(image.height())};
+        file.insert(file.end(), image.bytes().begin(), image.bytes().end());
+        return file;
+    }
+};
+
+}  // namespace marlevo
