@@ -37,13 +37,16 @@ public:
     const Layer& back() const { return layers_.back()->layer; }
     Iterator begin() const;
     Iterator end() const;
+    std::reverse_iterator<Iterator> rbegin() const;
+    std::reverse_iterator<Iterator> rend() const;
 
-    /// To change the layer: from here on it is this list's own.
+    /// For changing the layer: it becomes this list's own.
     Layer& operator[](std::size_t index) {
         Ref<Entry>& entry = layers_[index];
         if (!entry.isUnique()) entry = Ref<Entry>::make(*entry);
         return entry->layer;
     }
+    Layer& back() { return (*this)[size() - 1]; }
 
     void push_back(Layer layer) { layers_.push_back(Ref<Entry>::make(std::move(layer))); }
     void insert(std::size_t index, Layer layer) {
@@ -63,7 +66,7 @@ private:
 /// Goes through a list in order; a change of the list invalidates it.
 class LayerList::Iterator {
 public:
-    using iterator_category = std::bidirectional_iterator_tag;
+    using iterator_category = std::random_access_iterator_tag;
     using value_type = Layer;
     using difference_type = std::ptrdiff_t;
     using pointer = const Layer*;
@@ -73,10 +76,21 @@ public:
 
     const Layer& operator*() const { return (*entry_)->layer; }
     const Layer* operator->() const { return &**this; }
-    Iterator& operator++() { return ++entry_, *this; }
-    Iterator& operator--() { return --entry_, *this; }
+    const Layer& operator[](difference_type n) const { return entry_[n]->layer; }
+    Iterator& operator++() { return *this += 1; }
+    Iterator& operator--() { return *this -= 1; }
     Iterator operator++(int) { return Iterator(entry_++); }
     Iterator operator--(int) { return Iterator(entry_--); }
+    Iterator& operator+=(difference_type n) { return entry_ += n, *this; }
+    Iterator& operator-=(difference_type n) { return entry_ -= n, *this; }
+
+    friend Iterator operator+(Iterator at, difference_type n) { return at += n; }
+    friend Iterator operator+(difference_type n, Iterator at) { return at += n; }
+    friend Iterator operator-(Iterator at, difference_type n) { return at -= n; }
+    friend difference_type operator-(const Iterator& a, const Iterator& b) {
+        return a.entry_ - b.entry_;
+    }
+    friend auto operator<=>(const Iterator&, const Iterator&) = default;
     friend bool operator==(const Iterator&, const Iterator&) = default;
 
 private:
@@ -90,6 +104,13 @@ private:
 
 inline LayerList::Iterator LayerList::begin() const { return Iterator(layers_.begin()); }
 inline LayerList::Iterator LayerList::end() const { return Iterator(layers_.end()); }
+inline std::reverse_iterator<LayerList::Iterator> LayerList::rbegin() const {
+    return std::reverse_iterator(end());
+}
+inline std::reverse_iterator<LayerList::Iterator> LayerList::rend() const {
+    return std::reverse_iterator(begin());
+}
+static_assert(std::random_access_iterator<LayerList::Iterator>);
 
 /// True when a layer has the index, which may come from anywhere and also be negative.
 inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
