@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <type_traits>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "tools/MatchRow.cpp"
@@ -38,6 +39,9 @@ std::size_t matchWholeWords(std::span<const std::uint8_t> pixels, const ColorRan
                             std::span<std::uint64_t> bits) {
     const hn::CappedTag<std::uint32_t, pixelsPerWord> pixelTag;
     const hn::Repartition<std::uint8_t, decltype(pixelTag)> byteTag;
+    using LaneBits = std::conditional_t<
+        hn::MaxLanes(pixelTag) <= 8, std::uint8_t,
+        std::conditional_t<hn::MaxLanes(pixelTag) <= 16, std::uint16_t, std::uint64_t>>;
     const std::size_t lanes = hn::Lanes(pixelTag);
     const std::size_t words = pixels.size() / bytesPerWord;
 
@@ -57,12 +61,13 @@ std::size_t matchWholeWords(std::span<const std::uint8_t> pixels, const ColorRan
             const auto nearest = hn::Min(hn::Max(bytes, lowest), highest);
             const auto isInside =
                 hn::Eq(hn::BitCast(pixelTag, nearest), hn::BitCast(pixelTag, bytes));
-            // The lanes' bits begin at the lowest bit of the first byte.
-            std::array<std::uint8_t, sizeof matches> laneBytes{};
+            // At least eight bytes must be writable. Reading back no more than was written keeps
+            // the bits in a register.
+            std::array<std::uint8_t, 8> laneBytes{};
             hn::StoreMaskBits(pixelTag, isInside, laneBytes.data());
-            std::uint64_t laneBits = 0;
+            LaneBits laneBits = 0;
             std::memcpy(&laneBits, laneBytes.data(), sizeof laneBits);
-            matches |= laneBits << at;
+            matches |= std::uint64_t{laneBits} << at;
         }
         bits[word] = matches;
     }

@@ -61,13 +61,16 @@ public:
         return static_cast<std::ptrdiff_t>(rowWords_ + 1) * wordBits;
     }
 
-    /// Three cells of a row as bits 0, 1 and 2: the one at `bit` and those west and east of it, the
-    /// western one lowest. `bit` is the index of any cell of the grid or of the rows −1 and height.
-    unsigned triple(std::ptrdiff_t bit) const {
+    /// The cell at bit index `bit` and its eight neighbours as nine bits, in three rows of three:
+    /// the row below lowest, in each row the western cell lowest. The cell lies inside the grid.
+    unsigned neighbourhood(std::ptrdiff_t bit) const {
         const auto western = static_cast<std::size_t>(bit - 1);
         const Word* word = words_.data() + western / wordBits;
         const unsigned shift = western % wordBits;
-        return static_cast<unsigned>(word[0] >> shift | word[1] << 1 << (wordBits - 1 - shift)) & 7;
+        const auto three = [shift](const Word* at) {
+            return static_cast<unsigned>(at[0] >> shift | at[1] << 1 << (wordBits - 1 - shift)) & 7;
+        };
+        return three(word - (rowWords_ + 1)) | three(word) << 3 | three(word + rowWords_ + 1) << 6;
     }
 
 private:

@@ -1,7 +1,9 @@
 #include "tools/TraceBoundary.h"
 
+#include "tools/Chord.h"
 #include "tools/SimplifyPath.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <optional>
@@ -21,8 +23,7 @@ constexpr unsigned opposite(unsigned direction) {
     return (direction + directionCount / 2) % directionCount;
 }
 
-/// A cell and its neighbours as nine bits: three rows of three, the south-western cell lowest.
-using Neighbourhood = unsigned;
+/// See Region::neighbourhood.
 constexpr unsigned neighbourhoodCount = 512;
 
 /// For each direction back to the previous cell and each neighbourhood, where the trace goes on.
@@ -31,7 +32,7 @@ using DirectionTable = std::array<std::array<std::uint8_t, neighbourhoodCount>, 
 constexpr DirectionTable makeDirectionTable() {
     DirectionTable table{};
     for (unsigned back = 0; back < directionCount; ++back) {
-        for (Neighbourhood cells = 0; cells < neighbourhoodCount; ++cells) {
+        for (unsigned cells = 0; cells < neighbourhoodCount; ++cells) {
             unsigned next = noDirection;
             for (unsigned turn = directionCount; turn >= 1; --turn) {
                 const unsigned direction = (back + turn) % directionCount;
@@ -63,42 +64,66 @@ std::optional<GridPoint> startCell(const Region& region) {
     return start;
 }
 
+/// Walks along the outline and calls `visit` with each cell and with whether the walk changes its
+/// direction there. Returns the number of cells.
+template <class Visitor>
+std::size_t walkOutline(const Region& region, Visitor visit) {
+    const std::optional<GridPoint> start = startCell(region);
+    if (!start) return 0;
+    const std::size_t mostCells =
+        static_cast<std::size_t>(region.width()) * static_cast<std::size_t>(region.height()) + 1;
+    const std::ptrdiff_t rowStride = region.rowStride();
+
+    GridPoint cell = *start;
+    std::ptrdiff_t bit = region.bitIndex(cell);
+    std::size_t count = 0;
+    unsigned direction = noDirection;
+    const std::uint8_t* nextDirections = nextDirection[west].data();
+    GridPoint offset;
+    std::ptrdiff_t bitStep = 0;
+    do {
+        const unsigned next = nextDirections[region.neighbourhood(bit)];
+        visit(cell, next != direction);
+        ++count;
+        if (next == noDirection || count >= mostCells) break;
+        // A branch, not a look-up for every step: while the outline runs straight, the processor
+        // goes ahead without waiting for the cells.
+        if (next != direction) {
+            direction = next;
+            nextDirections = nextDirection[opposite(direction)].data();
+            offset = offsets[direction];
+            bitStep = offset.y * rowStride + offset.x;
+        }
+        cell.x += offset.x;
+        cell.y += offset.y;
+        bit += bitStep;
+    } while (cell != *start);
+    return count;
+}
+
 }  // namespace
 
 std::vector<GridPoint> traceOutline(const Region& region) {
     std::vector<GridPoint> outline;
-    const std::optional<GridPoint> start = startCell(region);
-    if (!start) return outline;
-
-    const std::ptrdiff_t rowStride = region.rowStride();
-    std::array<std::ptrdiff_t, directionCount> bitSteps{};
-    for (unsigned direction = 0; direction < directionCount; ++direction) {
-        bitSteps[direction] = offsets[direction].y * rowStride + offsets[direction].x;
-    }
-    const std::size_t mostCells =
-        static_cast<std::size_t>(region.width()) * static_cast<std::size_t>(region.height()) + 1;
-
-    GridPoint cell = *start;
-    std::ptrdiff_t bit = region.bitIndex(cell);
-    unsigned back = west;
-    do {
-        outline.push_back(cell);
-        const Neighbourhood cells = region.triple(bit - rowStride) | region.triple(bit) << 3 |
-                                    region.triple(bit + rowStride) << 6;
-        const unsigned direction = nextDirection[back][cells];
-        if (direction == noDirection || outline.size() >= mostCells) break;
-        cell.x += offsets[direction].x;
-        cell.y += offsets[direction].y;
-        bit += bitSteps[direction];
-        back = opposite(direction);
-    } while (cell != *start);
+    walkOutline(region, [&](GridPoint cell, bool) { outline.push_back(cell); });
     return outline;
 }
 
 std::vector<GridPoint> traceBoundary(const Region& region) {
-    std::vector<GridPoint> outline = traceOutline(region);
-    if (outline.size() < 4) return outline;
-    return simplifyPath(outline, outlineEpsilon);
+    if (std::max(region.width(), region.height()) > Chord::exactExtent) {
+        const std::vector<GridPoint> outline = traceOutline(region);
+        return outline.size() < 4 ? outline : simplifyPath(outline, outlineEpsilon);
+    }
+    // The corners alone simplify to the same vertices, see withoutStraightRuns, and an outline of
+    // millions of cells need not be written to memory.
+    std::vector<GridPoint> corners;
+    std::optional<GridPoint> last;
+    const std::size_t count = walkOutline(region, [&](GridPoint cell, bool isCorner) {
+        if (isCorner) corners.push_back(cell);
+        last = isCorner ? std::nullopt : std::optional(cell);
+    });
+    if (last) corners.push_back(*last);
+    return count < 4 ? traceOutline(region) : simplifyPath(corners, outlineEpsilon);
 }
 
 std::array<GridPoint, 5> boundingRectangle(const Region& region) {

@@ -2,6 +2,7 @@
 
 #include "tests/tools/FillDefinition.h"
 #include "tests/tools/FillPictures.h"
+#include "tools/Chord.h"
 #include "tools/FloodFill.h"
 
 #include <gmock/gmock.h>
@@ -66,6 +67,12 @@ TEST(TraceBoundary, RunsAnticlockwiseFromTheTopOfTheLeftmostColumn) {
                             GridPoint{3, 2}, GridPoint{3, 3}, GridPoint{2, 3}, GridPoint{1, 3}));
     EXPECT_THAT(traceBoundary(block(4, 4, 9, 7)),
                 ElementsAre(GridPoint{0, 3}, GridPoint{0, 0}, GridPoint{3, 0}, GridPoint{1, 3}));
+}
+
+TEST(TraceBoundary, GivesTheSameVerticesInAnEnormousGrid) {
+    const int enormous = static_cast<int>(Chord::exactExtent) + 1;
+    EXPECT_EQ(traceBoundary(block(30, 4, enormous, 4)), traceBoundary(block(30, 4, 40, 4)));
+    EXPECT_THAT(traceBoundary(block(1, 2, enormous, 4)), SizeIs(2));
 }
 
 TEST(TraceBoundary, LeavesTheWholeCanvasFiveVertices) {
