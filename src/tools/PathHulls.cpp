@@ -37,6 +37,14 @@ GridPoint extremeCorner(std::span<const GridPoint> side, double x, double y) {
     return side[low];
 }
 
+/// The earliest of the farthest points looked at so far.
+struct Candidate {
+    double deviation = -1;
+    /// That of the point, or of the hull in which it lies.
+    std::size_t index = 0;
+    std::optional<std::size_t> hullLevel{};
+};
+
 }  // namespace
 
 std::span<const GridPoint> PathHulls::Level::side(std::size_t hull, Side side) const {
@@ -115,21 +123,13 @@ PathHulls::Level PathHulls::hullsOfPairs(const Level& hulls) {
     return level;
 }
 
-/// The earliest of the farthest points looked at so far: a point, or some point of a hull.
-struct PathHulls::Candidate {
-    double deviation = -1;
-    std::optional<std::size_t> point{};
-    std::size_t level = 0;
-    std::size_t hull = 0;
-};
-
 std::size_t PathHulls::farthest(std::size_t begin, std::size_t end, const Chord& chord) const {
     Candidate best;
     for (std::size_t i = begin; i < end;) {
         const std::size_t wholeBlocks = i % blockSize == 0 ? (end - i) / blockSize : 0;
         if (wholeBlocks == 0) {
             const double deviation = chord.deviation(path_[i]);
-            if (deviation > best.deviation) best = Candidate{deviation, i};
+            if (deviation > best.deviation) best = {deviation, i};
             ++i;
             continue;
         }
@@ -139,10 +139,11 @@ std::size_t PathHulls::farthest(std::size_t begin, std::size_t end, const Chord&
                                     static_cast<std::size_t>(std::bit_width(wholeBlocks)) - 1);
         const std::size_t hull = block >> level;
         const double deviation = levels_[level].largestDeviation(hull, chord);
-        if (deviation > best.deviation) best = Candidate{deviation, {}, level, hull};
+        if (deviation > best.deviation) best = {deviation, hull, level};
         i += blockSize << level;
     }
-    return best.point ? *best.point : firstPointWith(best.deviation, best.level, best.hull, chord);
+    return best.hullLevel ? firstPointWith(best.deviation, *best.hullLevel, best.index, chord)
+                          : best.index;
 }
 
 std::size_t PathHulls::firstPointWith(double deviation, std::size_t level, std::size_t hull,

@@ -10,11 +10,13 @@
 namespace marlevo {
 
 /// The convex hulls of a path's blocks of 32 points, of the pairs of blocks, of the pairs of pairs
-/// and so on: they find the point of any stretch that strays farthest from a chord in O(log² n)
-/// steps, because on each hull it is a corner that a binary search finds.
+/// and so on. They find the point of any stretch that strays farthest from a chord in O(log² n)
+/// steps: a stretch is made of O(log n) hulls and less than two blocks, and on a hull that point is
+/// a corner, found by binary search. (Where the chord's ends coincide all corners of those hulls
+/// are looked at; hulls of points on a grid have few.)
 ///
-/// Building takes O(n) steps up to the sorting within the blocks. No two coordinates may differ by
-/// more than Chord::exactExtent. The path is not copied and must outlive the hulls.
+/// Building takes O(n log n) steps. No two coordinates may differ by more than Chord::exactExtent.
+/// The path is not copied and must outlive the hulls.
 class PathHulls {
 public:
     explicit PathHulls(std::span<const GridPoint> path);
@@ -39,8 +41,6 @@ private:
         void addSide(std::span<const GridPoint> sortedByX, Side side);
         double largestDeviation(std::size_t hull, const Chord& chord) const;
     };
-
-    struct Candidate;
 
     static Level hullsOfBlocks(std::span<const GridPoint> path);
     static Level hullsOfPairs(const Level& hulls);

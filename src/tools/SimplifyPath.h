@@ -17,8 +17,8 @@ namespace marlevo {
 /// Fewer than three points come back unchanged. Distances are compared as the doubles
 /// |dy · px − dx · py| / √(dx² + dy²) and √(px² + py²).
 ///
-/// Takes neither recursion nor, for paths that extend over at most Chord::exactExtent, quadratic
-/// time: k kept of n points cost O(n + k log² n) steps.
+/// There is no recursion, and, for paths that extend over at most Chord::exactExtent, no quadratic
+/// worst case: keeping k of n points takes O(n log n + k log² n) steps (see PathHulls).
 std::vector<GridPoint> simplifyPath(std::span<const GridPoint> points, double epsilon);
 
 }  // namespace marlevo
