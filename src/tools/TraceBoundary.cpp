@@ -114,7 +114,7 @@ std::vector<GridPoint> traceBoundary(const Region& region) {
         const std::vector<GridPoint> outline = traceOutline(region);
         return outline.size() < 4 ? outline : simplifyPath(outline, outlineEpsilon);
     }
-    // The corners alone simplify to the same vertices, see withoutStraightRuns, and an outline of
+    // The corners alone simplify to the same vertices (see withoutStraightRuns), and an outline of
     // millions of cells need not be written to memory.
     std::vector<GridPoint> corners;
     std::optional<GridPoint> last;

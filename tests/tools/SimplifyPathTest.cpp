@@ -1,7 +1,6 @@
 #include "tools/SimplifyPath.h"
 
 #include "tests/tools/FillDefinition.h"
-#include "tools/Chord.h"
 
 #include <gtest/gtest.h>
 
@@ -77,15 +76,16 @@ TEST(SimplifyPath, LeavesTwoPointsOfALineAndFewerThanThreeAlone) {
 
 TEST(SimplifyPath, RoundsAsTheDefinitionOnPathsOfEnormousExtent) {
     std::mt19937 random(7);
-    for (const double extent : {Chord::exactExtent - 1, Chord::exactExtent + 1, 2e9}) {
-        for (int trial = 0; trial < 100; ++trial) {
-            // Nearly straight, so that distances differ in their last bits only.
-            const int height = trial % 2 == 0 ? 3 : static_cast<int>(extent / 2);
-            Points path;
-            for (int i = 0; i < 200; ++i) {
-                path.push_back({static_cast<int>((i / 200.0 - 0.5) * extent) + within(random, 0, 2),
-                                within(random, -height, height)});
-            }
+    for (const int extent : {(1 << 24) - 1, (1 << 24) + 1, 1 << 30}) {
+        for (int trial = 0; trial < 200; ++trial) {
+            // Distances just above a power of two are coarser than the products they come from:
+            // points tie that do not before the division.
+            const int width = extent - within(random, 0, 1000);
+            const int height = extent / 2 + within(random, 2, 1000);
+            Points path{{0, 0}};
+            for (int i = 0; i < 40; ++i)
+                path.push_back({within(random, 0, 2000), height});
+            path.push_back({width, 1});
             expectPointsOfTheDefinition(path);
         }
     }
