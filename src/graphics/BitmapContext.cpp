@@ -86,6 +86,14 @@ struct BitmapContext::Rasterizer {
         return !flattened.isEmpty();
     }
 
+    /// Flattens all of the path if anything of it can be seen: for what makes of a segment more
+    /// than can be told from the segment alone.
+    bool flattenWhole(const Path& path, double reach) {
+        if (!isInSight(path, state.frame, visibleRange(target.area, reach))) return false;
+        flatten(path, state.frame, flatteningTolerance, flattened);
+        return !flattened.isEmpty();
+    }
+
     void fillPixels(const IntRect& rect, PackedColor color) {
         const IntRect visible = rect.intersectedWith(target.area);
         if (visible.isEmpty()) return;
@@ -148,12 +156,14 @@ void BitmapContext::strokePath(const Path& path, const Color& color, double line
     const double height = lineWidth * std::abs(frame.scaleY);
     if (packed.alpha == 0 || !(width > 0) || !(height > 0)) return;
     const double reach = std::max({width, height, 1.0}) / 2;
-    if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
 
     // The choice must not depend on the target, or its bands would not fit together.
     if (width == height && width <= maxWidthByDistance) {
+        if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
         strokeByDistance(rasterizer_->flattened, width, rasterizer_->target, packed);
     } else {
+        // A corner of the outline depends on the segments before and behind it.
+        if (!rasterizer_->flattenWhole(path, reach)) return;
         strokeOutline(rasterizer_->flattened, lineWidth, frame.scaleX, frame.scaleY,
                       rasterizer_->outline);
         fillOutline(rasterizer_->outline, rasterizer_->target, packed);
