@@ -1,3 +1,4 @@
+#include "platform/qt/KeyRepeatFilter.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
 #include "ui/MarlevoApp.h"
@@ -12,6 +13,8 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
+    marlevo::KeyRepeatFilter keyRepeatFilter;
+    application.installEventFilter(&keyRepeatFilter);
 
     marlevo::QtMainQueue mainQueue;
     const marlevo::QtImageCodec imageCodec;
