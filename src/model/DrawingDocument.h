@@ -111,6 +111,29 @@ public:
     void addPointToStroke(Point point);
     void endStroke();
 
+    // ---- Selection of one stroke (tools/Selection.cpp) ------------------------------------------
+    // A selection that names no stroke, since the layers changed under it, is no selection here.
+
+    /// Selects the stroke under the point, or nothing when there is none.
+    void selectStroke(Point at);
+
+    /// The outline around the selected stroke, in canvas pixels.
+    std::optional<Rect> selectedStrokeBoundingRect() const;
+
+    void beginSelectDrag();
+    /// Places the stroke where the whole movement since the drag began puts it.
+    void updateSelectDrag(Size translation);
+    void endSelectDrag();
+    void deleteSelectedStroke();
+
+    // ---- Fill and eyedropper (tools/FillTool.cpp, tools/EyeDropper.cpp) -------------------------
+    /// Covers the region of similar colour around the point by a filled stroke on its own layer.
+    void performFill(Point at);
+
+    /// Makes the colour of the rendered picture at the point the selected one, opaque, and turns
+    /// the eyedropper off; a point outside changes nothing.
+    void pickColor(Point at);
+
     // ---- Rendering (render/RasterCompositing.cpp) -----------------------------------------------
     /// The whole picture at one pixel per canvas pixel; nothing when the canvas is smaller than
     /// 1 × 1 or too large for memory.
@@ -129,6 +152,14 @@ public:
 private:
     /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
     void clampActiveLayerIndex();
+
+    /// Where a stroke is: its layer's index and its own.
+    struct StrokePlace {
+        std::size_t layer;
+        std::size_t stroke;
+    };
+    std::optional<StrokePlace> selectedStroke() const;
+    void clearSelection();
 
     template <typename Source, typename Target>
     void stepHistory(Source& source, Target& target);
