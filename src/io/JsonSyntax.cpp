@@ -134,6 +134,18 @@ public:
         }
     }
 
+    bool number() {
+        const bool isNegative = take('-');
+        if (!take('0') && !digits())
+            return fail(isNegative ? "a digit was expected" : "a value was expected");
+        if (take('.') && !digits()) return fail("a digit was expected");
+        if (take('e') || take('E')) {
+            if (!take('+')) take('-');
+            if (!digits()) return fail("a digit was expected");
+        }
+        return true;
+    }
+
     std::size_t position() const { return position_; }
     JsonSyntax::Fault fault() const { return {position_, path_, reason_}; }
 
@@ -206,18 +218,6 @@ private:
         return true;
     }
 
-    bool number() {
-        const bool isNegative = take('-');
-        if (!take('0') && !digits())
-            return fail(isNegative ? "a digit was expected" : "a value was expected");
-        if (take('.') && !digits()) return fail("a digit was expected");
-        if (take('e') || take('E')) {
-            if (!take('+')) take('-');
-            if (!digits()) return fail("a digit was expected");
-        }
-        return true;
-    }
-
     bool digits() {
         const std::size_t start = position_;
         while (!atEnd() && isDigit(text_[position_]))
@@ -266,6 +266,12 @@ std::optional<std::string_view> JsonSyntax::leadingString(std::string_view text)
     Scanner scanner(text);
     if (!scanner.string()) return std::nullopt;
     return text.substr(1, scanner.position() - 2);
+}
+
+std::optional<std::string_view> JsonSyntax::leadingNumber(std::string_view text) {
+    Scanner scanner(text);
+    if (!scanner.number()) return std::nullopt;
+    return text.substr(0, scanner.position());
 }
 
 std::string JsonSyntax::unescape(std::string_view string) {

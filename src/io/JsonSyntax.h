@@ -34,6 +34,9 @@ public:
     /// there is none or it is malformed.
     static std::optional<std::string_view> leadingString(std::string_view text);
 
+    /// The number that the text starts with; nothing when there is none.
+    static std::optional<std::string_view> leadingNumber(std::string_view text);
+
     /// A string as leadingString() returns it, with its escapes replaced.
     static std::string unescape(std::string_view string);
 };
