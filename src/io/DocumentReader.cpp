@@ -94,7 +94,7 @@ private:
                 if (!readValue(member.value(), record.*field.member, depth))
                     problems[index] = std::exchange(problem_, {});
             });
-            if (!isKnown && !JsonSyntax::startsWithValue(textFrom(member.value()), depth))
+            if (!isKnown && !JsonSyntax::startsWithMemberValue(textFrom(member.value()), depth))
                 broken(simdjson::TAPE_ERROR);
             if (isBroken_) return false;
         }
@@ -223,7 +223,7 @@ private:
     bool readValue(ondemand::value value, std::optional<Bytes>& bytes, std::size_t depth) {
         bytes.reset();
         if (is(value, json_type::null)) {
-            const bool isNull = JsonSyntax::startsWithValue(textFrom(value), depth);
+            const bool isNull = JsonSyntax::startsWithMemberValue(textFrom(value), depth);
             return isNull || broken(simdjson::N_ATOM_ERROR);
         }
         if (!is(value, json_type::string)) return problem("a string was expected");

@@ -115,6 +115,12 @@ public:
         }
     }
 
+    bool memberValue(std::size_t depth) {
+        if (!value(depth)) return false;
+        skipSpace();
+        return take(',') || take('}');
+    }
+
     bool string() {
         if (!take('"')) return fail("a string was expected");
         for (;;) {
@@ -258,8 +264,8 @@ std::optional<JsonSyntax::Fault> JsonSyntax::findFault(std::string_view text) {
     return scanner.fault();
 }
 
-bool JsonSyntax::startsWithValue(std::string_view text, std::size_t depth) {
-    return Scanner(text).value(depth);
+bool JsonSyntax::startsWithMemberValue(std::string_view text, std::size_t depth) {
+    return Scanner(text).memberValue(depth);
 }
 
 std::optional<std::string_view> JsonSyntax::leadingString(std::string_view text) {

@@ -26,9 +26,9 @@ public:
     /// Nothing when the text is one value with nothing but white space around it.
     static std::optional<Fault> findFault(std::string_view text);
 
-    /// True when the text starts with a value; what follows it is not looked at. The value stands
-    /// inside `depth` arrays and objects.
-    static bool startsWithValue(std::string_view text, std::size_t depth);
+    /// True when the text starts with a value and the ',' or '}' that ends a member. The value
+    /// stands inside `depth` arrays and objects.
+    static bool startsWithMemberValue(std::string_view text, std::size_t depth);
 
     /// The string that the text starts with, between its quotes and with its escapes; nothing when
     /// there is none or it is malformed.

@@ -258,6 +258,7 @@ TEST(DocumentReader, namesThePlaceWhereTheTextIsBroken) {
         {"Background", "\xED\xA0\x80", "layers[0].name: line 12, column 17: the text is not UTF-8"},
         {"\"version\"", "\"x\" : [1, 2, {\"y\" : 0x10}], \"version\"",
          "x[2]: line 2, column 24: ',' or '}' was expected"},
+        {"\"version\"", "\"x\" : 1=0, \"version\"", "line 2, column 10: ',' or '}' was expected"},
         {"\"version\"", "\"x\" : tru, \"version\"", "x: line 2, column 9: a value was expected"},
         {"\n}\n", "\n} {}", "line 38, column 3: something follows the document's end"},
         {"\n}\n", "\n}]", "line 38, column 2: something follows the document's end"},
