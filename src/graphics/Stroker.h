@@ -4,16 +4,10 @@
 
 namespace marlevo {
 
-<<<<<<< HEAD
 /// Replaces `out` by the outline of `centerLine`, in device coordinates, drawn with a round pen
 /// `lineWidth` wide in a frame of these scales: where they differ the pen is an ellipse. The
 /// outline is to be filled with the non-zero rule. A sub-path of length zero gives the shape of the
 /// pen.
-=======
-/// Replaces `out` by the outline of `centerLine` drawn with a round pen `lineWidth` wide: all that
-/// is at most half of that away from the line, to be filled with the non-zero rule. A sub-path of
-/// length zero gives a disc.
->>>>>>> strokes
 ///
 /// Curves of the outline stray at most flatteningTolerance, and points of the line closer together
 /// than a fraction of that are joined; where the outline is wider than some 100,000 pixels the
@@ -29,11 +23,7 @@ namespace marlevo {
 /// point that the pen reaches is in the cell of the segment nearest to it, or in a sector or cap,
 /// and no cell turns backwards, so winding numbers inside are never 0 however tight the line turns.
 /// Borders between cells cancel; only the outer border of their sum is put out.
-<<<<<<< HEAD
 void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double scaleX, double scaleY,
-=======
-void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double tolerance,
->>>>>>> strokes
                    FlattenedPath& out);
 
 }  // namespace marlevo

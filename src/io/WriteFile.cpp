@@ -59,9 +59,8 @@ std::optional<Failure> Replacement::open(const std::filesystem::path& path) {
     file_ = FileDescriptor(uninterrupted([&] { return ::open(path.c_str(), openFlags); }));
     if (!file_ && errno == ENOENT) {
         const std::filesystem::path target = linkTarget(path);
-        file_ = FileDescriptor(uninterrupted([&] {
-            return ::open(target.c_str(), openFlags | O_CREAT | O_EXCL, modeBeforeUmask);
-        }));
+        file_ = FileDescriptor(uninterrupted(
+            [&] { return ::open(target.c_str(), openFlags | O_CREAT | O_EXCL, modeBeforeUmask); }));
         if (file_) created_ = target;
     }
     // What a pipe without a reader and a socket say.

@@ -46,9 +46,9 @@ Result<WrittenFile> writeWholeFile(const std::filesystem::path& file,
 Result<WrittenFile> writeWholeFile(const std::filesystem::path& file,
                                    std::span<const std::uint8_t> contents);
 
-/// Has the file flushed on the queue, after those before it; the caller goes on at once. `onFailure`
-/// is called on the queue's thread. Without a queue it is left to the system when to flush.
-void flushBehind(WorkQueue* queue, WrittenFile file,
-                 std::function<void(const Failure&)> onFailure);
+/// Has the file flushed on the queue, after those before it; the caller goes on at once.
+/// `onFailure` is called on the queue's thread. Without a queue it is left to the system when to
+/// flush.
+void flushBehind(WorkQueue* queue, WrittenFile file, std::function<void(const Failure&)> onFailure);
 
 }  // namespace marlevo

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <queue>
+
 #include <condition_variable>
 #include <functional>
 #include <mutex>
-#include <queue>
 #include <thread>
 
 namespace marlevo {
