@@ -144,16 +144,18 @@ void BitmapContext::fillPath(const Path& path, const Color& color) {
 void BitmapContext::strokePath(const Path& path, const Color& color, double lineWidth) {
     const DeviceFrame& frame = rasterizer_->state.frame;
     const PackedColor packed = rasterizer_->pack(color);
-    const double scaleX = std::abs(frame.scaleX);
-    const double scaleY = std::abs(frame.scaleY);
-    const double width = lineWidth * std::max(scaleX, scaleY);
-    if (packed.alpha == 0 || !(width > 0)) return;
-    if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return;
+    const double width = lineWidth * std::abs(frame.scaleX);
+    const double height = lineWidth * std::abs(frame.scaleY);
+    if (packed.alpha == 0 || !(width > 0) || !(height > 0)) return;
+    const double reach = std::max({width, height, 1.0}) / 2;
+    if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
+
     // The choice must not depend on the target, or its bands would not fit together.
-    if (scaleX == scaleY && width <= maxWidthByDistance) {
+    if (width == height && width <= maxWidthByDistance) {
         strokeByDistance(rasterizer_->flattened, width, rasterizer_->target, packed);
     } else {
-        strokeOutline(rasterizer_->flattened, lineWidth, scaleX, scaleY, rasterizer_->outline);
+        strokeOutline(rasterizer_->flattened, lineWidth, frame.scaleX, frame.scaleY,
+                      rasterizer_->outline);
         fillOutline(rasterizer_->outline, rasterizer_->target, packed);
     }
 }
