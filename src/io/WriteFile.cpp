@@ -107,12 +107,15 @@ std::error_code Replacement::makeRoom(off_t length) {
     const auto unshared = allocate(file_, FALLOC_FL_UNSHARE_RANGE, 0, overwritten);
     if (unshared && !isUnsupported(unshared)) return unshared;
 
-    if (!copiesOnWrite(file_)) return {};
-    // Reserved behind the end, then given back just before it is needed.
+    if (overwritten == 0 || !copiesOnWrite(file_)) return {};
+    // Reserved behind the end, then given back just before it is needed; more than the file takes,
+    // since such systems also write their own records anew.
+    constexpr off_t recordsReserve = 32 << 20;
     const off_t end = std::max(length, oldLength_);
-    const auto spare = allocate(file_, FALLOC_FL_KEEP_SIZE, end, overwritten);
+    const off_t spareLength = overwritten + recordsReserve;
+    const auto spare = allocate(file_, FALLOC_FL_KEEP_SIZE, end, spareLength);
     const auto givenBack =
-        allocate(file_, FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, end, overwritten);
+        allocate(file_, FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, end, spareLength);
     return spare ? spare : givenBack;
 }
 
