@@ -80,7 +80,6 @@ void DrawingDocument::applyDocumentData(const DocumentData& data) {
     backgroundColor = {data.bgColorR, data.bgColorG, data.bgColorB, data.bgColorA};
     backgroundIsTransparent = data.bgTransparent;
     LayerList loaded;
-    loaded.reserve(data.layers.size());
     std::ranges::transform(data.layers, std::back_inserter(loaded), decodeLayer);
     layers = std::move(loaded);
     activeLayerIndex = 0;
