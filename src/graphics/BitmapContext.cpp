@@ -86,6 +86,21 @@ struct BitmapContext::Rasterizer {
         return !flattened.isEmpty();
     }
 
+    /// A frame whose scales differ turns the round pen into an ellipse: the outline is made before
+    /// the frame applies.
+    void strokeWithEllipse(const Path& path, double lineWidth, PackedColor color) {
+        const DeviceFrame& frame = state.frame;
+        const double scale = std::max(std::abs(frame.scaleX), std::abs(frame.scaleY));
+        if (!isInSight(path, frame, visibleRange(target.area, lineWidth * scale / 2))) return;
+        const double tolerance = flatteningTolerance / scale;
+        flatten(path, DeviceFrame{}, tolerance, flattened);
+        strokeOutline(flattened, lineWidth, tolerance, outline);
+        for (Point& p : outline.points) {
+            p = {p.x * frame.scaleX + frame.originX, p.y * frame.scaleY + frame.originY};
+        }
+        fillOutline(outline, target, color);
+    }
+
     void fillPixels(const IntRect& rect, PackedColor color) {
         const IntRect visible = rect.intersectedWith(target.area);
         if (visible.isEmpty()) return;
@@ -147,15 +162,18 @@ void BitmapContext::strokePath(const Path& path, const Color& color, double line
     const double widthY = lineWidth * std::abs(frame.scaleY);
     const PackedColor packed = rasterizer_->pack(color);
     if (packed.alpha == 0 || !(widthX > 0) || !(widthY > 0)) return;
-    const double reach = std::max({widthX, widthY, 1.0}) / 2;
+    if (widthX != widthY) {
+        rasterizer_->strokeWithEllipse(path, lineWidth, packed);
+        return;
+    }
+    const double reach = std::max(widthX, 1.0) / 2;
     if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
 
     // The choice must not depend on the target, or its bands would not fit together.
-    if (widthX == widthY && widthX <= maxWidthByDistance) {
+    if (widthX <= maxWidthByDistance) {
         strokeByDistance(rasterizer_->flattened, widthX, rasterizer_->target, packed);
     } else {
-        strokeOutline(rasterizer_->flattened, lineWidth, frame.scaleX, frame.scaleY,
-                      rasterizer_->outline);
+        strokeOutline(rasterizer_->flattened, widthX, flatteningTolerance, rasterizer_->outline);
         fillOutline(rasterizer_->outline, rasterizer_->target, packed);
     }
 }
