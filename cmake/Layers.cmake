@@ -31,6 +31,8 @@ function(marlevo_layer folder)
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
     # Qt's own idioms (narrow ints, implicit conversions) are not ours to warn about.
     target_compile_options(${name} PRIVATE -Wno-conversion)
+    # Words such as "slots" stay free for the layers below.
+    target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS)
   endif()
 endfunction()
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ui/CanvasView.h"
+#include "ui/Follower.h"
+
+#include <QAbstractScrollArea>
+
+namespace marlevo {
+
+/// The canvas on its desk: scrolls in both directions, centres a canvas smaller than itself, and
+/// draws the canvas's shadow.
+class CanvasScrollArea final : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    /// Room around the canvas, in view points.
+    static constexpr int margin = 20;
+
+    /// The document must outlive the area.
+    explicit CanvasScrollArea(DrawingDocument& document, QWidget* parent = nullptr);
+
+    CanvasView& view() { return view_; }
+
+    /// With the whole canvas in sight.
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void layOut();
+    QPoint alignedToDevicePixels(QPoint viewportPosition) const;
+
+    DrawingDocument& document_;
+    CanvasView view_;
+    Follower layoutFollower_;
+};
+
+}  // namespace marlevo
