@@ -22,7 +22,7 @@ struct State {
 
 /// What lies near enough to `area` to leave a mark there: within `reach`, and what rounding adds.
 VisibleRange visibleRange(const IntRect& area, double reach) {
-    const double margin = reach + 1;
+    const double margin = reach + 2;
     return {area.left - margin, area.top - margin, area.right + margin, area.bottom + margin};
 }
 
@@ -86,21 +86,6 @@ struct BitmapContext::Rasterizer {
         return !flattened.isEmpty();
     }
 
-    /// A frame whose scales differ turns the round pen into an ellipse: the outline is made before
-    /// the frame applies.
-    void strokeWithEllipse(const Path& path, double lineWidth, PackedColor color) {
-        const DeviceFrame& frame = state.frame;
-        const double scale = std::max(std::abs(frame.scaleX), std::abs(frame.scaleY));
-        if (!isInSight(path, frame, visibleRange(target.area, lineWidth * scale / 2))) return;
-        const double tolerance = flatteningTolerance / scale;
-        flatten(path, DeviceFrame{}, tolerance, flattened);
-        strokeOutline(flattened, lineWidth, tolerance, outline);
-        for (Point& p : outline.points) {
-            p = {p.x * frame.scaleX + frame.originX, p.y * frame.scaleY + frame.originY};
-        }
-        fillOutline(outline, target, color);
-    }
-
     void fillPixels(const IntRect& rect, PackedColor color) {
         const IntRect visible = rect.intersectedWith(target.area);
         if (visible.isEmpty()) return;
@@ -158,22 +143,17 @@ void BitmapContext::fillPath(const Path& path, const Color& color) {
 
 void BitmapContext::strokePath(const Path& path, const Color& color, double lineWidth) {
     const DeviceFrame& frame = rasterizer_->state.frame;
-    const double widthX = lineWidth * std::abs(frame.scaleX);
-    const double widthY = lineWidth * std::abs(frame.scaleY);
     const PackedColor packed = rasterizer_->pack(color);
-    if (packed.alpha == 0 || !(widthX > 0) || !(widthY > 0)) return;
-    if (widthX != widthY) {
-        rasterizer_->strokeWithEllipse(path, lineWidth, packed);
-        return;
-    }
-    const double reach = std::max(widthX, 1.0) / 2;
-    if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
-
+    const double scaleX = std::abs(frame.scaleX);
+    const double scaleY = std::abs(frame.scaleY);
+    const double width = lineWidth * std::max(scaleX, scaleY);
+    if (packed.alpha == 0 || !(width > 0)) return;
+    if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return;
     // The choice must not depend on the target, or its bands would not fit together.
-    if (widthX <= maxWidthByDistance) {
-        strokeByDistance(rasterizer_->flattened, widthX, rasterizer_->target, packed);
+    if (scaleX == scaleY && width <= maxWidthByDistance) {
+        strokeByDistance(rasterizer_->flattened, width, rasterizer_->target, packed);
     } else {
-        strokeOutline(rasterizer_->flattened, widthX, flatteningTolerance, rasterizer_->outline);
+        strokeOutline(rasterizer_->flattened, lineWidth, scaleX, scaleY, rasterizer_->outline);
         fillOutline(rasterizer_->outline, rasterizer_->target, packed);
     }
 }

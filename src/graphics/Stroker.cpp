@@ -1,5 +1,7 @@
 #include "graphics/Stroker.h"
 
+#include "graphics/Flatten.h"
+
 #include <algorithm>
 #include <cmath>
 #include <span>
@@ -38,6 +40,10 @@ public:
         : radius_(radius), tolerance_(std::max(tolerance, finestArc * radius)), out_(out) {
         // The corner that bisectors leave on a joint stands out by radius · tangent² / 2.
         slightTurn_ = std::sqrt(2 * tolerance_ / radius);
+        // The middle of a chord lies radius · (1 − cosine of half the angle) within the arc.
+        const double halfCosine = std::max(1 - tolerance_ / radius, std::sqrt(0.5));
+        arcCosine_ = 2 * halfCosine * halfCosine - 1;
+        arcSine_ = std::sqrt(1 - arcCosine_ * arcCosine_);
     }
 
     void add(std::span<const Point> points, bool closed) {
@@ -62,9 +68,18 @@ public:
 
 private:
     enum class Ends { capped, joined };
-    /// How the cells on the left of two segments meet: on the bisector of their angle, or each
-    /// ending at its normal, with a sector between them or overlapping.
-    enum class Joint { bisected, sector, overlapping };
+
+    /// One end of a cell. At a height above the segment it lies inwards of the segment's end by
+    /// slope · height, but at most by `limit`.
+    struct CellEnd {
+        double slope = 0;
+        double limit = 0;
+        bool isStraight = true;
+
+        bool hasKnee(double height) const { return slope > 0 && slope * height > limit; }
+        double kneeHeight() const { return limit / slope; }
+        double at(double height) const { return hasKnee(height) ? limit : slope * height; }
+    };
 
     void collect(std::span<const Point> points, bool closed);
     void turnAround();
@@ -73,10 +88,6 @@ private:
     void addDisc(Point center);
     void addArc(Point center, Point fromNormal, Point toNormal);
 
-    void addPoint(Point base, Point direction, double along, Point normal, double height) {
-        out_.points.push_back({base.x + direction.x * along + normal.x * height,
-                               base.y + direction.y * along + normal.y * height});
-    }
     void addOffset(Point center, Point normal) {
         out_.points.push_back({center.x + normal.x * radius_, center.y + normal.y * radius_});
     }
@@ -86,11 +97,14 @@ private:
         out_.subPaths.push_back({first, out_.points.size() - first, true});
     }
 
-    Joint jointOf(const Segment& before, const Segment& behind) const;
+    CellEnd cellEnd(double turn, const Segment& neighbour) const;
+    double crossingHeight(const CellEnd& start, const CellEnd& end, double length) const;
 
     double radius_;
     double tolerance_;
     double slightTurn_;
+    double arcCosine_;  ///< of the angle between the corners of an arc
+    double arcSine_;
     FlattenedPath& out_;
     std::vector<Segment> segments_;
 };
@@ -147,104 +161,120 @@ void Stroker::turnAround() {
     }
 }
 
-Stroker::Joint Stroker::jointOf(const Segment& before, const Segment& behind) const {
-    const double turn = behind.turn;
-    if (turn < -slightTurn_) return Joint::sector;
-    // What the bisector takes from one cell belongs to the other if that is long enough, or else
-    // sticks out of what the rest of the line covers by (radius · turn − length)² / (2 · radius).
-    const double length = std::min(before.length, behind.length);
-    return radius_ * (turn - slightTurn_) <= length ? Joint::bisected : Joint::overlapping;
+/// The end of a cell at a turn, beyond which `neighbour` follows.
+Stroker::CellEnd Stroker::cellEnd(double turn, const Segment& neighbour) const {
+    if (turn < -slightTurn_) return {};
+    // What the bisector takes from one cell is nearer to the other segment than to this one, as
+    // long as it is not further from the joint than that segment is long. Some e beyond is at most
+    // e² / (2 · radius) nearer to this one, which tolerance allows to be lost.
+    return {turn, neighbour.length + slightTurn_ * radius_, false};
+}
+
+/// The height at which the ends of a cell meet that do so below the radius.
+double Stroker::crossingHeight(const CellEnd& start, const CellEnd& end, double length) const {
+    double height = length / (start.slope + end.slope);
+    if (start.slope > 0) height = std::max(height, (length - end.limit) / start.slope);
+    if (end.slope > 0) height = std::max(height, (length - start.limit) / end.slope);
+    return height;
 }
 
 /// Puts out the left border of the cells.
 void Stroker::addSide(Ends ends) {
     const std::size_t count = segments_.size();
-    bool cornerIsOut = false;  // the border already stands at the start of the next cell
+    bool cornerIsOut = false;  // the border already stands at the top of the next cell's start
     for (std::size_t i = 0; i < count; ++i) {
         const Segment& previous = segments_[i > 0 ? i - 1 : count - 1];
         const Segment& segment = segments_[i];
         const Segment& next = segments_[i + 1 < count ? i + 1 : 0];
         const bool capBefore = ends == Ends::capped && i == 0;
         const bool capBehind = ends == Ends::capped && i + 1 == count;
-        const Joint jointBehind = jointOf(segment, next);
-        const bool straightBefore = capBefore || jointOf(previous, segment) != Joint::bisected;
-        const bool straightBehind = capBehind || jointBehind != Joint::bisected;
-        const double cutBefore = straightBefore ? 0 : segment.turn;
-        const double cutBehind = straightBehind ? 0 : next.turn;
+        const CellEnd start = capBefore ? CellEnd{} : cellEnd(segment.turn, previous);
+        const CellEnd end = capBehind ? CellEnd{} : cellEnd(next.turn, next);
+        const double length = segment.length;
         const Point normal = segment.normal();
+        const auto put = [&](double along, double height) {
+            out_.points.push_back(
+                {segment.from.x + segment.direction.x * along + normal.x * height,
+                 segment.from.y + segment.direction.y * along + normal.y * height});
+        };
 
-        if ((cutBefore + cutBehind) * radius_ <= segment.length) {
-            if (straightBefore || !cornerIsOut)
-                addPoint(segment.from, segment.direction, cutBefore * radius_, normal, radius_);
-            addPoint(segment.to, segment.direction, -cutBehind * radius_, normal, radius_);
-            cornerIsOut = true;
+        if (start.at(radius_) + end.at(radius_) <= length) {
+            if (start.hasKnee(radius_)) put(start.limit, start.kneeHeight());
+            if (start.isStraight || start.hasKnee(radius_) || !cornerIsOut)
+                put(start.at(radius_), radius_);
+            put(length - end.at(radius_), radius_);
+            if (end.hasKnee(radius_)) put(length - end.limit, end.kneeHeight());
+            cornerIsOut = !end.hasKnee(radius_);
         } else {
-            if (straightBefore) addOffset(segment.from, normal);
-            const double height = segment.length / (cutBefore + cutBehind);
-            addPoint(segment.from, segment.direction, cutBefore * height, normal, height);
-            if (straightBehind) addOffset(segment.to, normal);
-            cornerIsOut = straightBehind;
+            const double height = crossingHeight(start, end, length);
+            if (start.isStraight) put(0, radius_);
+            if (start.hasKnee(height)) put(start.limit, start.kneeHeight());
+            put(start.at(height), height);
+            if (end.hasKnee(height)) put(length - end.limit, end.kneeHeight());
+            if (end.isStraight) put(length, radius_);
+            cornerIsOut = false;
         }
-        if (capBehind) continue;
-        if (jointBehind == Joint::overlapping) {
-            out_.points.push_back(segment.to);
-        } else if (jointBehind == Joint::sector) {
-            // Halving the turn by the directions is exact where the normals nearly cancel.
-            if (next.turn < -1) {
-                const Point away{segment.direction.x - next.direction.x,
-                                 segment.direction.y - next.direction.y};
-                const double length = std::sqrt(dot(away, away));
-                const Point middle{away.x / length, away.y / length};
-                addArc(segment.to, normal, middle);
-                addOffset(segment.to, middle);
-                addArc(segment.to, middle, next.normal());
-            } else {
-                addArc(segment.to, normal, next.normal());
-            }
-        }
+        if (end.isStraight && !capBehind) addArc(segment.to, normal, next.normal());
     }
 }
 
 /// Goes round the end of the last segment.
 void Stroker::addCap() {
-    const Segment& last = segments_.back();
-    const Point normal = last.normal();
-    addArc(last.to, normal, last.direction);
-    addOffset(last.to, last.direction);
-    addArc(last.to, last.direction, {-normal.x, -normal.y});
+    const Point normal = segments_.back().normal();
+    addArc(segments_.back().to, normal, {-normal.x, -normal.y});
 }
 
 void Stroker::addDisc(Point center) {
-    constexpr Point corners[] = {{1, 0}, {0, -1}, {-1, 0}, {0, 1}};
-    for (int i = 0; i < 4; ++i) {
-        addOffset(center, corners[i]);
-        addArc(center, corners[i], corners[(i + 1) % 4]);
+    for (const Point normal : {Point{1, 0}, Point{-1, 0}}) {
+        addOffset(center, normal);
+        addArc(center, normal, {-normal.x, -normal.y});
     }
     endPolygon();
 }
 
-/// Puts out the corners of an arc of less than 180°, without its ends.
+/// Puts out the corners of an arc of at most 180°, clockwise about `center`, without its ends.
 void Stroker::addArc(Point center, Point fromNormal, Point toNormal) {
-    const double halfCosine = std::sqrt(std::max(0.0, (1 + dot(fromNormal, toNormal)) / 2));
-    if (radius_ * (1 - halfCosine) <= tolerance_) return;
-    const Point middle{(fromNormal.x + toNormal.x) / (2 * halfCosine),
-                       (fromNormal.y + toNormal.y) / (2 * halfCosine)};
-    addArc(center, fromNormal, middle);
-    addOffset(center, middle);
-    addArc(center, middle, toNormal);
+    // What is left to turn shows in the cosine alone: it is never more than 180°.
+    for (Point n = fromNormal; dot(n, toNormal) < arcCosine_;) {
+        n = {n.x * arcCosine_ + n.y * arcSine_, n.y * arcCosine_ - n.x * arcSine_};
+        addOffset(center, n);
+    }
+}
+
+void addSubPaths(const FlattenedPath& line, Stroker& stroker) {
+    for (const auto& part : line.subPaths) {
+        const auto points = line.pointsOf(part);
+        if (!points.empty()) stroker.add(points, part.closed);
+    }
 }
 
 }  // namespace
 
-void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double tolerance,
+void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double scaleX, double scaleY,
                    FlattenedPath& out) {
     out.clear();
-    if (!(lineWidth > 0) || !std::isfinite(lineWidth)) return;
-    Stroker stroker(lineWidth / 2, tolerance, out);
-    for (const auto& part : centerLine.subPaths) {
-        const auto points = centerLine.pointsOf(part);
-        if (!points.empty()) stroker.add(points, part.closed);
+    const double unitX = std::abs(scaleX);
+    const double unitY = std::abs(scaleY);
+    const double widthX = lineWidth * unitX;
+    const double widthY = lineWidth * unitY;
+    if (!(widthX > 0) || !(widthY > 0) || !std::isfinite(widthX) || !std::isfinite(widthY)) return;
+
+    // The wider side of the pen is the measure: in a plane stretched until the narrower side is as
+    // wide, the pen is a circle.
+    const double width = std::max(widthX, widthY);
+    Stroker stroker(width / 2, flatteningTolerance, out);
+    if (widthX == widthY) {
+        addSubPaths(centerLine, stroker);
+        return;
     }
+    const double stretchX = width / widthX;
+    const double stretchY = width / widthY;
+    FlattenedPath stretched = centerLine;
+    for (Point& p : stretched.points)
+        p = {p.x * stretchX, p.y * stretchY};
+    addSubPaths(stretched, stroker);
+    for (Point& p : out.points)
+        p = {p.x / stretchX, p.y / stretchY};
 }
 
 }  // namespace marlevo

@@ -106,8 +106,7 @@ public:
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 
-    // ---- Stroke capture (tools/), positions in canvas pixels
-    // --------------------------------------
+    // ---- Stroke capture (tools/StrokeCapture.cpp); positions in canvas pixels -------------------
     void beginStroke(Point at);
     void addPointToStroke(Point point);
     void endStroke();
@@ -134,8 +133,9 @@ private:
     template <typename Source, typename Target>
     void stepHistory(Source& source, Target& target);
 
-    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
     std::optional<RasterImage> renderForFill() const;
+
+    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
     void drawLayers(GraphicsContext& context, double height) const;
     void drawLayer(GraphicsContext& context, const Layer& layer, double height) const;
     void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;

@@ -4,24 +4,13 @@
 
 #include <QColorDialog>
 #include <QPainter>
-#include <QPixmap>
 
 namespace marlevo {
 
 namespace {
 
-constexpr int swatchSize = 16;
-
-QIcon swatch(const QColor& color, const QColor& outline, double ratio) {
-    QPixmap pixmap(QSize(swatchSize, swatchSize) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setPen(outline);
-    painter.setBrush(color);
-    painter.drawRect(QRectF(0.5, 0.5, swatchSize - 1, swatchSize - 1));
-    return pixmap;
-}
+constexpr int barHeight = 5;
+constexpr int barMargin = 4;
 
 }  // namespace
 
@@ -29,14 +18,23 @@ ColorButton::ColorButton(const QString& name, Opacity opacity, QWidget* parent)
     : QToolButton(parent), opacity_(opacity) {
     setText(name);
     setAccessibleName(name);
-    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    setIconSize({swatchSize, swatchSize});
+    setToolButtonStyle(Qt::ToolButtonTextOnly);
     connect(this, &ColorButton::clicked, this, &ColorButton::openPanel);
 }
 
 void ColorButton::setColor(const Color& color) {
     color_ = color;
-    setIcon(swatch(toQColor(color), palette().color(QPalette::Text), devicePixelRatioF()));
+    update();
+}
+
+QSize ColorButton::sizeHint() const { return QToolButton::sizeHint() + QSize(0, 2 * barHeight); }
+
+void ColorButton::paintEvent(QPaintEvent* event) {
+    QToolButton::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.setBrush(toQColor(color_));
+    painter.drawRect(barMargin, height() - barHeight - 2, width() - 2 * barMargin - 1, barHeight);
 }
 
 void ColorButton::openPanel() {

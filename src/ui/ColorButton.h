@@ -6,7 +6,7 @@
 
 namespace marlevo {
 
-/// A button that shows a colour and lets the user choose another in a panel.
+/// A button that shows a colour below its text and lets the user choose another in a panel.
 class ColorButton final : public QToolButton {
     Q_OBJECT
 
@@ -18,8 +18,13 @@ public:
 
     void setColor(const Color& color);
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     void colorChosen(const marlevo::Color& color);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void openPanel();

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
@@ -13,6 +14,7 @@ namespace marlevo {
 namespace {
 
 constexpr int sliderWidth = 100;
+constexpr int labelSpacing = 12;
 
 }  // namespace
 
@@ -23,11 +25,8 @@ ControlRow::ControlRow(const QString& title, DrawingDocument& document, QWidget*
 }
 
 void ControlRow::addButton(const QString& name, Command press) {
-    auto* button = new QToolButton(this);
-    button->setText(name);
-    button->setAccessibleName(name);
-    button->setAutoRaise(false);
-    connect(button, &QToolButton::clicked, this,
+    auto* button = new QPushButton(name, this);
+    connect(button, &QPushButton::clicked, this,
             [this, press = std::move(press)] { press(document_); });
     addWidget(button);
 }
@@ -73,27 +72,26 @@ void ControlRow::addColorButton(const QString& name, ColorButton::Opacity opacit
 
 void ControlRow::addSlider(const QString& name, const QString& unit, int least, int most,
                            Read<double> read, Write<double> write) {
-    auto* label = new QLabel(name + ' ', this);
+    const auto inWords = [name, unit](int value) {
+        return tr("%1: %2%3").arg(name).arg(value).arg(unit);
+    };
+    auto* label = new QLabel(this);
+    label->setFixedWidth(label->fontMetrics().horizontalAdvance(inWords(most)) + labelSpacing);
     auto* slider = new QSlider(Qt::Horizontal, this);
     slider->setAccessibleName(name);
     slider->setRange(least, most);
     slider->setFixedWidth(sliderWidth);
-    auto* value = new QLabel(this);
-    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QString::number(most) + unit) +
-                           8);
-    label->setBuddy(slider);
 
-    followers_.emplace_back(document_, [this, slider, value, unit, read = std::move(read)] {
+    followers_.emplace_back(document_, [this, label, slider, inWords, read = std::move(read)] {
         const QSignalBlocker quiet(slider);
-        const int shown = static_cast<int>(read(document_));
-        slider->setValue(shown);
-        value->setText(' ' + QString::number(shown) + unit);
+        const int value = static_cast<int>(read(document_));
+        slider->setValue(value);
+        label->setText(inWords(value));
     });
     connect(slider, &QSlider::valueChanged, this,
-            [this, write = std::move(write)](int number) { write(document_, number); });
+            [this, write = std::move(write)](int value) { write(document_, value); });
     addWidget(label);
     addWidget(slider);
-    addWidget(value);
 }
 
 }  // namespace marlevo

@@ -37,7 +37,7 @@ public:
     void addColorButton(const QString& name, ColorButton::Opacity opacity, Read<Color> read,
                         Write<Color> write);
 
-    /// A slider over whole numbers of `unit`, with its value in words beside it.
+    /// A slider over whole numbers of `unit`, with its name and value in words beside it.
     void addSlider(const QString& name, const QString& unit, int least, int most, Read<double> read,
                    Write<double> write);
 

@@ -1,19 +1,138 @@
 #include "model/DrawingDocument.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace marlevo {
 namespace {
 
-TEST(StrokeCapture, PutsTheFinishedStrokeOnTheActiveLayer) {
+using testing::ElementsAre;
+using P = DocumentProperty;
+using ShapeType = Stroke::ShapeType;
+
+class StrokeCapture : public testing::Test {
+protected:
+    StrokeCapture() {
+        doc.selectedColor = Color{0.1, 0.2, 0.3, 0.4};
+        doc.backgroundColor = Color{0.5, 0.6, 0.7, 1};
+        doc.brushOpacity = 0.5;
+    }
+
+    Stroke draw(std::initializer_list<Point> positions) {
+        doc.beginStroke(*positions.begin());
+        for (const Point* at = positions.begin() + 1; at != positions.end(); ++at)
+            doc.addPointToStroke(*at);
+        const Stroke drawn = **doc.currentStroke;
+        doc.endStroke();
+        return drawn;
+    }
+    const StrokeList& strokes() const { return doc.layers->back().strokes; }
+
     DrawingDocument doc;
-    doc.beginStroke({1, 2});
-    doc.addPointToStroke({3, 4});
-    doc.addPointToStroke({3, 4});
+};
+
+TEST_F(StrokeCapture, TheBrushKeepsEveryPosition) {
+    doc.isFillTool = true;
+    const Stroke brush = draw({{-5, 3}, {1, 1}, {1, 1}, {1e9, 2}});
+    EXPECT_EQ(brush.points, (PointList{{-5, 3}, {1, 1}, {1, 1}, {1e9, 2}}));
+    EXPECT_EQ(brush.color, (Color{0.1, 0.2, 0.3, 0.4}));
+    EXPECT_EQ(brush.lineWidth, 3.0);
+    EXPECT_EQ(brush.opacity, 0.5);
+    EXPECT_EQ(brush.shapeType, ShapeType::freehand);
+    EXPECT_FALSE(brush.isEraser || brush.isFill);
+    ASSERT_EQ(strokes().size(), 1u);
+    EXPECT_EQ(strokes()[0].points, brush.points);
+}
+
+TEST_F(StrokeCapture, TheEraserIsABroadOpaqueStrokeInTheBackgroundOfItsBeginning) {
+    doc.isEraser = true;
+    doc.beginStroke({0, 0});
+    doc.backgroundColor = black;
+    doc.lineWidth = 1;
+    doc.addPointToStroke({1, 1});
     doc.endStroke();
-    ASSERT_EQ(doc.activeLayer()->strokes.size(), 1u);
-    EXPECT_EQ(doc.activeLayer()->strokes[0].points, (PointList{{1, 2}, {3, 4}, {3, 4}}));
+    EXPECT_EQ(strokes()[0].color, (Color{0.5, 0.6, 0.7, 1}));
+    EXPECT_EQ(strokes()[0].lineWidth, 24.0);
+    EXPECT_EQ(strokes()[0].opacity, 1.0);
+    EXPECT_TRUE(strokes()[0].isEraser);
+}
+
+TEST_F(StrokeCapture, AShapeHasTwoPointsAndBeatsTheEraser) {
+    doc.isEraser = true;
+    doc.isShapeTool = true;
+    const Stroke shape = draw({{0, 0}, {5, 5}, {9, 1}, {2, 3}});
+    EXPECT_EQ(shape.points, (PointList{{0, 0}, {2, 3}}));
+    EXPECT_EQ(shape.shapeType, ShapeType::rect);
+    EXPECT_EQ(shape.color, (Color{0.1, 0.2, 0.3, 0.4}));
+    EXPECT_FALSE(shape.isEraser);
+
+    doc.currentShapeType = ShapeType::line;
+    draw({{7, 7}});
+    EXPECT_EQ(strokes()[1].points, (PointList{{7, 7}, {7, 7}}));
+}
+
+TEST_F(StrokeCapture, AStrokeThatNeverMovedLeavesOnlyItsSnapshot) {
+    draw({{1, 1}, {2, 2}});
+    doc.undo();
+    draw({{1, 1}});
+    EXPECT_TRUE(strokes().isEmpty());
+    EXPECT_FALSE(doc.canRedo());
+    EXPECT_TRUE(doc.canUndo());
     EXPECT_FALSE(doc.currentStroke->has_value());
+}
+
+TEST_F(StrokeCapture, TheLayerActiveAtTheEndReceivesTheStroke) {
+    doc.ensureLayers();
+    doc.addLayer();
+    doc.toggleLayerVisibility(0);
+    doc.beginStroke({0, 0});
+    doc.addPointToStroke({1, 1});
+    doc.activeLayerIndex = 0;
+    doc.endStroke();
+    EXPECT_EQ(doc.layers->front().strokes.size(), 1u);
+
+    doc.beginStroke({0, 0});
+    doc.addPointToStroke({1, 1});
+    doc.activeLayerIndex = -1;
+    doc.endStroke();
+    EXPECT_EQ(doc.layers->front().strokes.size(), 1u);
+    EXPECT_TRUE(doc.layers->back().strokes.isEmpty());
+    EXPECT_FALSE(doc.currentStroke->has_value());
+}
+
+TEST_F(StrokeCapture, PublishesTheStrokeInItsLayerBeforeItLeavesTheHand) {
+    std::vector<P> told;
+    Reader reader(doc.changeRegistry(), [&](P property) { told.push_back(property); });
+    reader.observe([&] {
+        (void)*doc.layers, (void)*doc.activeLayerIndex, (void)*doc.currentStroke;
+        (void)doc.canUndo(), (void)doc.canRedo();
+    });
+    doc.addPointToStroke({1, 1});
+    EXPECT_TRUE(told.empty());
+    doc.beginStroke({0, 0});
+    EXPECT_THAT(told, ElementsAre(P::layers, P::undoStack, P::redoStack, P::currentStroke));
+    told.clear();
+    doc.addPointToStroke({1, 1});
+    EXPECT_THAT(told, ElementsAre(P::currentStroke));
+    told.clear();
+    doc.endStroke();
+    EXPECT_THAT(told, ElementsAre(P::layers, P::currentStroke));
+    told.clear();
+    doc.endStroke();
+    EXPECT_THAT(told, ElementsAre(P::currentStroke));
+}
+
+TEST_F(StrokeCapture, AHeldCopyOfTheStrokeInProgressStaysAsItWas) {
+    doc.beginStroke({0, 0});
+    doc.addPointToStroke({1, 1});
+    const Stroke held = **doc.currentStroke;
+    doc.addPointToStroke({2, 2});
+    const Point* const place = (*doc.currentStroke)->points.span().data();
+    EXPECT_EQ(held.points.size(), 2u);
+    doc.addPointToStroke({3, 3});
+    EXPECT_EQ((*doc.currentStroke)->points.span().data(), place);
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ SavePanel::SavePanel(const SavePanelRequest& request, QWidget* parent) : QFileDi
     setOptions(DontUseNativeDialog | DontConfirmOverwrite);
     setWindowTitle(QString::fromStdString(request.title));
     setAcceptMode(AcceptSave);
+    setLabelText(LookIn, tr("Save in:"));
     setFileMode(AnyFile);
     if (!extensions_.isEmpty()) {
         setNameFilter(QStringLiteral("%1 (*.%2)")

@@ -1,0 +1,359 @@
+#include "model/StrokeList.h"
+
+#include "model/StrokeDifference.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <random>
+#include <thread>
+#include <vector>
+
+namespace marlevo {
+namespace {
+
+/// A stroke that can be told from others by its colour, somewhere in 1000 × 1000.
+Stroke makeStroke(double mark, std::mt19937& random) {
+    std::uniform_real_distribution<double> position(0, 1000);
+    std::uniform_real_distribution<double> width(0, 20);
+    const Point start{position(random), position(random)};
+    Stroke stroke;
+    stroke.points = {start, {start.x + width(random), start.y + width(random)}};
+    stroke.color.red = mark;
+    stroke.lineWidth = width(random);
+    return stroke;
+}
+
+bool same(const Stroke& a, const Stroke& b) {
+    return a.points == b.points && a.color == b.color && a.lineWidth == b.lineWidth;
+}
+
+/// A list and the plain vector that it must equal.
+struct Twin {
+    StrokeList list;
+    std::vector<Stroke> plain;
+
+    void append(const Stroke& stroke) {
+        list.append(stroke);
+        plain.push_back(stroke);
+    }
+    void erase(std::size_t at) {
+        list.erase(at);
+        plain.erase(plain.begin() + at);
+    }
+    void replace(std::size_t at, const Stroke& stroke) {
+        list.replace(at, stroke);
+        plain[at] = stroke;
+    }
+    void modify(std::size_t at) {
+        const auto change = [](Stroke& stroke) {
+            stroke.points = {{-1, -1}, {2000, 3}};
+            stroke.color.green += 1;
+        };
+        list.modify(at, change);
+        change(plain[at]);
+    }
+    void clear() {
+        list.clear();
+        plain.clear();
+    }
+
+    void check() const {
+        ASSERT_EQ(list.size(), plain.size());
+        ASSERT_TRUE(std::equal(list.begin(), list.end(), plain.begin(), plain.end(), same));
+        StrokeSummary sum;
+        for (const Stroke& stroke : plain)
+            sum.add(StrokeSummary::of(stroke));
+        const StrokeSummary summary = list.summary();
+        EXPECT_EQ(summary.count, sum.count);
+        EXPECT_EQ(summary.minX, sum.minX);
+        EXPECT_EQ(summary.minY, sum.minY);
+        EXPECT_EQ(summary.maxX, sum.maxX);
+        EXPECT_EQ(summary.maxY, sum.maxY);
+        EXPECT_EQ(summary.maxLineWidth, sum.maxLineWidth);
+    }
+};
+
+class RandomEdits {
+public:
+    explicit RandomEdits(unsigned seed) : random_(seed) {}
+
+    std::size_t below(std::size_t limit) {
+        return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random_);
+    }
+    Stroke stroke() { return makeStroke(++made_, random_); }
+
+    void step(Twin& twin) {
+        const std::size_t choice = below(100);
+        const std::size_t size = twin.plain.size();
+        if (size == 0 || choice < 45) {
+            // Runs of strokes, so that leaves and branches fill up and spill over.
+            for (std::size_t n = below(choice < 3 ? 3000 : 40); n > 0; --n)
+                twin.append(stroke());
+        } else if (choice < 60) {
+            for (std::size_t n = std::min(size, below(60)), at = below(size); n > 0; --n)
+                twin.erase(std::min(at, twin.plain.size() - 1));
+        } else if (choice < 75) {
+            twin.erase(below(2) ? size - 1 : below(size));
+        } else if (choice < 87) {
+            twin.replace(below(size), stroke());
+        } else if (choice < 99) {
+            twin.modify(below(size));
+        } else if (below(3) == 0) {
+            twin.clear();
+        }
+    }
+
+private:
+    std::mt19937 random_;
+    double made_ = 0;
+};
+
+TEST(StrokeList, EqualsAVectorThroughRandomEditsAndKeepsOldVersions) {
+    for (unsigned seed = 1; seed <= 3; ++seed) {
+        RandomEdits edits(seed);
+        std::vector<Twin> versions(1);
+        for (int step = 0; step < 1500; ++step) {
+            // Mostly go on with the newest version, at times from an older one, at times alone.
+            Twin next =
+                edits.below(10) == 0 ? versions[edits.below(versions.size())] : versions.back();
+            if (edits.below(8) == 0) versions.clear();
+            for (std::size_t n = edits.below(4); n > 0; --n)
+                edits.step(next);
+            versions.push_back(std::move(next));
+            if (versions.size() > 12) versions.erase(versions.begin() + edits.below(12));
+            if (step % 100 != 0) continue;
+            for (const Twin& version : versions)
+                ASSERT_NO_FATAL_FAILURE(version.check());
+        }
+        for (const Twin& version : versions) {
+            ASSERT_NO_FATAL_FAILURE(version.check());
+            for (std::size_t at = 0; at < version.plain.size(); at += 7)
+                ASSERT_TRUE(same(version.list[at], version.plain[at]));
+        }
+    }
+}
+
+TEST(StrokeList, ThinsOutToNothingAndGrowsAgain) {
+    RandomEdits edits(7);
+    Twin twin;
+    for (int i = 0; i < 40000; ++i)
+        twin.append(edits.stroke());
+    twin.check();
+    // Thin the whole tree first, so that sparse branches must carry on.
+    for (std::size_t at = 40000; at-- > 0;)
+        if (at % 100 != 0) twin.list.erase(at);
+    ASSERT_EQ(twin.list.size(), 400u);
+    for (std::size_t at = 0; at < 400; ++at)
+        ASSERT_TRUE(same(twin.list[at], twin.plain[at * 100]));
+    while (!twin.list.isEmpty())
+        twin.list.erase(twin.list.size() / 2);
+    EXPECT_TRUE(twin.list.begin() == twin.list.end());
+    twin.plain.clear();
+    for (int i = 0; i < 2000; ++i)
+        twin.append(edits.stroke());
+    twin.check();
+}
+
+TEST(StrokeList, ChangesInPlaceOnlyWhenAlone) {
+    RandomEdits edits(1);
+    StrokeList list;
+    for (int i = 0; i < 5000; ++i)
+        list.append(edits.stroke());
+
+    for (const std::size_t at : {std::size_t{100}, list.size() - 1}) {
+        const Stroke* const place = &list[at];
+        list.modify(at, [](Stroke& stroke) { stroke.opacity = 0.5; });
+        EXPECT_EQ(&list[at], place);
+
+        const StrokeList snapshot = list;
+        list.modify(at, [](Stroke& stroke) { stroke.opacity = 0.25; });
+        EXPECT_NE(&list[at], place);
+        EXPECT_EQ(&snapshot[at], place);
+        EXPECT_EQ(snapshot[at].opacity, 0.5);
+        EXPECT_EQ(&list[at - 1], &snapshot[at - 1]);
+    }
+}
+
+TEST(StrokeList, SharesWithCopiesUntilOneChanges) {
+    RandomEdits edits(2);
+    for (const int size : {0, 5, 32, 1000}) {
+        StrokeList list;
+        for (int i = 0; i < size; ++i)
+            list.append(edits.stroke());
+        StrokeList copy = list;
+        EXPECT_TRUE(copy.sharesWith(list));
+        copy.append(edits.stroke());
+        EXPECT_FALSE(copy.sharesWith(list));
+        EXPECT_EQ(list.size(), static_cast<std::size_t>(size));
+        // The same place in the open leaf, wanted twice.
+        list.append(edits.stroke());
+        EXPECT_FALSE(copy.sharesWith(list));
+        EXPECT_FALSE(same(copy[size], list[size]));
+    }
+}
+
+TEST(StrokeList, FreesTheSpareMemoryOfAppendedPointsAndLeavesTheirOtherOwnersAlone) {
+    Stroke stroke;
+    for (int i = 0; i < 40; ++i)
+        stroke.points.append({1.0 * i, 2.0 * i});
+    StrokeList list;
+    list.append(stroke);
+    EXPECT_FALSE(list[0].points.sharesWith(stroke.points));
+    EXPECT_EQ(list[0].points, stroke.points);
+    Stroke again = list[0];
+    list.append(again);
+    EXPECT_TRUE(list[1].points.sharesWith(again.points));
+}
+
+TEST(StrokeList, VisitsWhatThePlainScanFindsInOrder) {
+    RandomEdits edits(3);
+    Twin twin;
+    for (int i = 0; i < 4000; ++i)
+        twin.append(edits.stroke());
+    Stroke lost = edits.stroke();
+    lost.points = {{5, 5}, {std::numeric_limits<double>::quiet_NaN(), 5}, {6, 6}};
+    twin.replace(1234, lost);
+    Stroke wide = edits.stroke();
+    wide.lineWidth = std::numeric_limits<double>::quiet_NaN();
+    twin.replace(3999, wide);
+
+    for (int i = 0; i < 200; ++i) {
+        const auto upTo = [&](std::size_t limit) {
+            return static_cast<double>(edits.below(limit));
+        };
+        const Rect area{{upTo(1000), upTo(1000)}, {upTo(30), upTo(30)}};
+        std::vector<std::size_t> expected;
+        for (std::size_t at = 0; at < twin.plain.size(); ++at) {
+            const Stroke& stroke = twin.plain[at];
+            const Rect painted = stroke.boundingRect().grownBy(stroke.lineWidth / 2);
+            if (at == 1234 || at == 3999 ||
+                (painted.minX() <= area.maxX() && painted.maxX() >= area.minX() &&
+                 painted.minY() <= area.maxY() && painted.maxY() >= area.minY()))
+                expected.push_back(at);
+        }
+        std::vector<std::size_t> found;
+        twin.list.forEachTouching(area, [&](std::size_t at, const Stroke& stroke) {
+            ASSERT_EQ(stroke.color, twin.plain[at].color);
+            found.push_back(at);
+        });
+        ASSERT_EQ(found, expected);
+    }
+}
+
+TEST(StrokeList, VisitSkipsSubtreesAndStopsWhenTold) {
+    RandomEdits edits(4);
+    StrokeList list;
+    for (int i = 0; i < 30000; ++i) {
+        Stroke stroke = edits.stroke();
+        stroke.points = {{1.0 * i, 0}, {1.0 * i, 1}};
+        list.append(stroke);
+    }
+    int asked = 0;
+    std::vector<std::size_t> found;
+    const bool finished = list.visit(
+        [&](const StrokeSummary& summary) {
+            ++asked;
+            return summary.reaches({{12345, 0}, {2, 0}}, 0);
+        },
+        [&](std::size_t index, const Stroke&) {
+            found.push_back(index);
+            return found.size() < 2;
+        });
+    EXPECT_FALSE(finished);
+    EXPECT_EQ(found, (std::vector<std::size_t>{12345, 12346}));
+    EXPECT_LT(asked, 150);
+}
+
+TEST(StrokeDifference, IsExactBetweenAnyTwoVersions) {
+    RandomEdits edits(5);
+    std::vector<Twin> versions(1);
+    for (int step = 0; step < 400; ++step) {
+        Twin next = edits.below(4) == 0 ? versions[edits.below(versions.size())] : versions.back();
+        for (std::size_t n = edits.below(6); n > 0; --n)
+            edits.step(next);
+        versions.push_back(std::move(next));
+        if (versions.size() > 8) versions.erase(versions.begin());
+
+        const StrokeList& before = versions[edits.below(versions.size())].list;
+        const StrokeList& after = versions[edits.below(versions.size())].list;
+        const auto only = [](const StrokeList& in, const StrokeList& notIn) {
+            std::vector<const Stroke*> others;
+            for (const Stroke& stroke : notIn)
+                others.push_back(&stroke);
+            std::ranges::sort(others);
+            std::vector<const Stroke*> rest;
+            for (const Stroke& stroke : in)
+                if (!std::ranges::binary_search(others, &stroke)) rest.push_back(&stroke);
+            return rest;
+        };
+        const StrokeDifference difference = StrokeDifference::between(before, after);
+        ASSERT_EQ(difference.went, only(before, after));
+        ASSERT_EQ(difference.came, only(after, before));
+    }
+}
+
+TEST(StrokeDifference, ReportsOnlyTheEditedStroke) {
+    RandomEdits edits(6);
+    StrokeList before;
+    for (int i = 0; i < 10000; ++i)
+        before.append(edits.stroke());
+
+    StrokeList after = before;
+    EXPECT_TRUE(StrokeDifference::between(before, after).went.empty());
+
+    after.erase(3000);
+    const auto erased = StrokeDifference::between(before, after);
+    EXPECT_EQ(erased.went, std::vector{&before[3000]});
+    EXPECT_TRUE(erased.came.empty());
+
+    after = before;
+    after.modify(3000, [](Stroke& stroke) { stroke.opacity = 0.1; });
+    const auto modified = StrokeDifference::between(before, after);
+    EXPECT_EQ(modified.went, std::vector{&before[3000]});
+    EXPECT_EQ(modified.came, std::vector{&after[3000]});
+
+    // Enough appends to close the open leaf that both share.
+    after = before;
+    for (int i = 0; i < 40; ++i)
+        after.append(edits.stroke());
+    const auto appended = StrokeDifference::between(before, after);
+    EXPECT_TRUE(appended.went.empty());
+    ASSERT_EQ(appended.came.size(), 40u);
+    EXPECT_EQ(appended.came.front(), &after[10000]);
+    EXPECT_EQ(appended.came.back(), &after[10039]);
+}
+
+TEST(StrokeList, CopiesLiveOnOtherThreadsWhileTheListChanges) {
+    RandomEdits edits(8);
+    StrokeList list;
+    for (int i = 0; i < 2000; ++i)
+        list.append(edits.stroke());
+    for (int round = 0; round < 20; ++round) {
+        std::vector<std::thread> readers;
+        const Stroke extra = edits.stroke();
+        for (int reader = 0; reader < 3; ++reader) {
+            readers.emplace_back([copy = list, extra]() mutable {
+                const StrokeSummary before = copy.summary();
+                StrokeSummary sum;
+                for (const Stroke& stroke : copy)
+                    sum.add(StrokeSummary::of(stroke));
+                EXPECT_EQ(sum.count, before.count);
+                EXPECT_EQ(sum.maxX, before.maxX);
+                for (int i = 0; i < 10; ++i)
+                    copy.append(extra);
+            });
+        }
+        for (int i = 0; i < 15; ++i)
+            list.append(edits.stroke());
+        list.erase(edits.below(list.size()));
+        list.modify(edits.below(list.size()), [](Stroke& stroke) { stroke.opacity = 1; });
+        for (std::thread& reader : readers)
+            reader.join();
+    }
+    EXPECT_EQ(list.size(), 2000u + 20 * 14);
+}
+
+}  // namespace
+}  // namespace marlevo
