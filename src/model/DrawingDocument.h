@@ -135,11 +135,8 @@ private:
 
     std::optional<RasterImage> renderForFill() const;
 
-    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
+    /// Draws the visible layers in a frame whose y grows upwards; canvas y = `height` lies at 0.
     void drawLayers(GraphicsContext& context, double height) const;
-    void drawLayer(GraphicsContext& context, const Layer& layer, double height) const;
-    void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
-    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
     mutable DecodedImages decodedImages_;
