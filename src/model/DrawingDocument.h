@@ -119,12 +119,22 @@ public:
     /// One layer on white, stretched to the given size; its visibility does not matter.
     std::optional<RasterImage> renderSingleLayer(const Layer& layer, Size size) const;
 
-    // ---- Export (io/) ---------------------------------------------------------------------------
+    // ---- Export, print, clipboard (io/) ---------------------------------------------------------
     /// Writes the picture to the file, replacing it. Failures are silent.
     void exportTo(const std::filesystem::path& file, ExportFormat format);
 
     /// Asks for a file in a save panel, then exports to it.
     void performExport(ExportFormat format);
+
+    /// The picture as a PDF file of one page, one point a canvas pixel, strokes as paths. Nothing
+    /// when a page cannot have the canvas's size (PdfContext::isPageSize) or memory is short.
+    std::optional<std::vector<std::uint8_t>> renderPDFData() const;
+
+    /// Sends the picture to the print dialog, after the current event. Failures are silent.
+    void printDocument();
+
+    /// Replaces the pasteboard's contents by the picture; leaves them when there is no picture.
+    void copyToClipboard();
 
 private:
     /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
