@@ -16,8 +16,12 @@ build_preset() {
 with_display() {
     # shellcheck disable=SC2016
     xvfb-run -a -s "-screen 0 1600x1000x24" bash -c '
-        openbox >/dev/null 2>&1 &
+        scratch=$(mktemp -d)
+        mkfifo "$scratch/ready"
+        # Windows opened while the manager starts are hidden and shown again under their feet.
+        openbox --startup "tee $scratch/ready" </dev/null >/dev/null 2>&1 &
         manager=$!
-        trap "kill $manager 2>/dev/null" EXIT
+        trap "kill $manager 2>/dev/null; rm -r $scratch" EXIT
+        cat "$scratch/ready" >/dev/null
         "$@"' with_display "$@"
 }

@@ -86,6 +86,24 @@ struct BitmapContext::Rasterizer {
         return !flattened.isEmpty();
     }
 
+    /// The pen is `width` high and `stretch` times as wide on the device: the outline is made in a
+    /// frame without the stretch, where the pen is round.
+    void strokeByOutline(const Path& path, double width, double stretch, PackedColor color) {
+        VisibleRange visible = visibleRange(target.area, width / 2 * std::max(stretch, 1.0));
+        if (!isInSight(path, state.frame, visible)) return;
+        visible.left /= stretch;
+        visible.right /= stretch;
+        DeviceFrame unstretched = state.frame;
+        unstretched.scaleX /= stretch;
+        unstretched.originX /= stretch;
+        const double tolerance = flatteningTolerance / std::max(stretch, 1.0);
+        flatten(path, unstretched, tolerance, flattened, SubPathEnds::asGiven, visible);
+        strokeOutline(flattened, width, tolerance, outline);
+        for (Point& p : outline.points)
+            p.x *= stretch;
+        fillOutline(outline, target, color);
+    }
+
     void fillPixels(const IntRect& rect, PackedColor color) {
         const IntRect visible = rect.intersectedWith(target.area);
         if (visible.isEmpty()) return;
@@ -144,17 +162,15 @@ void BitmapContext::fillPath(const Path& path, const Color& color) {
 void BitmapContext::strokePath(const Path& path, const Color& color, double lineWidth) {
     const DeviceFrame& frame = rasterizer_->state.frame;
     const PackedColor packed = rasterizer_->pack(color);
-    const double scaleX = std::abs(frame.scaleX);
-    const double scaleY = std::abs(frame.scaleY);
-    const double width = lineWidth * std::max(scaleX, scaleY);
-    if (packed.alpha == 0 || !(width > 0)) return;
-    if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return;
+    const double width = lineWidth * std::abs(frame.scaleY);
+    const double stretch = std::abs(frame.scaleX / frame.scaleY);
+    if (packed.alpha == 0 || !(width > 0) || !(stretch > 0)) return;
     // The choice must not depend on the target, or its bands would not fit together.
-    if (scaleX == scaleY && width <= maxWidthByDistance) {
+    if (stretch == 1 && width <= maxWidthByDistance) {
+        if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return;
         strokeByDistance(rasterizer_->flattened, width, rasterizer_->target, packed);
     } else {
-        strokeOutline(rasterizer_->flattened, lineWidth, scaleX, scaleY, rasterizer_->outline);
-        fillOutline(rasterizer_->outline, rasterizer_->target, packed);
+        rasterizer_->strokeByOutline(path, width, stretch, packed);
     }
 }
 

@@ -39,12 +39,12 @@ public:
     void blendInto(const PixelBuffer& target, PackedColor color);
 
 private:
-    void addWithinRow(std::size_t row, std::int32_t xa, std::int32_t ya, std::int32_t xb,
-                      std::int32_t yb, const OutlineEdge& edge, std::int64_t yPerX);
-    void addToCell(std::size_t row, std::int32_t column, std::int32_t cover, std::int32_t twiceX);
-    void markDirty(std::size_t row, std::int32_t column);
+    struct EdgeLine;
+    struct EdgePiece;
 
-    void blendRow(std::size_t row, const PixelBuffer& target, PackedColor color);
+    void addPair(std::size_t row, const EdgePiece& piece, const EdgeLine& line);
+    void addPiece(std::size_t row, const EdgePiece& piece, const EdgeLine& line);
+    void markDirty(std::size_t row, std::int32_t column);
 
     IntRect area_;
     std::size_t rowCells_ = 0;  ///< whole blocks, with room for the cell behind the last column
@@ -52,7 +52,6 @@ private:
     std::vector<std::int32_t> cells_;      ///< differences of the running sum, row by row
     std::vector<std::int32_t> leftCover_;  ///< the running sum at the start of each row
     std::vector<std::uint64_t> dirty_;     ///< one bit a block of cells that is not all 0
-    std::vector<std::uint8_t> coverage_;   ///< of one row
 };
 
 }  // namespace marlevo

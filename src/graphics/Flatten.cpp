@@ -10,7 +10,7 @@ namespace marlevo {
 namespace {
 
 // Enough for a curve that bends by 50,000 pixels; beyond, the tolerance gives way, not the memory.
-constexpr double maxSegmentsPerCurve = 512;
+constexpr int maxSegmentsPerCurve = 512;
 
 bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
@@ -37,6 +37,18 @@ public:
         current_ = p;
     }
 
+    /// Draws `count` segments to points that the caller then writes, the last of them `last`; all
+    /// are in range, and so is the current point.
+    Point* addSegmentsInRange(int count, Point last) {
+        if (!isDrawing_) begin();
+        current_ = last;
+        const std::size_t before = out_.points.size();
+        out_.points.resize(before + static_cast<std::size_t>(count));
+        return out_.points.data() + before;
+    }
+
+    static bool isInRange(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
+
     /// Joins the sub-path to its start, where the pen then is.
     void close() {
         // The joining segment of points outside the range does not join their images on the border.
@@ -61,8 +73,6 @@ public:
 
 private:
     static constexpr double limit = FlattenedPath::maxCoordinate;
-
-    static bool isInRange(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
 
     static Point nearestInRange(Point p) {
         return {std::clamp(p.x, -limit, limit), std::clamp(p.y, -limit, limit)};
@@ -143,27 +153,41 @@ private:
         builder_.lineTo(to);
     }
 
-    // Equal steps of the parameter: a piece of length h strays from its chord by h² / 4 of the
-    // curve's second difference.
     void addQuadCurve(Point control, Point to) {
         if (!builder_.hasCurrent()) builder_.moveTo(control);
         const Point from = builder_.current();
-        const auto [minX, maxX] = std::minmax({from.x, control.x, to.x});
-        const auto [minY, maxY] = std::minmax({from.y, control.y, to.y});
-        if (!isOutOfSight(minX, maxX, minY, maxY)) {
-            const Point bend{from.x - 2 * control.x + to.x, from.y - 2 * control.y + to.y};
-            const Point slope{2 * (control.x - from.x), 2 * (control.y - from.y)};
-            const double bendLength = std::sqrt(bend.x * bend.x + bend.y * bend.y);
-            const double count =
-                std::min(std::ceil(std::sqrt(bendLength / (4 * tolerance_))), maxSegmentsPerCurve);
-            const double step = 1 / count;
-            for (double i = 1; i < count; ++i) {
-                const double t = i * step;
-                builder_.lineTo(
-                    {from.x + t * (slope.x + t * bend.x), from.y + t * (slope.y + t * bend.y)});
-            }
+        const Point bend{from.x - 2 * control.x + to.x, from.y - 2 * control.y + to.y};
+        const int count =
+            isOutOfSight(std::min({from.x, control.x, to.x}), std::max({from.x, control.x, to.x}),
+                         std::min({from.y, control.y, to.y}), std::max({from.y, control.y, to.y}))
+                ? 1
+                : segmentsPerCurve(bend);
+        const Point slope{2 * (control.x - from.x), 2 * (control.y - from.y)};
+        const double step = 1.0 / count;
+        const auto pointAt = [&](int i) {
+            const double t = i * step;
+            return Point{from.x + t * (slope.x + t * bend.x), from.y + t * (slope.y + t * bend.y)};
+        };
+        // The curve stays in the triangle of its three points.
+        if (PolylineBuilder::isInRange(from) && PolylineBuilder::isInRange(control) &&
+            PolylineBuilder::isInRange(to)) {
+            Point* const points = builder_.addSegmentsInRange(count, to);
+            for (int i = 1; i < count; ++i)
+                points[i - 1] = pointAt(i);
+            points[count - 1] = to;
+        } else {
+            for (int i = 1; i < count; ++i)
+                builder_.lineTo(pointAt(i));
+            builder_.lineTo(to);
         }
-        builder_.lineTo(to);
+    }
+
+    // Equal steps of the parameter: a piece of length h strays from its chord by h² / 4 of the
+    // curve's second difference.
+    int segmentsPerCurve(Point bend) const {
+        const double bendLength = std::sqrt(bend.x * bend.x + bend.y * bend.y);
+        const double count = std::sqrt(bendLength / (4 * tolerance_));
+        return 1 + static_cast<int>(std::min(count, maxSegmentsPerCurve - 1.0));
     }
 
     void addRect(const Rect& rect) {
@@ -206,7 +230,7 @@ private:
         if (radius <= tolerance_) return 1;
         const double step = 2 * std::acos(1 - tolerance_ / radius);
         const double count = std::ceil(std::numbers::pi / 2 / step);
-        return static_cast<int>(std::min(count, maxSegmentsPerCurve));
+        return static_cast<int>(std::min<double>(count, maxSegmentsPerCurve));
     }
 
     const DeviceFrame& frame_;

@@ -15,8 +15,9 @@ struct MeasuredSegment {
         const double dx = b.x - a.x;
         const double dy = b.y - a.y;
         const double length = std::sqrt(dx * dx + dy * dy);
-        cosine = length > 0 ? dx / length : 1;
-        sine = length > 0 ? dy / length : 0;
+        const double perLength = length > 0 ? 1 / length : 0;
+        cosine = length > 0 ? dx * perLength : 1;
+        sine = dy * perLength;
         halfLength = length * 0.5;
     }
 

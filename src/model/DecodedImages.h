@@ -2,7 +2,7 @@
 
 #include "graphics/RasterImage.h"
 #include "model/Bytes.h"
-#include "model/Layer.h"
+#include "model/LayerList.h"
 
 #include <cstddef>
 #include <optional>

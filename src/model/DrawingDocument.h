@@ -5,7 +5,7 @@
 #include "model/CanvasSize.h"
 #include "model/DecodedImages.h"
 #include "model/ExportFormat.h"
-#include "model/Layer.h"
+#include "model/LayerList.h"
 #include "model/Property.h"
 #include "platform/Services.h"
 

@@ -4,11 +4,8 @@
 #include "model/StrokeList.h"
 #include "model/Uuid.h"
 
-#include <cstdint>
-#include <iterator>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace marlevo {
 
@@ -26,13 +23,5 @@ struct Layer {
     std::optional<Bytes> thumbnail;
     std::optional<Bytes> imageData;  ///< an encoded image file, drawn below the strokes
 };
-
-/// Index 0 lies lowest and is drawn first.
-using LayerList = std::vector<Layer>;
-
-/// True when a layer has the index, which may come from anywhere and also be negative.
-inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
-    return index >= 0 && index < std::ssize(layers);
-}
 
 }  // namespace marlevo

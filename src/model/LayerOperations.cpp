@@ -15,7 +15,7 @@ void DrawingDocument::addLayer() {
 void DrawingDocument::deleteLayer(std::int64_t at) {
     if (layers->size() < 2 || !isValidIndex(at, *layers)) return;
     saveState();
-    layers.modify([&](LayerList& all) { all.erase(all.begin() + at); });
+    layers.modify([&](LayerList& all) { all.erase(at); });
     clampActiveLayerIndex();
 }
 
@@ -23,8 +23,8 @@ void DrawingDocument::moveLayer(std::int64_t from, std::int64_t to) {
     if (!isValidIndex(from, *layers) || !isValidIndex(to, *layers)) return;
     saveState();
     Layer layer = (*layers)[from];
-    layers.modify([&](LayerList& all) { all.erase(all.begin() + from); });
-    layers.modify([&](LayerList& all) { all.insert(all.begin() + to, std::move(layer)); });
+    layers.modify([&](LayerList& all) { all.erase(from); });
+    layers.modify([&](LayerList& all) { all.insert(to, std::move(layer)); });
     activeLayerIndex = to;
 }
 

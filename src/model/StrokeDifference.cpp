@@ -68,6 +68,7 @@ std::vector<const Stroke*> strokes(const std::vector<Run>& runs) {
 }  // namespace
 
 StrokeDifference StrokeDifference::between(const StrokeList& before, const StrokeList& after) {
+    if (before.sharesWith(after)) return {};
     Nodes a;
     Nodes b;
     if (before.tree_) a.push_back(before.tree_.get());

@@ -83,10 +83,10 @@ void CanvasView::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
 }
 
-void CanvasView::changeEvent(QEvent* event) {
+bool CanvasView::event(QEvent* event) {
     // Whoever took the window's place may keep the release to himself.
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow()) endInterruptedDrag();
-    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowDeactivate) endInterruptedDrag();
+    return QWidget::event(event);
 }
 
 /// In view points from the canvas's top left corner. An event's position in a child widget is cut

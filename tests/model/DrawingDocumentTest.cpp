@@ -7,6 +7,7 @@
 #include <limits>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -206,6 +207,25 @@ TEST_F(LayerOperations, UndoAndRedoPublishInOrderAndOnlyClampFromAbove) {
     doc.ensureLayers();
     doc.undo();
     EXPECT_EQ(*doc.activeLayerIndex, -1);
+}
+
+TEST(LayerList, SharesTheLayersThatDidNotChange) {
+    LayerList layers{Layer("a"), Layer("b"), Layer("c")};
+    const LayerList snapshot = layers;
+    layers[1].name = "changed";
+    const Layer* const own = &layers[1];
+    layers[1].opacity = 0.5;
+    EXPECT_EQ(own, &layers[1]);
+    EXPECT_EQ(snapshot[1].name, "b");
+    EXPECT_TRUE(snapshot[1].id == std::as_const(layers)[1].id);
+    layers.erase(0);
+    layers.insert(1, Layer("new"));
+    EXPECT_EQ(&std::as_const(layers).back(), &snapshot.back());
+    std::vector<std::string> names;
+    for (const Layer& layer : layers)
+        names.push_back(layer.name);
+    EXPECT_THAT(names, ElementsAre("changed", "new", "c"));
+    EXPECT_EQ(snapshot.size(), 3u);
 }
 
 TEST(CanvasSize, PresetsHaveIdentitiesOfTheirOwn) {

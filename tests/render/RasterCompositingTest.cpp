@@ -39,7 +39,7 @@ protected:
             }
         }
         document.layers.modify([&](LayerList& layers) {
-            layers.emplace_back("Image");
+            layers.push_back(Layer("Image"));
             layers.back().imageData.emplace(std::move(file));
             layers.back().opacity = opacity;
         });

@@ -1,0 +1,301 @@
+// Draws the same scenes with our rasteriser, cairo and Qt, and prints one table: the time a shape
+// takes each, our lead, the time of only blending the pixels that our drawing covers, and how far
+// each strays from a supersampled truth.
+
+#include "bench/RasterScenes.h"
+#include "bench/SupersampledTruth.h"
+#include "graphics/BitmapContext.h"
+#include "graphics/Blend.h"
+
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <cairo.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <vector>
+
+namespace marlevo::bench {
+
+namespace {
+
+/// Pixels in the order blue, green, red, alpha, which all three can draw on.
+struct Picture {
+    std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(4 * sceneWidth * sceneHeight);
+
+    PixelBuffer buffer() {
+        return {bytes.data(), 4 * sceneWidth, {0, 0, sceneWidth, sceneHeight}, PixelOrder::bgra};
+    }
+};
+
+void drawOurs(const std::vector<Shape>& shapes, Picture& picture) {
+    BitmapContext context(picture.buffer(), DeviceFrame::yDown(1));
+    for (const Shape& shape : shapes) {
+        context.setAlpha(shape.opacity);
+        if (shape.lineWidth == 0) {
+            context.fillPath(shape.path, shape.color);
+        } else {
+            context.strokePath(shape.path, shape.color, shape.lineWidth);
+        }
+    }
+}
+
+void addToCairo(cairo_t* cairo, const Path& path) {
+    Point current;
+    for (const Path::Element& e : path.elements()) {
+        const Rect rect = e.rect();
+        switch (e.kind) {
+        case Path::Kind::move:
+            cairo_move_to(cairo, e.point.x, e.point.y);
+            break;
+        case Path::Kind::line:
+            cairo_line_to(cairo, e.point.x, e.point.y);
+            break;
+        case Path::Kind::quadCurve:
+            cairo_curve_to(cairo, current.x + (e.control.x - current.x) * 2 / 3,
+                           current.y + (e.control.y - current.y) * 2 / 3,
+                           e.point.x + (e.control.x - e.point.x) * 2 / 3,
+                           e.point.y + (e.control.y - e.point.y) * 2 / 3, e.point.x, e.point.y);
+            break;
+        case Path::Kind::rect:
+            cairo_rectangle(cairo, e.point.x, e.point.y, rect.size.width, rect.size.height);
+            break;
+        case Path::Kind::ellipse:
+            cairo_save(cairo);
+            cairo_translate(cairo, e.point.x + rect.size.width / 2,
+                            e.point.y + rect.size.height / 2);
+            cairo_scale(cairo, rect.size.width / 2, rect.size.height / 2);
+            cairo_arc(cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
+            cairo_close_path(cairo);
+            cairo_restore(cairo);
+            break;
+        }
+        current = e.point;
+    }
+}
+
+void drawCairo(const std::vector<Shape>& shapes, Picture& picture) {
+    cairo_surface_t* const surface = cairo_image_surface_create_for_data(
+        picture.bytes.data(), CAIRO_FORMAT_ARGB32, sceneWidth, sceneHeight, 4 * sceneWidth);
+    cairo_t* const cairo = cairo_create(surface);
+    cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
+    cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
+    for (const Shape& shape : shapes) {
+        addToCairo(cairo, shape.path);
+        cairo_set_source_rgba(cairo, shape.color.red, shape.color.green, shape.color.blue,
+                              shape.opacity);
+        cairo_set_line_width(cairo, shape.lineWidth);
+        if (shape.lineWidth == 0) {
+            cairo_fill(cairo);
+        } else {
+            cairo_stroke(cairo);
+        }
+    }
+    cairo_destroy(cairo);
+    cairo_surface_destroy(surface);
+}
+
+QPainterPath toQt(const Path& path) {
+    QPainterPath result;
+    result.setFillRule(Qt::WindingFill);
+    for (const Path::Element& e : path.elements()) {
+        const Rect rect = e.rect();
+        switch (e.kind) {
+        case Path::Kind::move:
+            result.moveTo(e.point.x, e.point.y);
+            break;
+        case Path::Kind::line:
+            result.lineTo(e.point.x, e.point.y);
+            break;
+        case Path::Kind::quadCurve:
+            result.quadTo(e.control.x, e.control.y, e.point.x, e.point.y);
+            break;
+        case Path::Kind::rect:
+            result.addRect(e.point.x, e.point.y, rect.size.width, rect.size.height);
+            break;
+        case Path::Kind::ellipse:
+            result.addEllipse(e.point.x, e.point.y, rect.size.width, rect.size.height);
+            break;
+        }
+    }
+    return result;
+}
+
+void drawQt(const std::vector<Shape>& shapes, const std::vector<QPainterPath>& paths,
+            Picture& picture) {
+    QImage image(picture.bytes.data(), sceneWidth, sceneHeight, 4 * sceneWidth,
+                 QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t i = 0; i < shapes.size(); ++i) {
+        const Shape& shape = shapes[i];
+        const QColor color = QColor::fromRgbF(static_cast<float>(shape.color.red),
+                                              static_cast<float>(shape.color.green),
+                                              static_cast<float>(shape.color.blue));
+        painter.setOpacity(shape.opacity);
+        if (shape.lineWidth == 0) {
+            painter.fillPath(paths[i], color);
+        } else {
+            painter.strokePath(
+                paths[i], QPen(color, shape.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        }
+    }
+}
+
+std::vector<QPainterPath> toQt(const std::vector<Shape>& shapes) {
+    std::vector<QPainterPath> paths;
+    for (const Shape& shape : shapes)
+        paths.push_back(toQt(shape.path));
+    return paths;
+}
+
+/// What our drawing of a shape covers, as runs of whole 8-pixel blocks ready to be blended.
+class CoveredRuns {
+public:
+    explicit CoveredRuns(const Shape& shape) : color_(packColor(shape.color, shape.opacity, {})) {
+        Shape opaque = shape;
+        opaque.opacity = 1;
+        Picture picture;
+        drawOurs({opaque}, picture);
+        constexpr int block = 8;
+        bool isRunOpen = false;
+        for (int at = 0; at < sceneWidth * sceneHeight; at += block) {
+            const auto alpha = [&](int i) { return picture.bytes[4 * (at + i) + 3]; };
+            bool isCovered = false;
+            for (int i = 0; i < block; ++i)
+                isCovered |= alpha(i) != 0;
+            if (isCovered && !isRunOpen) runs_.push_back({at, coverage_.size(), 0});
+            isRunOpen = isCovered;
+            if (!isCovered) continue;
+            for (int i = 0; i < block; ++i)
+                coverage_.push_back(alpha(i));
+            runs_.back().count += block;
+        }
+    }
+
+    void blendOnto(Picture& picture) const {
+        for (const Run& run : runs_) {
+            blendSpan(picture.bytes.data() + 4 * run.pixel, coverage_.data() + run.first, run.count,
+                      color_);
+        }
+    }
+
+private:
+    struct Run {
+        int pixel;
+        std::size_t first;
+        std::size_t count;
+    };
+
+    PackedColor color_;
+    std::vector<std::uint8_t> coverage_;
+    std::vector<Run> runs_;
+};
+
+/// Processor time of this thread, so that a busy machine does not count.
+double microseconds(const std::function<void()>& work) {
+    const auto now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e6 + static_cast<double>(time.tv_nsec) / 1e3;
+    };
+    const double start = now();
+    work();
+    return now() - start;
+}
+
+/// The mean over all covered pixels of how far a drawing of single shapes is from the truth.
+class Straying {
+public:
+    void add(const SupersampledTruth& truth, const Picture& picture) {
+        for (std::size_t i = 0; i < picture.bytes.size() / 4; ++i) {
+            const double alpha = picture.bytes[4 * i + 3];
+            const double exact = truth.coverage(i);
+            if (alpha == 0 && exact == 0) continue;
+            sum_ += std::abs(alpha - exact);
+            ++count_;
+        }
+    }
+    double mean() const { return sum_ / static_cast<double>(count_); }
+
+private:
+    double sum_ = 0;
+    std::size_t count_ = 0;
+};
+
+void measure(const Scene& scene, int rounds) {
+    const std::vector<QPainterPath> paths = toQt(scene.shapes);
+    std::vector<CoveredRuns> covered;
+    for (const Shape& shape : scene.shapes)
+        covered.emplace_back(shape);
+
+    Picture picture;
+    const std::function<void()> works[] = {
+        [&] { drawOurs(scene.shapes, picture); },
+        [&] { drawCairo(scene.shapes, picture); },
+        [&] { drawQt(scene.shapes, paths, picture); },
+        [&] {
+            for (const CoveredRuns& runs : covered)
+                runs.blendOnto(picture);
+        },
+    };
+    // The fastest of several turns: other work on the machine only ever slows a turn down.
+    double best[std::size(works)];
+    std::fill(std::begin(best), std::end(best), 1e18);
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < std::size(works); ++i) {
+            best[i] = std::min(best[i], microseconds(works[i]));
+        }
+    }
+    const double count = static_cast<double>(scene.shapes.size());
+    const auto [ours, cairo, qt, floor] = best;
+
+    Straying straying[3];
+    const std::size_t step = std::max<std::size_t>(scene.shapes.size() / 10, 1);
+    for (std::size_t i = 0; i < scene.shapes.size(); i += step) {
+        std::vector<Shape> one{scene.shapes[i]};
+        one.front().opacity = 1;
+        const SupersampledTruth truth(one.front());
+        Picture pictures[3];
+        drawOurs(one, pictures[0]);
+        drawCairo(one, pictures[1]);
+        drawQt(one, toQt(one), pictures[2]);
+        for (int k = 0; k < 3; ++k)
+            straying[k].add(truth, pictures[k]);
+    }
+
+    std::printf("%-38s %8.1f %8.1f %8.1f %7.1f %7.1f %8.1f %7.1f %9.2f %7.2f %7.2f\n",
+                scene.name.c_str(), ours / count, cairo / count, qt / count, cairo / ours,
+                qt / ours, floor / count, ours / floor, straying[0].mean(), straying[1].mean(),
+                straying[2].mean());
+    std::fflush(stdout);
+}
+
+}  // namespace
+
+}  // namespace marlevo::bench
+
+// raster [rounds] [scene]: more rounds for steadier figures, a scene's number to draw only that.
+int main(int argc, char** argv) {
+    using namespace marlevo::bench;
+    const int rounds = argc > 1 ? std::atoi(argv[1]) : 5;
+    SceneMaker maker;
+    const Scene scenes[] = {
+        maker.strokes("strokes, 100 points, width 3", 1000, 100, 3, 3, 1),
+        maker.strokes("strokes, 300 points, width 24 to 60", 200, 300, 24, 60, 0.5),
+        maker.outlines(50, 4000),
+        maker.shapes(500),
+    };
+    std::printf("%d x %d, one thread; microseconds a shape; stray: mean difference, of 255, to 8 x "
+                "8 samples\n%-38s %8s %8s %8s %7s %7s %8s %7s %9s %7s %7s\n",
+                sceneWidth, sceneHeight, "", "ours", "cairo", "Qt", "cairo/", "Qt/", "floor",
+                "/floor", "stray", "cairo", "Qt");
+    for (int i = 0; i < static_cast<int>(std::size(scenes)); ++i) {
+        if (argc > 2 && std::atoi(argv[2]) != i + 1) continue;
+        measure(scenes[i], rounds);
+    }
+}

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "model/Layer.h"
+#include "model/Ref.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <iterator>
+#include <vector>
+
+namespace marlevo {
+
+/// The layers of a picture; index 0 lies lowest and is drawn first. A sequence with value semantics
+/// whose copies share every layer that did not change, so that a step of the history costs one
+/// pointer a layer: each fill makes a layer, so there may be hundreds.
+///
+/// Reading through a const list, or through its iterators, never unshares. Indices must be valid;
+/// references to layers are valid until the list changes.
+class LayerList {
+public:
+    class Iterator;
+    using value_type = Layer;
+    using const_iterator = Iterator;
+
+    LayerList() = default;
+    LayerList(std::initializer_list<Layer> layers) {
+        for (const Layer& layer : layers)
+            push_back(layer);
+    }
+
+    std::size_t size() const { return layers_.size(); }
+    bool empty() const { return layers_.empty(); }
+
+    const Layer& operator[](std::size_t index) const { return layers_[index]->layer; }
+    const Layer& front() const { return layers_.front()->layer; }
+    const Layer& back() const { return layers_.back()->layer; }
+    Iterator begin() const;
+    Iterator end() const;
+    std::reverse_iterator<Iterator> rbegin() const;
+    std::reverse_iterator<Iterator> rend() const;
+
+    /// For changing the layer: it becomes this list's own.
+    Layer& operator[](std::size_t index) {
+        Ref<Entry>& entry = layers_[index];
+        if (!entry.isUnique()) entry = Ref<Entry>::make(*entry);
+        return entry->layer;
+    }
+    Layer& back() { return (*this)[size() - 1]; }
+
+    void push_back(Layer layer) { layers_.push_back(Ref<Entry>::make(std::move(layer))); }
+    void insert(std::size_t index, Layer layer) {
+        layers_.insert(layers_.begin() + index, Ref<Entry>::make(std::move(layer)));
+    }
+    void erase(std::size_t index) { layers_.erase(layers_.begin() + index); }
+
+private:
+    struct Entry : RefCounted {
+        explicit Entry(Layer initial) : layer(std::move(initial)) {}
+        Layer layer;
+    };
+
+    std::vector<Ref<Entry>> layers_;
+};
+
+/// Goes through a list in order; a change of the list invalidates it.
+class LayerList::Iterator {
+public:
+    using iterator_category = std::random_access_iterator_tag;
+    using value_type = Layer;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const Layer*;
+    using reference = const Layer&;
+
+    Iterator() = default;
+
+    const Layer& operator*() const { return (*entry_)->layer; }
+    const Layer* operator->() const { return &**this; }
+    const Layer& operator[](difference_type n) const { return entry_[n]->layer; }
+    Iterator& operator++() { return *this += 1; }
+    Iterator& operator--() { return *this -= 1; }
+    Iterator operator++(int) { return Iterator(entry_++); }
+    Iterator operator--(int) { return Iterator(entry_--); }
+    Iterator& operator+=(difference_type n) { return entry_ += n, *this; }
+    Iterator& operator-=(difference_type n) { return entry_ -= n, *this; }
+
+    friend Iterator operator+(Iterator at, difference_type n) { return at += n; }
+    friend Iterator operator+(difference_type n, Iterator at) { return at += n; }
+    friend Iterator operator-(Iterator at, difference_type n) { return at -= n; }
+    friend difference_type operator-(const Iterator& a, const Iterator& b) {
+        return a.entry_ - b.entry_;
+    }
+    friend auto operator<=>(const Iterator&, const Iterator&) = default;
+    friend bool operator==(const Iterator&, const Iterator&) = default;
+
+private:
+    friend class LayerList;
+    using Entries = std::vector<Ref<Entry>>::const_iterator;
+
+    explicit Iterator(Entries entry) : entry_(entry) {}
+
+    Entries entry_;
+};
+
+inline LayerList::Iterator LayerList::begin() const { return Iterator(layers_.begin()); }
+inline LayerList::Iterator LayerList::end() const { return Iterator(layers_.end()); }
+inline std::reverse_iterator<LayerList::Iterator> LayerList::rbegin() const {
+    return std::reverse_iterator(end());
+}
+inline std::reverse_iterator<LayerList::Iterator> LayerList::rend() const {
+    return std::reverse_iterator(begin());
+}
+static_assert(std::random_access_iterator<LayerList::Iterator>);
+
+/// True when a layer has the index, which may come from anywhere and also be negative.
+inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
+    return index >= 0 && index < std::ssize(layers);
+}
+
+}  // namespace marlevo

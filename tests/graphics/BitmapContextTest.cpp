@@ -1,0 +1,191 @@
+#include "graphics/BitmapContext.h"
+
+#include "tests/graphics/Supersampling.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+#include <random>
+
+namespace marlevo {
+
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+Path line(Point a, Point b) {
+    Path path;
+    path.move(a);
+    path.addLine(b);
+    return path;
+}
+
+Path ellipse(Rect rect) {
+    Path path;
+    path.addEllipse(rect);
+    return path;
+}
+
+}  // namespace
+
+TEST(BitmapContext, PutsTheOriginAtTheBottomLeft) {
+    Canvas canvas(20, 10);
+    BitmapContext context(canvas.buffer(), DeviceFrame::yUp(10));
+    context.fillRect({{0, 0}, {4, 3}}, black);
+    EXPECT_EQ(canvas.alpha(0, 9), 255);
+    EXPECT_EQ(canvas.alpha(3, 7), 255);
+    EXPECT_EQ(canvas.alpha(3, 6), 0);
+    EXPECT_EQ(canvas.alpha(4, 7), 0);
+}
+
+TEST(BitmapContext, CoversFractionalRectanglesByTheirArea) {
+    Canvas canvas(10, 10);
+    BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+    context.fillRect({{2.5, 3.25}, {4, 2.75}}, black);
+    EXPECT_NEAR(canvas.alpha(2, 3), 255 * 0.5 * 0.75, 1);
+    EXPECT_NEAR(canvas.alpha(4, 3), 255 * 0.75, 1);
+    EXPECT_NEAR(canvas.alpha(6, 5), 255 * 0.5, 1);
+    EXPECT_EQ(canvas.alpha(4, 5), 255);
+    EXPECT_EQ(canvas.alpha(4, 6), 0);
+}
+
+TEST(BitmapContext, MultipliesAlphaAndRestoresItWithTheFrame) {
+    Canvas canvas(40, 40);
+    BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+    context.saveState();
+    context.setAlpha(0.5);
+    context.scale(2, 2);
+    context.fillRect({{0, 0}, {5, 5}}, {1, 0, 0, 0.5});
+    EXPECT_EQ(canvas.alpha(9, 9), 64);
+    EXPECT_EQ(canvas.alpha(10, 9), 0);
+    context.restoreState();
+    context.restoreState();
+    context.fillRect({{20, 20}, {5, 5}}, black);
+    EXPECT_EQ(canvas.alpha(24, 24), 255);
+    EXPECT_EQ(canvas.alpha(25, 24), 0);
+}
+
+TEST(BitmapContext, ScalesThePenInEachDirection) {
+    Canvas canvas(80, 80);
+    BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+    context.scale(1, 3);
+    context.strokePath(line({10, 13}, {70, 13}), black, 4);
+    context.strokePath(line({40, 2}, {40, 25}), black, 4);
+    EXPECT_EQ(canvas.alpha(20, 34), 255);
+    EXPECT_EQ(canvas.alpha(20, 43), 255);
+    EXPECT_EQ(canvas.alpha(20, 31), 0);
+    EXPECT_EQ(canvas.alpha(38, 60), 255);
+    EXPECT_EQ(canvas.alpha(36, 60), 0);
+}
+
+TEST(BitmapContext, BothStrokeMethodsDrawTheSameStroke) {
+    Path curve;
+    curve.move({20, 30});
+    curve.addQuadCurve({100, 90}, {120, 10});
+    Canvas byDistance(140, 120);
+    Canvas byOutline(140, 120);
+    BitmapContext thin(byDistance.buffer(), DeviceFrame::yDown(1));
+    BitmapContext thick(byOutline.buffer(), DeviceFrame::yDown(1));
+    thin.strokePath(curve, black, 19.999);
+    thick.strokePath(curve, black, 20.001);
+    for (int y = 0; y < 120; ++y) {
+        for (int x = 0; x < 140; ++x) {
+            ASSERT_NEAR(byDistance.alpha(x, y), byOutline.alpha(x, y), 28) << x << ", " << y;
+        }
+    }
+}
+
+TEST(BitmapContext, GivesTheSameBytesWhateverPartIsPainted) {
+    std::mt19937 random(8);
+    const auto between = [&](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    constexpr int size = 150;
+    const auto point = [&] { return Point{between(-50, size + 50), between(-50, size + 50)}; };
+    for (int round = 0; round < 60; ++round) {
+        Path path;
+        path.move(point());
+        for (int i = 0; i < 5; ++i)
+            path.addQuadCurve(point(), point());
+        path.addEllipse({point(), {between(0, 100), between(0, 100)}});
+        const double width = between(0.5, 40);
+        const DeviceFrame frame{round % 3 == 0 ? 0.7 : 1.3, 1.3, between(-5, 5), between(-5, 5)};
+        const Color color{0.3, 0.6, 0.9, 0.7};
+        const auto draw = [&](PixelBuffer buffer) {
+            BitmapContext context(buffer, frame);
+            context.strokePath(path, color, width);
+            context.fillPath(path, color);
+            context.fillRect({{10.3, 20}, {50, 60.7}}, color);
+        };
+        Canvas whole(size, size);
+        draw(whole.buffer());
+        Canvas parts(size, size);
+        const int x = static_cast<int>(between(1, size));
+        const int y = static_cast<int>(between(1, size));
+        for (const IntRect area : {IntRect{0, 0, x, y}, IntRect{x, 0, size, y},
+                                   IntRect{0, y, x, size}, IntRect{x, y, size, size}}) {
+            if (!area.isEmpty()) draw(parts.part(area));
+        }
+        ASSERT_EQ(parts.bytes(), whole.bytes()) << "round " << round;
+    }
+}
+
+TEST(BitmapContext, DrawsDotsForShapesWithoutSize) {
+    const Rect empty{{20, 20}, {0, 0}};
+    Path rect;
+    rect.addRect(empty);
+    for (const Path& path : {rect, ellipse(empty), line({20, 20}, {20, 20})}) {
+        for (const double width : {6.0, 24.0}) {
+            Canvas canvas(40, 40);
+            BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+            context.strokePath(path, black, width);
+            const int radius = static_cast<int>(width / 2);
+            EXPECT_EQ(canvas.alpha(20, 20), 255);
+            EXPECT_EQ(canvas.alpha(20 + radius - 2, 20), 255);
+            EXPECT_EQ(canvas.alpha(20 + radius + 1, 20), 0);
+        }
+    }
+}
+
+TEST(BitmapContext, DrawsWhatCanBeSeenOfShapesOfAnySize) {
+    for (const double far : {1e5, 1e7, 1e300}) {
+        for (const double width : {3.0, 30.0}) {
+            Canvas canvas(60, 60);
+            BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+            context.strokePath(line({-far, 30}, {far, 30}), black, width);
+            EXPECT_EQ(canvas.alpha(0, 30), 255) << far;
+            EXPECT_EQ(canvas.alpha(59, 30), 255) << far;
+            EXPECT_EQ(canvas.alpha(30, 58), 0) << far;
+        }
+        Canvas canvas(60, 60);
+        BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+        context.fillRect({{-far, 20.5}, {2 * far, 10}}, black);
+        EXPECT_EQ(canvas.alpha(5, 25), 255);
+        EXPECT_EQ(canvas.alpha(5, 32), 0);
+    }
+}
+
+TEST(BitmapContext, LeavesOutWhatCannotBeDrawn) {
+    Canvas canvas(30, 30);
+    const std::vector<std::uint8_t> blank = canvas.bytes();
+    for (const double bad : {nan, infinity, -infinity, 0.0}) {
+        BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+        context.saveState();
+        context.scale(bad, 1);
+        context.fillRect({{1, 1}, {20, 20}}, black);
+        context.strokePath(line({2, 2}, {25, 25}), black, 3);
+        context.strokePath(line({2, 2}, {25, 25}), black, 30);
+        context.fillPath(ellipse({{2, 2}, {20, 20}}), black);
+        context.restoreState();
+        if (bad != 0) {
+            context.fillPath(ellipse({{2, bad}, {20, 20}}), black);
+            context.strokePath(line({bad, 2}, {bad, 25}), black, 3);
+        }
+        if (bad != infinity) context.strokePath(line({2, 2}, {25, 25}), black, bad);
+        context.fillRect({{bad, 1}, {bad, 20}}, black);
+    }
+    EXPECT_EQ(canvas.bytes(), blank);
+}
+
+}  // namespace marlevo

@@ -1,0 +1,200 @@
+#include "graphics/StrokeByDistance.h"
+
+#include "graphics/RoundPen.h"
+#include "graphics/SegmentInStrip.h"
+#include "tests/graphics/InstructionSets.h"
+#include "tests/graphics/Supersampling.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+#include <random>
+
+namespace marlevo {
+
+namespace {
+
+constexpr PackedColor opaque{{255, 255, 255, 255}, 255};
+constexpr PackedColor half{{128, 128, 0, 64}, 128};
+
+FlattenedPath polyline(const std::vector<Point>& points, bool closed = false) {
+    FlattenedPath path;
+    addPolygon(path, points, closed);
+    return path;
+}
+
+class RandomLines {
+public:
+    explicit RandomLines(unsigned seed) : random_(seed) {}
+
+    double between(double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random_);
+    }
+
+    FlattenedPath walk(int count, double step, double size) {
+        std::vector<Point> points{{between(0, size), between(0, size)}};
+        while (static_cast<int>(points.size()) < count) {
+            const Point last = points.back();
+            points.push_back({last.x + between(-step, step), last.y + between(-step, step)});
+        }
+        return polyline(points, between(0, 1) < 0.3);
+    }
+
+private:
+    std::mt19937 random_;
+};
+
+std::vector<std::uint8_t> drawn(const FlattenedPath& path, double width, PackedColor color,
+                                int size) {
+    Canvas canvas(size, size);
+    strokeByDistance(path, width, canvas.buffer(), color);
+    return canvas.bytes();
+}
+
+}  // namespace
+
+TEST(StrokeByDistance, VectorsGiveTheBytesOfScalarCode) {
+    constexpr int size = 96;
+    RandomLines random(4);
+    for (int round = 0; round < 30; ++round) {
+        const FlattenedPath path = random.walk(8, round % 3 == 0 ? 60 : 4, size);
+        const double width = random.between(0.2, 16);
+        const RoundPen pen(width);
+
+        Canvas expected(size, size);
+        for (int y = 0; y < size; ++y) {
+            for (int x = 0; x < size; ++x) {
+                float least = 1e30F;
+                for (const auto& part : path.subPaths) {
+                    const auto points = path.pointsOf(part);
+                    for (std::size_t i = part.closed ? 0 : 1; i < points.size(); ++i) {
+                        const MeasuredSegment line(points[i == 0 ? points.size() - 1 : i - 1],
+                                                   points[i]);
+                        const SegmentInStrip segment(line, x & -8);
+                        least = std::min(
+                            least, segment.squaredDistance(static_cast<float>(x & 7),
+                                                           static_cast<float>(y - line.anchorRow)));
+                    }
+                }
+                blendPixel(expected.buffer().pixel(x, y), half,
+                           static_cast<std::uint8_t>(pen.coverage(least)));
+            }
+        }
+        withEveryInstructionSet([&](const char* target) {
+            EXPECT_EQ(drawn(path, width, half, size), expected.bytes()) << target << ' ' << width;
+        });
+    }
+}
+
+TEST(StrokeByDistance, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
+    constexpr int size = 200;
+    RandomLines random(5);
+    for (int round = 0; round < 40; ++round) {
+        FlattenedPath path = random.walk(30, round % 4 == 0 ? 400 : 9, size);
+        if (round % 8 == 0) path.points.back() = {1e6, -3e5};
+        const double width = random.between(0.3, 20);
+        const auto whole = drawn(path, width, half, size);
+
+        Canvas canvas(size, size);
+        const auto cut = [&] { return static_cast<int>(random.between(1, size - 1)); };
+        int columns[] = {0, cut(), cut(), size};
+        int rows[] = {0, cut(), cut(), cut(), size};
+        std::sort(std::begin(columns), std::end(columns));
+        std::sort(std::begin(rows), std::end(rows));
+        for (int i = 0; i + 1 < std::ssize(columns); ++i) {
+            for (int j = 0; j + 1 < std::ssize(rows); ++j) {
+                strokeByDistance(path, width,
+                                 canvas.part({columns[i], rows[j], columns[i + 1], rows[j + 1]}),
+                                 half);
+            }
+        }
+        EXPECT_EQ(canvas.bytes(), whole) << "round " << round;
+    }
+}
+
+TEST(StrokeByDistance, AgreesWithSupersampledTruth) {
+    constexpr int size = 64;
+    RandomLines random(6);
+    for (int round = 0; round < 20; ++round) {
+        const FlattenedPath path = random.walk(10, 12, size);
+        const double width = random.between(2, 12);
+        Canvas canvas(size, size);
+        strokeByDistance(path, width, canvas.buffer(), opaque);
+        double sum = 0;
+        int count = 0;
+        for (int y = 0; y < size; ++y) {
+            for (int x = 0; x < size; ++x) {
+                const double exact = 255 * supersampled(x, y, 8, [&](Point p) {
+                                         return distanceToLines(p, path) <= width / 2;
+                                     });
+                if (exact == 0 && canvas.alpha(x, y) == 0) continue;
+                const double off = std::abs(canvas.alpha(x, y) - exact);
+                // A pixel in a notch between two edges sees only the nearer one.
+                ASSERT_LT(off, 110) << x << ", " << y << ", width " << width;
+                sum += off;
+                ++count;
+            }
+        }
+        if (count > 0) EXPECT_LT(sum / count, 7) << width;
+    }
+}
+
+TEST(StrokeByDistance, DrawsADotForASubPathWithoutLength) {
+    for (const auto& points : {std::vector<Point>{{20, 20}}, {{20, 20}, {20, 20}}}) {
+        Canvas canvas(40, 40);
+        strokeByDistance(polyline(points), 10, canvas.buffer(), opaque);
+        double area = 0;
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 40; ++x)
+                area += canvas.alpha(x, y) / 255.0;
+        }
+        EXPECT_NEAR(area, std::numbers::pi * 25, 1);
+        EXPECT_EQ(canvas.alpha(19, 19), 255);
+        EXPECT_EQ(canvas.alpha(25, 20), 0);
+    }
+}
+
+TEST(StrokeByDistance, IsNotDarkerWhereItCrossesItself) {
+    Canvas canvas(40, 40);
+    strokeByDistance(polyline({{5, 20}, {35, 20}, {35, 5}, {20, 5}, {20, 35}}), 4, canvas.buffer(),
+                     half);
+    EXPECT_EQ(canvas.alpha(20, 20), 128);
+    EXPECT_EQ(canvas.alpha(10, 20), 128);
+}
+
+TEST(StrokeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
+    int last = 0;
+    for (double width = 0.05; width < 2; width += 0.05) {
+        Canvas canvas(20, 20);
+        strokeByDistance(polyline({{2, 10.5}, {18, 10.5}}), width, canvas.buffer(), opaque);
+        int sum = 0;
+        for (int y = 0; y < 20; ++y)
+            sum += canvas.alpha(10, y);
+        EXPECT_NEAR(sum, 255 * width, 2);
+        EXPECT_GT(sum, last);
+        last = sum;
+    }
+}
+
+TEST(StrokeByDistance, DrawsNothingWithoutAPositiveWidth) {
+    const std::vector<std::uint8_t> blank(40 * 40 * 4);
+    for (const double width : {0.0, -3.0, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(drawn(polyline({{5, 5}, {35, 35}}), width, opaque, 40), blank);
+    }
+}
+
+TEST(StrokeByDistance, KeepsLongLinesInPlace) {
+    Canvas canvas(100, 100);
+    const double far = FlattenedPath::maxCoordinate;
+    strokeByDistance(polyline({{-far, 50.5 - far / 2}, {far, 50.5 + far / 2}}), 3, canvas.buffer(),
+                     opaque);
+    for (int x = 0; x < 99; ++x) {
+        const int y = static_cast<int>(50.5 + (x + 0.5) / 2);
+        if (y < 98) {
+            EXPECT_EQ(canvas.alpha(x, y), 255);
+            EXPECT_EQ(canvas.alpha(x, y - 4), 0);
+        }
+    }
+}
+
+}  // namespace marlevo

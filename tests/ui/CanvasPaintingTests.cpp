@@ -1,0 +1,174 @@
+#include "tests/ui/Pointer.h"
+#include "ui/Colors.h"
+#include "ui/DocumentWindow.h"
+
+#include <QScreen>
+
+#include <cmath>
+#include <limits>
+
+using namespace marlevo;
+
+namespace {
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject {
+public:
+    explicit PaintCounter(QObject& watched) { watched.installEventFilter(this); }
+    int count = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++count;
+        return false;
+    }
+};
+
+void drawSomething(DrawingDocument& document) {
+    document.lineWidth = 5;
+    document.brushOpacity = 0.5;
+    document.beginStroke({-20, 40});
+    for (int i = 0; i < 60; ++i)
+        document.addPointToStroke({i * 5.3, 100 + 80 * std::sin(i / 5.0)});
+    document.endStroke();
+    document.isShapeTool = true;
+    document.beginStroke({150.25, 30.5});
+    document.addPointToStroke({320, 150.75});
+    document.endStroke();
+}
+
+}  // namespace
+
+class CanvasPaintingTests : public QObject {
+    Q_OBJECT
+
+    struct Setting {
+        DocumentWindow window{Services{}};
+        DrawingDocument& document = window.document();
+        CanvasView& view = window.canvasView();
+
+        Setting() {
+            document.canvasSize = {300, 200};
+            window.show();
+            if (!QTest::qWaitForWindowExposed(&window)) qFatal("no window");
+        }
+
+        /// What the screen shows of the canvas's surroundings `margin` points wide.
+        QImage shot(int margin = 0) {
+            QTest::qWait(60);
+            const QImage image = window.screen()->grabWindow(window.winId()).toImage();
+            const double ratio = view.devicePixelRatioF();
+            const QRectF place = QRectF(view.mapTo(&window, QPointF()), view.size())
+                                     .adjusted(-margin, -margin, margin, margin);
+            return image.copy(QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect())
+                .convertToFormat(QImage::Format_RGB32);
+        }
+    };
+
+private Q_SLOTS:
+    void theScreenShowsThePicturesOwnPixels() {
+        Setting s;
+        s.document.backgroundColor = {0.9, 0.8, 0.4, 1};
+        drawSomething(s.document);
+        s.document.beginStroke({30, 150});
+        s.document.addPointToStroke({280, 160});
+        for (const double zoom : {1.0, 0.7, 1.6}) {
+            s.document.zoom = zoom;
+            const double scale = zoom * s.view.devicePixelRatioF();
+            const QPointF corner = s.view.mapTo(&s.window, QPointF()) * s.view.devicePixelRatioF();
+            QVERIFY2(corner == corner.toPoint(), "the canvas begins inside a device pixel");
+
+            const QImage seen = s.shot();
+            QImage expected(seen.size(), QImage::Format_ARGB32_Premultiplied);
+            ScreenPicture().paint(s.document, scale,
+                                  {expected.bits(),
+                                   expected.bytesPerLine(),
+                                   {0, 0, expected.width(), expected.height()},
+                                   PixelOrder::bgra});
+            // Inside the rounded corners and the edges that may end within a pixel.
+            const QRect inside = seen.rect().adjusted(4, 4, -4, -4);
+            QVERIFY(seen.copy(inside) ==
+                    expected.copy(inside).convertToFormat(QImage::Format_RGB32));
+        }
+    }
+
+    void atZoomOneTheScreenEqualsTheExportedPicture() {
+        Setting s;
+        if (s.view.devicePixelRatioF() != 1) QSKIP("needs one device pixel per point");
+        drawSomething(s.document);
+        const QImage seen = s.shot();
+        const auto picture = s.document.renderCGImage();
+        QCOMPARE(seen.size(), QSize(picture->width(), picture->height()));
+        for (int y = 0; y < seen.height(); ++y) {
+            for (int x = 0; x < seen.width(); ++x) {
+                if ((x < 2 || x >= seen.width() - 2) && (y < 2 || y >= seen.height() - 2)) continue;
+                const auto p = picture->pixel(x, y);
+                if (seen.pixel(x, y) != qRgb(p[1], p[2], p[3]))
+                    QFAIL(qPrintable(QStringLiteral("differs at %1, %2").arg(x).arg(y)));
+            }
+        }
+    }
+
+    void cornersAreRoundAndTheShadowFallsDownwards() {
+        Setting s;
+        s.document.backgroundColor = {1, 0, 0, 1};
+        const QImage seen = s.shot(CanvasScrollArea::margin);
+        const int margin = qRound(CanvasScrollArea::margin * s.view.devicePixelRatioF());
+        const int middle = seen.width() / 2;
+        const QRgb desk = s.window.palette().color(QPalette::Window).rgb();
+        const auto darkness = [&](int x, int y) { return qGray(desk) - qGray(seen.pixel(x, y)); };
+
+        QVERIFY(seen.pixel(margin, margin) != qRgb(255, 0, 0));
+        QCOMPARE(seen.pixel(middle, margin), qRgb(255, 0, 0));
+        QCOMPARE(seen.pixel(middle, seen.height() - 1 - margin), qRgb(255, 0, 0));
+        QCOMPARE(seen.pixel(1, 1), desk);
+        const int above = darkness(middle, margin - 1);
+        const int below = darkness(middle, seen.height() - margin);
+        QVERIFY(above > 0 && below > above);
+    }
+
+    void aTransparentBackgroundShowsTheDesk() {
+        Setting s;
+        s.document.backgroundIsTransparent = true;
+        const QImage seen = s.shot();
+        QCOMPARE(seen.pixel(seen.rect().center()),
+                 s.window.palette().color(QPalette::Window).rgb());
+    }
+
+    void onlyWhatWasShownCausesARedraw() {
+        Setting s;
+        QTest::qWait(60);
+        PaintCounter paints(s.view);
+        s.document.lineWidth = 9;
+        s.document.isEraser = true;
+        s.document.exportFormat = ExportFormat::bmp;
+        s.document.showGrid = false;
+        QTest::qWait(60);
+        QCOMPARE(paints.count, 0);
+        s.document.showGrid = true;
+        QTRY_COMPARE(paints.count, 1);
+        s.document.beginStroke({10, 10});
+        QTRY_VERIFY(paints.count > 1);
+    }
+
+    void strangeCanvasSizesNeverHurt() {
+        Setting s;
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        for (const CanvasSize size : {CanvasSize{0, 0},
+                                      {-50, 300},
+                                      {NAN, 200},
+                                      {0.3, 0.3},
+                                      {1e9, 50},
+                                      {1e300, 1e300},
+                                      {infinity, -infinity}}) {
+            s.document.canvasSize = size;
+            QTest::qWait(20);
+            QVERIFY(s.view.width() >= 0 && s.view.width() <= QWIDGETSIZE_MAX);
+            QVERIFY(s.view.height() >= 0 && s.view.height() <= QWIDGETSIZE_MAX);
+        }
+        s.document.canvasSize = {300, 200};
+        QCOMPARE(s.view.size(), QSize(300, 200));
+    }
+};
+
+QTEST_MAIN(CanvasPaintingTests)
+#include "CanvasPaintingTests.moc"

@@ -1,0 +1,189 @@
+#include "platform/qt/QtImageCodec.h"
+#include "ui/DocumentWindow.h"
+
+#include <QImage>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+using namespace marlevo;
+
+namespace {
+
+/// Answers each request with a file given beforehand.
+class FakePanels : public FilePanels {
+public:
+    SavePanelRequest request;
+    std::optional<std::filesystem::path> answer;
+
+    void showSavePanel(const SavePanelRequest& asked, Completion completion) override {
+        request = asked;
+        completion(answer);
+    }
+};
+
+void draw(DrawingDocument& document) {
+    document.beginStroke({10, 10});
+    document.addPointToStroke({90, 70});
+    document.endStroke();
+}
+
+QAction& command(DocumentWindow& window, const QString& title) {
+    for (QAction* action : window.findChildren<QAction*>())
+        if (action->text() == title) return *action;
+    qFatal("no command %s", qPrintable(title));
+}
+
+template <typename Control>
+Control& control(DocumentWindow& window, const QString& name) {
+    for (auto* candidate : window.findChildren<Control*>())
+        if (candidate->accessibleName() == name) return *candidate;
+    qFatal("no control %s", qPrintable(name));
+}
+
+}  // namespace
+
+class DocumentWindowTests : public QObject {
+    Q_OBJECT
+
+    struct Setting {
+        FakePanels panels;
+        QtImageCodec codec;
+        DocumentWindow window{Services{.filePanels = &panels, .imageCodec = &codec}};
+        DrawingDocument& document = window.document();
+
+        Setting() {
+            window.show();
+            window.activateWindow();
+            if (!QTest::qWaitForWindowActive(&window)) qFatal("no active window");
+        }
+    };
+
+private Q_SLOTS:
+    void aFreshWindowHasOneLayerAndNoHistory() {
+        Setting s;
+        QCOMPARE(s.document.layers->size(), std::size_t{1});
+        QVERIFY(!command(s.window, "Undo").isEnabled());
+        QVERIFY(!command(s.window, "Redo").isEnabled());
+    }
+
+    void undoAndRedoFollowTheHistoryAndTheKeyboard() {
+        Setting s;
+        draw(s.document);
+        QVERIFY(command(s.window, "Undo").isEnabled());
+        QTest::keyClick(s.window.windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(s.document.layers->front().strokes.isEmpty());
+        QVERIFY(!command(s.window, "Undo").isEnabled());
+        QVERIFY(command(s.window, "Redo").isEnabled());
+        QTest::keyClick(s.window.windowHandle(), Qt::Key_Z,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(s.document.layers->front().strokes.size(), std::size_t{1});
+        QVERIFY(!command(s.window, "Redo").isEnabled());
+    }
+
+    void commandsRunOnceWhileTheirKeyIsHeld() {
+        Setting s;
+        for (const QAction* action : s.window.menuBar()->findChildren<QAction*>())
+            QVERIFY2(action->shortcut().isEmpty() || !action->autoRepeat(),
+                     qPrintable(action->text()));
+    }
+
+    void layerCommandsStopAtTheEndsOfTheStack() {
+        Setting s;
+        command(s.window, "Delete Active Layer").trigger();
+        command(s.window, "Move Layer Up").trigger();
+        command(s.window, "Move Layer Down").trigger();
+        QVERIFY(!s.document.canUndo());
+
+        command(s.window, "Add Layer").trigger();
+        command(s.window, "Add Layer").trigger();
+        QCOMPARE(s.document.activeLayerIndex.get(), 2);
+        const Uuid top = s.document.layers->back().id;
+        command(s.window, "Move Layer Up").trigger();
+        QCOMPARE(s.document.activeLayerIndex.get(), 2);
+        command(s.window, "Move Layer Down").trigger();
+        QCOMPARE(s.document.activeLayerIndex.get(), 1);
+        QVERIFY((*s.document.layers)[1].id == top);
+        command(s.window, "Delete Active Layer").trigger();
+        QCOMPARE(s.document.layers->size(), std::size_t{2});
+    }
+
+    void aToolButtonSetsItsFlagFirstAndClearsTheSelection() {
+        Setting s;
+        s.document.isEraser = true;
+        s.document.selectedLayerID = s.document.layers->front().id;
+        s.document.selectedStrokeIndex = 0;
+        std::vector<DocumentProperty> told;
+        Reader reader(s.document.changeRegistry(), [&](DocumentProperty p) { told.push_back(p); });
+        reader.observe([&] {
+            (void)s.document.isShapeTool.get();
+            (void)s.document.currentShapeType.get();
+            (void)s.document.isEraser.get();
+            (void)s.document.selectedLayerID.get();
+            (void)s.document.selectedStrokeIndex.get();
+        });
+
+        control<QToolButton>(s.window, "Ellipse").click();
+        using P = DocumentProperty;
+        const std::vector<P> expected{P::isShapeTool, P::currentShapeType, P::isEraser,
+                                      P::selectedLayerID, P::selectedStrokeIndex};
+        QVERIFY(told == expected);
+        QVERIFY(s.document.isShapeTool &&
+                s.document.currentShapeType == Stroke::ShapeType::ellipse);
+    }
+
+    void exactlyTheChosenToolsButtonIsDown() {
+        Setting s;
+        const auto down = [&] {
+            QStringList names;
+            for (const QToolButton* button : s.window.findChildren<QToolButton*>())
+                if (button->isCheckable() && button->isChecked()) names << button->text();
+            return names;
+        };
+        QCOMPARE(down(), QStringList{"Draw"});
+        control<QToolButton>(s.window, "Line").click();
+        QCOMPARE(down(), QStringList{"Line"});
+        control<QToolButton>(s.window, "Line").click();
+        QCOMPARE(down(), QStringList{"Line"});
+        s.document.isShapeTool = false;
+        s.document.isEraser = true;
+        QCOMPARE(down(), QStringList{"Eraser"});
+        control<QToolButton>(s.window, "Draw").toggle();
+        QVERIFY(s.document.isDrawingMode());
+        QCOMPARE(down(), QStringList{"Draw"});
+    }
+
+    void aSliderShowsTheDocumentWithoutChangingIt() {
+        Setting s;
+        auto& size = control<QSlider>(s.window, "Size");
+        s.document.lineWidth = 12.9;
+        QCOMPARE(size.value(), 12);
+        QCOMPARE(s.document.lineWidth.get(), 12.9);
+        size.setValue(7);
+        QCOMPARE(s.document.lineWidth.get(), 7.0);
+        control<QSlider>(s.window, "Zoom").setValue(250);
+        QCOMPARE(s.document.zoom.get(), 2.5);
+    }
+
+    void exportWritesThePictureAsPng() {
+        Setting s;
+        QTemporaryDir folder;
+        s.panels.answer = folder.filePath("picture.png").toStdString();
+        s.document.canvasSize = {120.7, 80.2};
+        s.document.backgroundIsTransparent = true;
+        s.document.brushOpacity = 0.5;
+        draw(s.document);
+        command(s.window, "PNG").trigger();
+        QCOMPARE(s.panels.request.title, std::string("Export Drawing"));
+        QCOMPARE(s.panels.request.proposedName, std::string("Drawing-120x80.png"));
+
+        const QImage written(QString::fromStdString(s.panels.answer->string()));
+        QCOMPARE(written.size(), QSize(120, 80));
+        QCOMPARE(qAlpha(written.pixel(50, 40)), 128);
+        QCOMPARE(qAlpha(written.pixel(100, 10)), 0);
+    }
+};
+
+QTEST_MAIN(DocumentWindowTests)
+#include "DocumentWindowTests.moc"
