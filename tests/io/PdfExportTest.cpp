@@ -41,7 +41,7 @@ protected:
 
     void addImage(std::vector<std::uint8_t> file, double opacity = 1) {
         document.layers.modify([&](LayerList& layers) {
-            layers.emplace_back("Image");
+            layers.push_back(Layer("Image"));
             layers.back().imageData.emplace(std::move(file));
             layers.back().opacity = opacity;
         });
