@@ -1,5 +1,8 @@
+#include "platform/BackgroundThread.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPasteboard.h"
+#include "platform/qt/QtPrinter.h"
 #include "ui/MarlevoApp.h"
 
 #include <QApplication>
@@ -15,7 +18,15 @@ int main(int argc, char* argv[]) {
 
     marlevo::QtMainQueue mainQueue;
     const marlevo::QtImageCodec imageCodec;
-    marlevo::MarlevoApp app({.mainQueue = &mainQueue, .imageCodec = &imageCodec});
+    marlevo::QtPrinter printer;
+    marlevo::QtPasteboard pasteboard;
+    // Behind what its work uses, so that it ends first.
+    marlevo::BackgroundThread backgroundQueue;
+    marlevo::MarlevoApp app({.mainQueue = &mainQueue,
+                             .imageCodec = &imageCodec,
+                             .backgroundQueue = &backgroundQueue,
+                             .printer = &printer,
+                             .pasteboard = &pasteboard});
     app.openWindow();
     return QApplication::exec();
 }
