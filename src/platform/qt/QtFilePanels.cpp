@@ -2,7 +2,7 @@
 
 #include "platform/qt/SavePanel.h"
 
-#include <QMetaObject>
+#include <utility>
 
 namespace marlevo {
 
@@ -18,9 +18,7 @@ QtFilePanels::~QtFilePanels() { delete open_; }
 
 void QtFilePanels::showSavePanel(const SavePanelRequest& request, Completion completion) {
     if (open_) {
-        QMetaObject::invokeMethod(
-            &window_, [completion = std::move(completion)] { completion(std::nullopt); },
-            Qt::QueuedConnection);
+        queue_.post([completion = std::move(completion)] { completion(std::nullopt); });
         return;
     }
     open_ = new SavePanel(request, &window_);

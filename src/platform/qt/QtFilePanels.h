@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FilePanels.h"
+#include "platform/qt/QtMainQueue.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -25,6 +26,7 @@ public:
 private:
     QWidget& window_;
     QPointer<SavePanel> open_;
+    QtMainQueue queue_;
 };
 
 }  // namespace marlevo
