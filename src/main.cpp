@@ -1,11 +1,22 @@
+#include "platform/StandardOutput.h"
+#include "platform/WorkQueue.h"
 #include "platform/qt/KeyRepeatFilter.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPreferences.h"
+#include "platform/qt/QtSleepingClock.h"
 #include "ui/MarlevoApp.h"
 
 #include <QApplication>
 
+#include <csignal>
+
 int main(int argc, char* argv[]) {
+    // A closed output and a limit on file size are errors of the write that meets them, not ends of
+    // the program.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+
     // Every position of the pointer becomes a point of the stroke: none may be merged away.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
@@ -18,7 +29,16 @@ int main(int argc, char* argv[]) {
 
     marlevo::QtMainQueue mainQueue;
     const marlevo::QtImageCodec imageCodec;
-    marlevo::MarlevoApp app({.mainQueue = &mainQueue, .imageCodec = &imageCodec});
+    marlevo::StandardOutput console;
+    marlevo::QtPreferences preferences;
+    marlevo::QtSleepingClock sleepingClock;
+    marlevo::WorkQueue flushQueue;
+    marlevo::MarlevoApp app({.mainQueue = &mainQueue,
+                             .imageCodec = &imageCodec,
+                             .console = &console,
+                             .preferences = &preferences,
+                             .sleepingClock = &sleepingClock,
+                             .flushQueue = &flushQueue});
     app.openWindow();
     return QApplication::exec();
 }

@@ -17,6 +17,9 @@
 
 namespace marlevo {
 
+struct DocumentData;  // io/DocumentData.h
+struct StrokeData;
+
 /// Everything that one window shows and edits: the picture, the stroke in progress, the tool
 /// settings, the selection, the view, the file and the history.
 ///
@@ -142,6 +145,25 @@ public:
     /// One layer on white, stretched to the given size; its visibility does not matter.
     std::optional<RasterImage> renderSingleLayer(const Layer& layer, Size size) const;
 
+    // ---- Document file (io/DocumentRecords.cpp) -------------------------------------------------
+    /// The picture as a file holds it. Costs little: points and images are shared.
+    DocumentData encodeDocumentData() const;
+
+    /// Replaces the picture, shows it unzoomed with its lowest layer active, and starts a new
+    /// history. Tools, selection and file stay; every layer gets a new identity.
+    void applyDocumentData(const DocumentData& data);
+
+    // ---- Save (io/Save.cpp) ---------------------------------------------------------------------
+    /// Writes the drawing to the file, in place and whole, and makes it the document's file. A
+    /// failure is one line "Save failed: …" on the console and changes nothing.
+    void writeDocument(const std::filesystem::path& to);
+
+    /// Writes to the document's file; without one, asks as saveAs() does.
+    void save();
+
+    /// Asks for a file in a save panel, then writes to it.
+    void saveAs();
+
     // ---- Export (io/) ---------------------------------------------------------------------------
     /// Writes the picture to the file, replacing it. Failures are silent.
     void exportTo(const std::filesystem::path& file, ExportFormat format);
@@ -163,6 +185,8 @@ private:
 
     template <typename Source, typename Target>
     void stepHistory(Source& source, Target& target);
+
+    static StrokeData encodeStroke(const Stroke& stroke);
 
     std::optional<RasterImage> renderForFill() const;
 

@@ -2,9 +2,13 @@
 
 namespace marlevo {
 
+class Console;
 class FilePanels;
 class ImageCodec;
 class MainQueue;
+class Preferences;
+class SleepingClock;
+class WorkQueue;
 
 /// What a document wants of the desktop. The services are borrowed and must outlive whoever holds
 /// them; an absent one makes the operations that need it do nothing.
@@ -12,6 +16,10 @@ struct Services {
     MainQueue* mainQueue = nullptr;
     FilePanels* filePanels = nullptr;
     const ImageCodec* imageCodec = nullptr;
+    Console* console = nullptr;
+    Preferences* preferences = nullptr;
+    SleepingClock* sleepingClock = nullptr;
+    WorkQueue* flushQueue = nullptr;  ///< where files written are brought to the disk
 };
 
 }  // namespace marlevo
