@@ -1,9 +1,12 @@
+#include "platform/BackgroundThread.h"
 #include "platform/StandardOutput.h"
 #include "platform/WorkQueue.h"
 #include "platform/qt/KeyRepeatFilter.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtPreferences.h"
+#include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtSleepingClock.h"
 #include "ui/MarlevoApp.h"
 
@@ -33,12 +36,19 @@ int main(int argc, char* argv[]) {
     marlevo::QtPreferences preferences;
     marlevo::QtSleepingClock sleepingClock;
     marlevo::WorkQueue flushQueue;
+    marlevo::QtPrinter printer;
+    marlevo::QtPasteboard pasteboard;
+    // Behind what its work uses, so that it ends first.
+    marlevo::BackgroundThread backgroundQueue;
     marlevo::MarlevoApp app({.mainQueue = &mainQueue,
                              .imageCodec = &imageCodec,
                              .console = &console,
                              .preferences = &preferences,
                              .sleepingClock = &sleepingClock,
-                             .flushQueue = &flushQueue});
+                             .flushQueue = &flushQueue,
+                             .backgroundQueue = &backgroundQueue,
+                             .printer = &printer,
+                             .pasteboard = &pasteboard});
     app.openWindow();
     return QApplication::exec();
 }

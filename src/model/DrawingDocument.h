@@ -164,12 +164,22 @@ public:
     /// Asks for a file in a save panel, then writes to it.
     void saveAs();
 
-    // ---- Export (io/) ---------------------------------------------------------------------------
+    // ---- Export, print, clipboard (io/) ---------------------------------------------------------
     /// Writes the picture to the file, replacing it. Failures are silent.
     void exportTo(const std::filesystem::path& file, ExportFormat format);
 
     /// Asks for a file in a save panel, then exports to it.
     void performExport(ExportFormat format);
+
+    /// The picture as a PDF file of one page, one point a canvas pixel, strokes as paths. Nothing
+    /// when a page cannot have the canvas's size (PdfContext::isPageSize) or memory is short.
+    std::optional<std::vector<std::uint8_t>> renderPDFData() const;
+
+    /// Sends the picture to the print dialog, after the current event. Failures are silent.
+    void printDocument();
+
+    /// Replaces the pasteboard's contents by the picture; leaves them when there is no picture.
+    void copyToClipboard();
 
 private:
     /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
@@ -190,11 +200,8 @@ private:
 
     std::optional<RasterImage> renderForFill() const;
 
-    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
+    /// Draws the visible layers in a frame whose y grows upwards; canvas y = `height` lies at 0.
     void drawLayers(GraphicsContext& context, double height) const;
-    void drawLayer(GraphicsContext& context, const Layer& layer, double height) const;
-    void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
-    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
     mutable DecodedImages decodedImages_;
