@@ -1,8 +1,12 @@
+#include "platform/BackgroundThread.h"
 #include "platform/StandardOutput.h"
 #include "platform/WorkQueue.h"
+#include "platform/qt/KeyRepeatFilter.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtPreferences.h"
+#include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtSleepingClock.h"
 #include "ui/MarlevoApp.h"
 
@@ -23,19 +27,28 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
+    marlevo::KeyRepeatFilter keyRepeatFilter;
+    application.installEventFilter(&keyRepeatFilter);
 
     marlevo::QtMainQueue mainQueue;
     const marlevo::QtImageCodec imageCodec;
     marlevo::StandardOutput console;
     marlevo::QtPreferences preferences;
     marlevo::QtSleepingClock sleepingClock;
+    marlevo::QtPrinter printer;
+    marlevo::QtPasteboard pasteboard;
+    // Behind what their work uses, so that they end first.
     marlevo::WorkQueue flushQueue;
+    marlevo::BackgroundThread backgroundQueue;
     marlevo::MarlevoApp app({.mainQueue = &mainQueue,
                              .imageCodec = &imageCodec,
                              .console = &console,
                              .preferences = &preferences,
                              .sleepingClock = &sleepingClock,
-                             .flushQueue = &flushQueue});
+                             .flushQueue = &flushQueue,
+                             .backgroundQueue = &backgroundQueue,
+                             .printer = &printer,
+                             .pasteboard = &pasteboard});
     app.openWindow();
     return QApplication::exec();
 }

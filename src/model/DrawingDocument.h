@@ -114,6 +114,29 @@ public:
     void addPointToStroke(Point point);
     void endStroke();
 
+    // ---- Selection of one stroke (tools/Selection.cpp) ------------------------------------------
+    // A selection that names no stroke, since the layers changed under it, is no selection here.
+
+    /// Selects the stroke under the point, or nothing when there is none.
+    void selectStroke(Point at);
+
+    /// The outline around the selected stroke, in canvas pixels.
+    std::optional<Rect> selectedStrokeBoundingRect() const;
+
+    void beginSelectDrag();
+    /// Places the stroke where the whole movement since the drag began puts it.
+    void updateSelectDrag(Size translation);
+    void endSelectDrag();
+    void deleteSelectedStroke();
+
+    // ---- Fill and eyedropper (tools/FillTool.cpp, tools/EyeDropper.cpp) -------------------------
+    /// Covers the region of similar colour around the point by a filled stroke on its own layer.
+    void performFill(Point at);
+
+    /// Makes the colour of the rendered picture at the point the selected one, opaque, and turns
+    /// the eyedropper off; a point outside changes nothing.
+    void pickColor(Point at);
+
     // ---- Rendering (render/RasterCompositing.cpp) -----------------------------------------------
     /// The whole picture at one pixel per canvas pixel; nothing when the canvas is smaller than
     /// 1 × 1 or too large for memory.
@@ -141,16 +164,34 @@ public:
     /// Asks for a file in a save panel, then writes to it.
     void saveAs();
 
-    // ---- Export (io/) ---------------------------------------------------------------------------
+    // ---- Export, print, clipboard (io/) ---------------------------------------------------------
     /// Writes the picture to the file, replacing it. Failures are silent.
     void exportTo(const std::filesystem::path& file, ExportFormat format);
 
     /// Asks for a file in a save panel, then exports to it.
     void performExport(ExportFormat format);
 
+    /// The picture as a PDF file of one page, one point a canvas pixel, strokes as paths. Nothing
+    /// when a page cannot have the canvas's size (PdfContext::isPageSize) or memory is short.
+    std::optional<std::vector<std::uint8_t>> renderPDFData() const;
+
+    /// Sends the picture to the print dialog, after the current event. Failures are silent.
+    void printDocument();
+
+    /// Replaces the pasteboard's contents by the picture; leaves them when there is no picture.
+    void copyToClipboard();
+
 private:
     /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
     void clampActiveLayerIndex();
+
+    /// Where a stroke is: its layer's index and its own.
+    struct StrokePlace {
+        std::size_t layer;
+        std::size_t stroke;
+    };
+    std::optional<StrokePlace> selectedStroke() const;
+    void clearSelection();
 
     template <typename Source, typename Target>
     void stepHistory(Source& source, Target& target);
@@ -159,11 +200,8 @@ private:
 
     std::optional<RasterImage> renderForFill() const;
 
-    // Painting steps in a frame whose y grows upwards; `height` is the canvas y that lies at 0.
+    /// Draws the visible layers in a frame whose y grows upwards; canvas y = `height` lies at 0.
     void drawLayers(GraphicsContext& context, double height) const;
-    void drawLayer(GraphicsContext& context, const Layer& layer, double height) const;
-    void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, double height) const;
-    void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) const;
 
     Services services_;
     mutable DecodedImages decodedImages_;

@@ -2,11 +2,14 @@
 
 namespace marlevo {
 
+class BackgroundQueue;
 class Console;
 class FilePanels;
 class ImageCodec;
 class MainQueue;
+class Pasteboard;
 class Preferences;
+class Printer;
 class SleepingClock;
 class WorkQueue;
 
@@ -20,6 +23,9 @@ struct Services {
     Preferences* preferences = nullptr;
     SleepingClock* sleepingClock = nullptr;
     WorkQueue* flushQueue = nullptr;  ///< where files written are brought to the disk
+    BackgroundQueue* backgroundQueue = nullptr;
+    Printer* printer = nullptr;
+    Pasteboard* pasteboard = nullptr;
 };
 
 }  // namespace marlevo

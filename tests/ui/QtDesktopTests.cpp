@@ -1,0 +1,63 @@
+#include "platform/qt/KeyRepeatFilter.h"
+#include "platform/qt/QtMainQueue.h"
+
+#include <QKeyEvent>
+#include <QTest>
+#include <QThread>
+#include <QWindow>
+
+#include <memory>
+#include <numeric>
+#include <thread>
+#include <vector>
+
+using namespace marlevo;
+
+class QtDesktopTests : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void workOfAnotherThreadRunsHereInItsOrder() {
+        QtMainQueue queue;
+        std::vector<int> ran;
+        std::vector<int> expected(200);
+        std::iota(expected.begin(), expected.end(), 0);
+        std::thread([&] {
+            for (const int i : expected) {
+                queue.post([&ran, i] {
+                    if (QThread::currentThread() == qApp->thread()) ran.push_back(i);
+                });
+            }
+        }).join();
+        QVERIFY(ran.empty());
+        QTRY_COMPARE(ran, expected);
+    }
+
+    void workEndsWithItsQueue() {
+        auto queue = std::make_unique<QtMainQueue>();
+        bool ran = false;
+        queue->post([&] { ran = true; });
+        QVERIFY(!ran);
+        queue.reset();
+        QTest::qWait(20);
+        QVERIFY(!ran);
+    }
+
+    void aPressAtTheTimeOfItsKeysReleaseRunsNoShortcut() {
+        QWindow window;
+        KeyRepeatFilter filter;
+        const auto withheld = [&](QEvent::Type type, Qt::Key key, quint64 time) {
+            QKeyEvent event(type, key, Qt::ControlModifier);
+            event.setTimestamp(time);
+            return filter.eventFilter(&window, &event);
+        };
+        QVERIFY(!withheld(QEvent::ShortcutOverride, Qt::Key_Z, 100));
+        QVERIFY(!withheld(QEvent::KeyRelease, Qt::Key_Z, 760));
+        QVERIFY(withheld(QEvent::ShortcutOverride, Qt::Key_Z, 760));
+        QVERIFY(!withheld(QEvent::ShortcutOverride, Qt::Key_G, 760));
+        QVERIFY(!withheld(QEvent::ShortcutOverride, Qt::Key_Z, 800));
+    }
+};
+
+QTEST_MAIN(QtDesktopTests)
+#include "QtDesktopTests.moc"
