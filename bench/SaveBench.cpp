@@ -50,8 +50,14 @@ BENCHMARK(saveIntoTheSameFile)
     ->Arg(1'000)
     ->Arg(10'000)
     ->Unit(benchmark::kMillisecond)
-    ->UseRealTime();
-BENCHMARK(encodeOnly)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond)->UseRealTime();
+    ->UseRealTime()
+    ->MeasureProcessCPUTime();
+BENCHMARK(encodeOnly)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->MeasureProcessCPUTime();
 
 }  // namespace
 }  // namespace marlevo

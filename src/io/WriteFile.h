@@ -36,6 +36,7 @@ private:
 /// file that was not there before is not there after. (When the disk itself fails in the middle of
 /// the writing, a partly written file may remain.) The time is that of handing the bytes to the
 /// system; on file systems that cannot reserve room, that of writing the growth to the disk too.
+/// Where a file system never overwrites in place, there must be room for a second copy.
 ///
 /// Only regular files are written: a folder, a pipe or a device is an error at once. The error's
 /// text names the file. A limit on file size is an error only in a program that ignores SIGXFSZ.

@@ -3,7 +3,7 @@
 #include "io/Open.h"
 #include "model/DrawingDocument.h"
 #include "platform/WorkQueue.h"
-#include "tests/io/FullDisk.h"
+#include "tests/io/SmallDisk.h"
 #include "tests/support/FakeServices.h"
 #include "tests/support/Strokes.h"
 

@@ -9,10 +9,13 @@
 
 namespace marlevo {
 
-/// A file system of one mebibyte in memory, if this process may mount one.
+/// A file system in memory, if this process may mount one.
 class SmallDisk {
 public:
-    SmallDisk() : isMounted_(mount(0)) {}
+    static constexpr const char* oneMebibyte = "tmpfs";
+    static constexpr const char* cannotReserveRoom = "ramfs";
+
+    explicit SmallDisk(const char* type = oneMebibyte) : type_(type), isMounted_(mount(0)) {}
     ~SmallDisk() {
         if (isMounted_) ::umount2(folder_.path().c_str(), MNT_DETACH);
     }
@@ -25,10 +28,11 @@ public:
 
 private:
     bool mount(unsigned long flags) {
-        return ::mount("tmpfs", folder_.path().c_str(), "tmpfs", flags, "size=1m") == 0;
+        return ::mount(type_, folder_.path().c_str(), type_, flags, "size=1m") == 0;
     }
 
     TemporaryFolder folder_;
+    const char* type_;
     bool isMounted_;
 };
 
