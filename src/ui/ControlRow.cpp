@@ -36,10 +36,11 @@ void ControlRow::addChoice(const QString& name, Read<bool> isChosen, Command cho
     button->setText(name);
     button->setAccessibleName(name);
     button->setCheckable(true);
-    Follower& follower = followers_.emplace_back(document_, [this, button, isChosen] {
-        const QSignalBlocker quiet(button);
-        button->setChecked(isChosen(document_));
-    });
+    Follower& follower =
+        followers_.emplace_back(document_, [this, button, isChosen = std::move(isChosen)] {
+            const QSignalBlocker quiet(button);
+            button->setChecked(isChosen(document_));
+        });
     // Toggled, not clicked: that is all that assistive technology makes a checkable button say.
     connect(button, &QToolButton::toggled, this, [this, choose = std::move(choose), &follower] {
         choose(document_);

@@ -4,7 +4,8 @@
 #include "platform/qt/SavePanel.h"
 
 #include <QFileInfo>
-#include <QMetaObject>
+
+#include <utility>
 
 namespace marlevo {
 
@@ -31,9 +32,7 @@ void QtFilePanels::showOpenPanel(const OpenPanelRequest& request, Completion com
 }
 
 void QtFilePanels::cancelLater(Completion completion) {
-    QMetaObject::invokeMethod(
-        &window_, [completion = std::move(completion)] { completion(std::nullopt); },
-        Qt::QueuedConnection);
+    queue_.post([completion = std::move(completion)] { completion(std::nullopt); });
 }
 
 void QtFilePanels::show(QFileDialog* panel, Completion completion) {

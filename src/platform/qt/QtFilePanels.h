@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FilePanels.h"
+#include "platform/qt/QtMainQueue.h"
 
 #include <QFileDialog>
 #include <QPointer>
@@ -27,6 +28,7 @@ private:
 
     QWidget& window_;
     QPointer<QFileDialog> open_;
+    QtMainQueue queue_;
 };
 
 }  // namespace marlevo

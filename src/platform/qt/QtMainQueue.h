@@ -13,7 +13,12 @@ public:
     void post(std::function<void()> work) override;
 
 private:
-    QObject receiver_;
+    class Receiver final : public QObject {
+    public:
+        bool event(QEvent* event) override;
+    };
+
+    Receiver receiver_;
 };
 
 }  // namespace marlevo
