@@ -1,11 +1,12 @@
 #include "io/FileTypes.h"
+#include "io/WriteFile.h"
 #include "model/DrawingDocument.h"
 #include "platform/FilePanels.h"
 #include "platform/ImageCodec.h"
 
 #include <cstdint>
-#include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -56,9 +57,8 @@ std::string proposedName(CanvasSize size, const FileType& type) {
 void DrawingDocument::exportTo(const std::filesystem::path& file, ExportFormat format) {
     const auto bytes = encodedPicture(*this, format);
     if (!bytes) return;
-    std::ofstream(file, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes->data()),
-               static_cast<std::streamsize>(bytes->size()));
+    auto written = writeWholeFile(file, *bytes);
+    if (written) flushBehind(services_.flushQueue, std::move(*written), [](const Failure&) {});
 }
 
 void DrawingDocument::performExport(ExportFormat format) {

@@ -32,10 +32,11 @@ void BackgroundThread::run(const std::stop_token& stop) {
     std::unique_lock lock(mutex_);
     while (changed_.wait(lock, stop, [this] { return !waiting_.empty(); })) {
         if (stop.stop_requested()) return;
-        const std::function<void()> work = std::move(waiting_.front());
+        std::function<void()> work = std::move(waiting_.front());
         waiting_.pop_front();
         lock.unlock();
         work();
+        work = nullptr;  // what it holds goes away outside the lock
         lock.lock();
     }
 }

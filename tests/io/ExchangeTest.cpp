@@ -1,0 +1,118 @@
+#include "model/DrawingDocument.h"
+#include "platform/Pasteboard.h"
+#include "platform/Printer.h"
+#include "tests/support/FakeImageCodec.h"
+#include "tests/support/ManualQueue.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <unistd.h>
+
+namespace marlevo {
+namespace {
+
+using testing::StartsWith;
+
+struct FakePrinter : Printer {
+    void print(const RasterImage& picture, Size size, const std::string& title) override {
+        jobs.push_back({picture, size, title});
+    }
+
+    struct Job {
+        RasterImage picture;
+        Size size;
+        std::string title;
+    };
+    std::vector<Job> jobs;
+};
+
+struct FakePasteboard : Pasteboard {
+    void setImage(const RasterImage& picture) override { contents = picture; }
+
+    std::optional<RasterImage> contents;
+};
+
+class Exchange : public testing::Test {
+protected:
+    Exchange() {
+        std::filesystem::create_directory(folder);
+        Services services;
+        services.mainQueue = &mainQueue;
+        services.imageCodec = &codec;
+        services.printer = &printer;
+        services.pasteboard = &pasteboard;
+        document = std::make_unique<DrawingDocument>(services);
+        document->canvasSize = CanvasSize{20.7, 10.2};
+        document->backgroundColor = Color{1, 0, 0, 1};
+    }
+    ~Exchange() override { std::filesystem::remove_all(folder); }
+
+    static std::string contents(const std::filesystem::path& file) {
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("marlevo-exchange-" + std::to_string(getpid()));
+    ManualMainQueue mainQueue;
+    FakeImageCodec codec;
+    FakePrinter printer;
+    FakePasteboard pasteboard;
+    std::unique_ptr<DrawingDocument> document;
+};
+
+TEST_F(Exchange, ExportReplacesTheFile) {
+    const auto file = folder / "picture";
+    std::ofstream(file) << std::string(100000, 'x');
+    document->exportTo(file, ExportFormat::bmp);
+    const auto encoded = codec.encode(*document->renderCGImage(), ImageCodec::Format::bmp);
+    EXPECT_EQ(contents(file), std::string(encoded->begin(), encoded->end()));
+    document->exportTo(file, ExportFormat::pdf);
+    EXPECT_THAT(contents(file), StartsWith("%PDF-"));
+}
+
+TEST_F(Exchange, ExportThatFailsLeavesEverythingAsItWas) {
+    document->exportTo(folder / "missing" / "picture.png", ExportFormat::png);
+    document->exportTo(folder, ExportFormat::pdf);
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+
+    const auto file = folder / "picture";
+    std::ofstream(file) << "old";
+    document->canvasSize = CanvasSize{0, 10};
+    for (const ExportFormat format : allExportFormats)
+        document->exportTo(file, format);
+    EXPECT_EQ(contents(file), "old");
+}
+
+TEST_F(Exchange, PrintsAfterTheCurrentEventThePictureOfItsBeginning) {
+    const auto picture = document->renderCGImage();
+    document->printDocument();
+    document->currentFileURL = folder / "My drawing.marlevo";
+    document->printDocument();
+    EXPECT_TRUE(printer.jobs.empty());
+    document.reset();
+    mainQueue.run();
+    ASSERT_EQ(printer.jobs.size(), 2);
+    EXPECT_EQ(printer.jobs[0].picture, *picture);
+    EXPECT_EQ(printer.jobs[0].size, (Size{20.7, 10.2}));
+    EXPECT_EQ(printer.jobs[0].title, "Marlevo");
+    EXPECT_EQ(printer.jobs[1].title, "My drawing.marlevo");
+}
+
+TEST_F(Exchange, ACanvasWithoutPictureIsNeitherPrintedNorCopied) {
+    document->copyToClipboard();
+    const auto copied = document->renderCGImage();
+    EXPECT_EQ(pasteboard.contents, copied);
+    document->canvasSize = CanvasSize{0.5, 100};
+    document->copyToClipboard();
+    document->printDocument();
+    EXPECT_EQ(pasteboard.contents, copied);
+    EXPECT_FALSE(mainQueue.run());
+}
+
+}  // namespace
+}  // namespace marlevo
