@@ -1,11 +1,25 @@
+#include "platform/BackgroundThread.h"
+#include "platform/StandardOutput.h"
+#include "platform/WorkQueue.h"
 #include "platform/qt/KeyRepeatFilter.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPasteboard.h"
+#include "platform/qt/QtPreferences.h"
+#include "platform/qt/QtPrinter.h"
+#include "platform/qt/QtSleepingClock.h"
 #include "ui/MarlevoApp.h"
 
 #include <QApplication>
 
+#include <csignal>
+
 int main(int argc, char* argv[]) {
+    // A closed output and a limit on file size are errors of the write that meets them, not ends of
+    // the program.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+
     // Every position of the pointer becomes a point of the stroke: none may be merged away.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
@@ -18,7 +32,23 @@ int main(int argc, char* argv[]) {
 
     marlevo::QtMainQueue mainQueue;
     const marlevo::QtImageCodec imageCodec;
-    marlevo::MarlevoApp app({.mainQueue = &mainQueue, .imageCodec = &imageCodec});
+    marlevo::StandardOutput console;
+    marlevo::QtPreferences preferences;
+    marlevo::QtSleepingClock sleepingClock;
+    marlevo::QtPrinter printer;
+    marlevo::QtPasteboard pasteboard;
+    // Behind what their work uses, so that they end first.
+    marlevo::WorkQueue flushQueue;
+    marlevo::BackgroundThread backgroundQueue;
+    marlevo::MarlevoApp app({.mainQueue = &mainQueue,
+                             .imageCodec = &imageCodec,
+                             .console = &console,
+                             .preferences = &preferences,
+                             .sleepingClock = &sleepingClock,
+                             .flushQueue = &flushQueue,
+                             .backgroundQueue = &backgroundQueue,
+                             .printer = &printer,
+                             .pasteboard = &pasteboard});
     app.openWindow();
     return QApplication::exec();
 }

@@ -86,22 +86,12 @@ struct BitmapContext::Rasterizer {
         return !flattened.isEmpty();
     }
 
-    /// The pen is `width` high and `stretch` times as wide on the device: the outline is made in a
-    /// frame without the stretch, where the pen is round.
-    void strokeByOutline(const Path& path, double width, double stretch, PackedColor color) {
-        VisibleRange visible = visibleRange(target.area, width / 2 * std::max(stretch, 1.0));
-        if (!isInSight(path, state.frame, visible)) return;
-        visible.left /= stretch;
-        visible.right /= stretch;
-        DeviceFrame unstretched = state.frame;
-        unstretched.scaleX /= stretch;
-        unstretched.originX /= stretch;
-        const double tolerance = flatteningTolerance / std::max(stretch, 1.0);
-        flatten(path, unstretched, tolerance, flattened, SubPathEnds::asGiven, visible);
-        strokeOutline(flattened, width, tolerance, outline);
-        for (Point& p : outline.points)
-            p.x *= stretch;
-        fillOutline(outline, target, color);
+    /// Flattens all of the path if anything of it can be seen: for what makes of a segment more
+    /// than can be told from the segment alone.
+    bool flattenWhole(const Path& path, double reach) {
+        if (!isInSight(path, state.frame, visibleRange(target.area, reach))) return false;
+        flatten(path, state.frame, flatteningTolerance, flattened);
+        return !flattened.isEmpty();
     }
 
     void fillPixels(const IntRect& rect, PackedColor color) {
@@ -162,15 +152,21 @@ void BitmapContext::fillPath(const Path& path, const Color& color) {
 void BitmapContext::strokePath(const Path& path, const Color& color, double lineWidth) {
     const DeviceFrame& frame = rasterizer_->state.frame;
     const PackedColor packed = rasterizer_->pack(color);
-    const double width = lineWidth * std::abs(frame.scaleY);
-    const double stretch = std::abs(frame.scaleX / frame.scaleY);
-    if (packed.alpha == 0 || !(width > 0) || !(stretch > 0)) return;
+    const double width = lineWidth * std::abs(frame.scaleX);
+    const double height = lineWidth * std::abs(frame.scaleY);
+    if (packed.alpha == 0 || !(width > 0) || !(height > 0)) return;
+    const double reach = std::max({width, height, 1.0}) / 2;
+
     // The choice must not depend on the target, or its bands would not fit together.
-    if (stretch == 1 && width <= maxWidthByDistance) {
-        if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return;
+    if (width == height && width <= maxWidthByDistance) {
+        if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
         strokeByDistance(rasterizer_->flattened, width, rasterizer_->target, packed);
     } else {
-        rasterizer_->strokeByOutline(path, width, stretch, packed);
+        // A corner of the outline depends on the segments before and behind it.
+        if (!rasterizer_->flattenWhole(path, reach)) return;
+        strokeOutline(rasterizer_->flattened, lineWidth, frame.scaleX, frame.scaleY,
+                      rasterizer_->outline);
+        fillOutline(rasterizer_->outline, rasterizer_->target, packed);
     }
 }
 

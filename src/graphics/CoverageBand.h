@@ -31,7 +31,7 @@ public:
     void reset(const IntRect& area);
 
     /// Adds the part of the edge that lies in the band's rows. What is left of the area counts
-    /// for all its columns, what is right of it for none. Coordinates are within ±2³⁰.
+    /// for all its columns, what is right of it for none. Coordinates are within ±2²⁹.
     void add(const OutlineEdge& edge);
 
     /// Blends `color` on the pixels of `target`, which must hold the whole area, by what has been

@@ -3,16 +3,34 @@
 #include "graphics/CoverageBand.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 
 namespace marlevo {
 
 namespace {
 
-constexpr double limit = FlattenedPath::maxCoordinate;
+/// Where edges end: in 1/256 pixel the difference of any two coordinates still fits 31 bits.
+constexpr double limit = 1 << 21;
 
-/// Cells a band holds at most (unless one row is longer): few enough to stay in the cache.
-constexpr int bandCells = 1 << 16;
+/// Cells a band holds at most (unless one row is longer). Only those along edges are touched, so
+/// most outlines need no second band, and what is touched stays in the cache.
+constexpr int bandCells = 1 << 18;
+
+std::int32_t toSubpixels(double v) {
+    // Truncation of a positive number is a floor, and a machine instruction.
+    constexpr std::int64_t bias = std::int64_t{1} << 32;
+    return static_cast<std::int32_t>(
+        static_cast<std::int64_t>(v * CoverageBand::subpixels + (double(bias) + 0.5)) - bias);
+}
+
+struct SubpixelPoint {
+    std::int32_t x;
+    std::int32_t y;
+
+    explicit SubpixelPoint(Point p) : x(toSubpixels(p.x)), y(toSubpixels(p.y)) {}
+};
 
 /// The edges of an outline that can matter in an area, filed by the band in which they begin.
 class EdgeTable {
@@ -29,9 +47,10 @@ private:
     };
     static constexpr std::int32_t none = -1;
 
-    void addSegment(Point from, Point to);
+    void addPolygon(std::span<const Point> points);
+    void addClippedPolygon(std::span<const Point> points);
     void addClippedSegment(Point from, Point to);
-    void addEdge(Point from, Point to);
+    void addEdge(SubpixelPoint from, SubpixelPoint to);
     std::int32_t& bandOf(std::int32_t y) {
         const int row = std::max(y >> CoverageBand::subpixelBits, box_.top) - box_.top;
         return bandHeads_[static_cast<std::size_t>(row / bandRows_)];
@@ -44,38 +63,44 @@ private:
     CoverageBand band_;
 };
 
-bool isWithinLimit(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
-
 bool isFinite(std::span<const Point> points) {
     return std::all_of(points.begin(), points.end(),
                        [](Point p) { return std::isfinite(p.x) && std::isfinite(p.y); });
 }
 
-std::int32_t toSubpixels(double v) {
-    // Truncation of a positive number is a floor, and a machine instruction.
-    constexpr std::int64_t bias = std::int64_t{1} << 32;
-    return static_cast<std::int32_t>(
-        static_cast<std::int64_t>(v * CoverageBand::subpixels + (double(bias) + 0.5)) - bias);
-}
+/// The smallest rectangle that holds some points.
+struct Bounds {
+    double minX = limit;
+    double minY = limit;
+    double maxX = -limit;
+    double maxY = -limit;
+    double poison = 0;  ///< not a number if a coordinate is not finite
 
-/// The pixels of `area` that the outline's bounding box touches.
-IntRect coveredBox(const FlattenedPath& outline, const IntRect& area) {
-    double minX = limit, minY = limit, maxX = -limit, maxY = -limit;
-    for (const auto& part : outline.subPaths) {
-        for (const Point p : outline.pointsOf(part)) {
+    void add(std::span<const Point> points) {
+        for (const Point p : points) {
             minX = std::min(minX, p.x);
             minY = std::min(minY, p.y);
             maxX = std::max(maxX, p.x);
             maxY = std::max(maxY, p.y);
+            poison += (p.x - p.x) + (p.y - p.y);
         }
     }
-    const auto toInt = [](double v) { return static_cast<int>(std::clamp(v, -limit, limit)); };
-    return area.intersectedWith({toInt(std::floor(minX)), toInt(std::floor(minY)),
-                                 toInt(std::floor(maxX) + 1), toInt(std::floor(maxY) + 1)});
-}
+
+    bool isWithinLimit() const {
+        return poison == 0 && minX >= -limit && minY >= -limit && maxX <= limit && maxY <= limit;
+    }
+
+    IntRect touchedPixels() const {
+        const auto toInt = [](double v) { return static_cast<int>(std::clamp(v, -limit, limit)); };
+        return {toInt(std::floor(minX)), toInt(std::floor(minY)), toInt(std::floor(maxX) + 1),
+                toInt(std::floor(maxY) + 1)};
+    }
+};
 
 bool EdgeTable::build(const FlattenedPath& outline, const IntRect& area) {
-    box_ = coveredBox(outline, area);
+    Bounds bounds;
+    bounds.add(outline.points);
+    box_ = area.intersectedWith(bounds.touchedPixels());
     if (box_.isEmpty()) return false;
 
     bandRows_ = std::clamp(bandCells / box_.width(), 1, box_.height());
@@ -83,21 +108,31 @@ bool EdgeTable::build(const FlattenedPath& outline, const IntRect& area) {
     bandHeads_.assign(static_cast<std::size_t>((box_.height() + bandRows_ - 1) / bandRows_), none);
     for (const auto& part : outline.subPaths) {
         const auto points = outline.pointsOf(part);
-        if (points.size() < 2 || !isFinite(points)) continue;
-        Point from = points.back();
-        for (const Point to : points) {
-            addSegment(from, to);
-            from = to;
-        }
+        if (points.size() < 2) continue;
+        if (bounds.isWithinLimit())
+            addPolygon(points);
+        else
+            addClippedPolygon(points);
     }
     return !entries_.empty();
 }
 
-void EdgeTable::addSegment(Point from, Point to) {
-    if (isWithinLimit(from) && isWithinLimit(to))
+void EdgeTable::addPolygon(std::span<const Point> points) {
+    SubpixelPoint from(points.back());
+    for (const Point p : points) {
+        const SubpixelPoint to(p);
         addEdge(from, to);
-    else
+        from = to;
+    }
+}
+
+void EdgeTable::addClippedPolygon(std::span<const Point> points) {
+    if (!isFinite(points)) return;
+    Point from = points.back();
+    for (const Point to : points) {
         addClippedSegment(from, to);
+        from = to;
+    }
 }
 
 /// Cuts the segment at the upper and lower limit, and lets it follow the left and right one.
@@ -112,33 +147,30 @@ void EdgeTable::addClippedSegment(Point from, Point to) {
     };
     if (std::max(from.y, to.y) <= -limit || std::min(from.y, to.y) >= limit) return;
 
-    double cuts[6] = {0, 1};
-    int count = 2;
+    std::array<double, 6> cuts{0, 1};
+    std::size_t count = 2;
     for (const double at : {-limit, limit}) {
         if ((from.y < at) != (to.y < at)) cuts[count++] = crossing(from.y, to.y, at);
         if ((from.x < at) != (to.x < at)) cuts[count++] = crossing(from.x, to.x, at);
     }
-    std::sort(cuts, cuts + count);
+    std::ranges::sort(std::span(cuts).first(count));
     const auto moved = [](Point p) {
         return Point{std::clamp(p.x, -limit, limit), std::clamp(p.y, -limit, limit)};
     };
     Point last = moved(from);
-    for (int i = 1; i < count; ++i) {
+    for (std::size_t i = 1; i < count; ++i) {
         const Point next = i + 1 == count ? moved(to) : moved(cut(cuts[i]));
-        addEdge(last, next);
+        addEdge(SubpixelPoint(last), SubpixelPoint(next));
         last = next;
     }
 }
 
-void EdgeTable::addEdge(Point from, Point to) {
-    OutlineEdge edge{toSubpixels(from.x), toSubpixels(from.y), toSubpixels(to.x), toSubpixels(to.y),
-                     1};
-    if (edge.y0 == edge.y1) return;
-    if (edge.y0 > edge.y1) {
-        std::swap(edge.x0, edge.x1);
-        std::swap(edge.y0, edge.y1);
-        edge.winding = -1;
-    }
+void EdgeTable::addEdge(SubpixelPoint from, SubpixelPoint to) {
+    if (from.y == to.y) return;
+    const bool isDown = from.y < to.y;
+    const SubpixelPoint upper = isDown ? from : to;
+    const SubpixelPoint lower = isDown ? to : from;
+    const OutlineEdge edge{upper.x, upper.y, lower.x, lower.y, isDown ? 1 : -1};
     constexpr int one = CoverageBand::subpixels;
     if (edge.y1 <= box_.top * one || edge.y0 >= box_.bottom * one ||
         std::min(edge.x0, edge.x1) >= box_.right * one)

@@ -19,7 +19,7 @@ namespace marlevo {
 ///
 /// A pixel gets the same bytes whatever part of the plane `target` is. Coordinates may have any
 /// value; a segment with one that is not finite is left out together with its sub-path, and
-/// everything beyond ±FlattenedPath::maxCoordinate is moved to that border.
+/// what lies more than 2²¹ pixels from 0 is moved to that border.
 void fillOutline(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color);
 
 }  // namespace marlevo

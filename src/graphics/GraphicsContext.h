@@ -5,6 +5,9 @@
 #include "graphics/RasterImage.h"
 #include "graphics/Rect.h"
 
+#include <cstdint>
+#include <span>
+
 namespace marlevo {
 
 /// Something to draw on: pixels (BitmapContext) or a page.
@@ -37,6 +40,13 @@ public:
 
     /// Draws the whole image stretched into the rectangle, upright as one looks at the result.
     virtual void drawImage(const RasterImage& image, const Rect& rect) = 0;
+
+    /// Draws the image that was decoded from an image file. A page may keep the file's bytes in
+    /// place of the pixels; pixels have no use for them.
+    virtual void drawImageFile(std::span<const std::uint8_t> /*file*/, const RasterImage& decoded,
+                               const Rect& rect) {
+        drawImage(decoded, rect);
+    }
 };
 
 }  // namespace marlevo

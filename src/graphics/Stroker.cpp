@@ -1,5 +1,7 @@
 #include "graphics/Stroker.h"
 
+#include "graphics/Flatten.h"
+
 #include <algorithm>
 #include <cmath>
 #include <span>
@@ -239,17 +241,40 @@ void Stroker::addArc(Point center, Point fromNormal, Point toNormal) {
     }
 }
 
-}  // namespace
-
-void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double tolerance,
-                   FlattenedPath& out) {
-    out.clear();
-    if (!(lineWidth > 0) || !std::isfinite(lineWidth)) return;
-    Stroker stroker(lineWidth / 2, tolerance, out);
-    for (const auto& part : centerLine.subPaths) {
-        const auto points = centerLine.pointsOf(part);
+void addSubPaths(const FlattenedPath& line, Stroker& stroker) {
+    for (const auto& part : line.subPaths) {
+        const auto points = line.pointsOf(part);
         if (!points.empty()) stroker.add(points, part.closed);
     }
+}
+
+}  // namespace
+
+void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double scaleX, double scaleY,
+                   FlattenedPath& out) {
+    out.clear();
+    const double unitX = std::abs(scaleX);
+    const double unitY = std::abs(scaleY);
+    const double widthX = lineWidth * unitX;
+    const double widthY = lineWidth * unitY;
+    if (!(widthX > 0) || !(widthY > 0) || !std::isfinite(widthX) || !std::isfinite(widthY)) return;
+
+    // The wider side of the pen is the measure: in a plane stretched until the narrower side is as
+    // wide, the pen is a circle.
+    const double width = std::max(widthX, widthY);
+    Stroker stroker(width / 2, flatteningTolerance, out);
+    if (widthX == widthY) {
+        addSubPaths(centerLine, stroker);
+        return;
+    }
+    const double stretchX = width / widthX;
+    const double stretchY = width / widthY;
+    FlattenedPath stretched = centerLine;
+    for (Point& p : stretched.points)
+        p = {p.x * stretchX, p.y * stretchY};
+    addSubPaths(stretched, stroker);
+    for (Point& p : out.points)
+        p = {p.x / stretchX, p.y / stretchY};
 }
 
 }  // namespace marlevo

@@ -4,13 +4,15 @@
 
 namespace marlevo {
 
-/// Replaces `out` by the outline of `centerLine` drawn with a round pen `lineWidth` wide, to be
-/// filled with the non-zero rule. A sub-path of length zero gives a disc.
+/// Replaces `out` by the outline of `centerLine`, in device coordinates, drawn with a round pen
+/// `lineWidth` wide in a frame of these scales: where they differ the pen is an ellipse. The
+/// outline is to be filled with the non-zero rule. A sub-path of length zero gives the shape of the
+/// pen.
 ///
-/// Corners and arcs stray at most about `tolerance`, in the unit of the line, and points of the
-/// line closer together than a fraction of it are joined; where the pen is wider than some 100,000
-/// times the tolerance the error grows with it. Coordinates of `out` may lie beyond
-/// FlattenedPath::maxCoordinate. A width that is not finite or not positive gives an empty outline.
+/// Curves of the outline stray at most flatteningTolerance, and points of the line closer together
+/// than a fraction of that are joined; where the outline is wider than some 100,000 pixels the
+/// error grows with it. Coordinates of `out` may lie beyond FlattenedPath::maxCoordinate. A width
+/// or scale that is not finite, or is 0, or a negative width, gives an empty outline.
 ///
 /// How: each segment has a cell on each side of it, half the width high. On the outer side of a
 /// turn the cells of two segments end at their normals with a circle's sector between them; on the
@@ -21,7 +23,7 @@ namespace marlevo {
 /// point that the pen reaches is in the cell of the segment nearest to it, or in a sector or cap,
 /// and no cell turns backwards, so winding numbers inside are never 0 however tight the line turns.
 /// Borders between cells cancel; only the outer border of their sum is put out.
-void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double tolerance,
+void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double scaleX, double scaleY,
                    FlattenedPath& out);
 
 }  // namespace marlevo

@@ -28,6 +28,17 @@ std::optional<ImageCodec::Format> rasterFormat(ExportFormat format) {
     return std::nullopt;
 }
 
+/// The picture as a file in the format; nothing when there is no picture or it cannot be encoded.
+std::optional<std::vector<std::uint8_t>> encodedPicture(const DrawingDocument& document,
+                                                        ExportFormat format) {
+    const auto raster = rasterFormat(format);
+    if (!raster) return document.renderPDFData();
+    const ImageCodec* codec = document.services().imageCodec;
+    if (codec == nullptr) return std::nullopt;
+    const auto image = document.renderCGImage();
+    return image ? codec->encode(*image, *raster) : std::nullopt;
+}
+
 /// A side of the canvas as it stands in a file name. Beyond the integers there is no such number:
 /// those read as 0.
 std::string wholeNumber(double value) {
@@ -43,11 +54,7 @@ std::string proposedName(CanvasSize size, const FileType& type) {
 }  // namespace
 
 void DrawingDocument::exportTo(const std::filesystem::path& file, ExportFormat format) {
-    const auto encoding = rasterFormat(format);
-    if (!encoding || services_.imageCodec == nullptr) return;
-    const auto image = renderCGImage();
-    if (!image) return;
-    const auto bytes = services_.imageCodec->encode(*image, *encoding);
+    const auto bytes = encodedPicture(*this, format);
     if (!bytes) return;
     std::ofstream(file, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes->data()),

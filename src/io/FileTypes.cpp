@@ -18,4 +18,6 @@ FileType fileType(ExportFormat format) {
     return {};
 }
 
+FileType documentFileType() { return {"Marlevo drawing", "application/x-marlevo", {"marlevo"}}; }
+
 }  // namespace marlevo

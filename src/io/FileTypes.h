@@ -8,4 +8,7 @@ namespace marlevo {
 /// What a panel offers for an export in this format.
 FileType fileType(ExportFormat format);
 
+/// What the panels offer for drawings.
+FileType documentFileType();
+
 }  // namespace marlevo

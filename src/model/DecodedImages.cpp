@@ -29,6 +29,12 @@ std::optional<RasterImage> DecodedImages::image(const Bytes& file) {
     return result;
 }
 
+std::optional<RasterImage> DecodedImages::known(const Bytes& file) const {
+    const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& each) { return each.file.sharesWith(file); });
+    return entry != entries_.end() ? entry->image : std::nullopt;
+}
+
 void DecodedImages::keepOnly(const LayerList& layers) {
     std::erase_if(entries_, [&](const Entry& entry) {
         return std::none_of(layers.begin(), layers.end(), [&](const Layer& layer) {

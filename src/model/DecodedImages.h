@@ -25,6 +25,9 @@ public:
     /// The picture in the file, sharing its pixels; nothing when it cannot be decoded.
     std::optional<RasterImage> image(const Bytes& file);
 
+    /// The picture in the file if it is at hand, without decoding.
+    std::optional<RasterImage> known(const Bytes& file) const;
+
     /// Lets go of every file that no visible layer of the list uses.
     void keepOnly(const LayerList& layers);
 

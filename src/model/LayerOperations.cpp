@@ -39,8 +39,7 @@ void DrawingDocument::clearActiveLayer() {
     saveState();
     const std::int64_t index = *activeLayerIndex;
     layers.modify([&](LayerList& all) { all[index].strokes.clear(); });
-    selectedLayerID = std::nullopt;
-    selectedStrokeIndex = std::nullopt;
+    clearSelection();
 }
 
 void DrawingDocument::clearAll() {
@@ -49,6 +48,10 @@ void DrawingDocument::clearAll() {
     saveState();
     for (std::size_t index = 0; index < layers->size(); ++index)
         layers.modify([&](LayerList& all) { all[index].strokes.clear(); });
+    clearSelection();
+}
+
+void DrawingDocument::clearSelection() {
     selectedLayerID = std::nullopt;
     selectedStrokeIndex = std::nullopt;
 }

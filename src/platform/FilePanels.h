@@ -22,6 +22,12 @@ struct SavePanelRequest {
     std::optional<std::filesystem::path> folder;  ///< where to start; else the panel's own choice
 };
 
+/// One existing file is to be chosen, no folder.
+struct OpenPanelRequest {
+    std::string title;
+    FileType fileType;
+};
+
 /// The desktop's panels for choosing files, shown over one window without blocking it.
 class FilePanels {
 public:
@@ -34,6 +40,8 @@ public:
 
     /// Asks before an existing file is chosen; folders can be created in the panel.
     virtual void showSavePanel(const SavePanelRequest& request, Completion completion) = 0;
+
+    virtual void showOpenPanel(const OpenPanelRequest& request, Completion completion) = 0;
 };
 
 }  // namespace marlevo

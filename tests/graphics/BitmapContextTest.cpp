@@ -1,5 +1,6 @@
 #include "graphics/BitmapContext.h"
 
+#include "graphics/StrokeByDistance.h"
 #include "tests/graphics/Supersampling.h"
 
 #include <gmock/gmock.h>
@@ -87,8 +88,8 @@ TEST(BitmapContext, BothStrokeMethodsDrawTheSameStroke) {
     Canvas byOutline(140, 120);
     BitmapContext thin(byDistance.buffer(), DeviceFrame::yDown(1));
     BitmapContext thick(byOutline.buffer(), DeviceFrame::yDown(1));
-    thin.strokePath(curve, black, 19.999);
-    thick.strokePath(curve, black, 20.001);
+    thin.strokePath(curve, black, maxWidthByDistance);
+    thick.strokePath(curve, black, maxWidthByDistance + 0.001);
     for (int y = 0; y < 120; ++y) {
         for (int x = 0; x < 140; ++x) {
             ASSERT_NEAR(byDistance.alpha(x, y), byOutline.alpha(x, y), 28) << x << ", " << y;
@@ -128,6 +129,18 @@ TEST(BitmapContext, GivesTheSameBytesWhateverPartIsPainted) {
             if (!area.isEmpty()) draw(parts.part(area));
         }
         ASSERT_EQ(parts.bytes(), whole.bytes()) << "round " << round;
+    }
+}
+
+TEST(BitmapContext, DrawsImagesUprightInEitherFrame) {
+    const RasterImage image(1, 2, {255, 255, 0, 0, 100, 0, 0, 100});
+    for (const DeviceFrame& frame : {DeviceFrame::yUp(20), DeviceFrame::yDown(1)}) {
+        Canvas canvas(20, 20);
+        BitmapContext context(canvas.buffer(), frame);
+        context.setAlpha(0.5);
+        context.drawImage(image, {{0, 0}, {20, 20}});
+        EXPECT_NEAR(canvas.alpha(10, 1), 128, 1);
+        EXPECT_NEAR(canvas.alpha(10, 18), 50, 1);
     }
 }
 

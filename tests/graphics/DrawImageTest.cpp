@@ -1,5 +1,6 @@
 #include "graphics/DrawImage.h"
 
+#include "tests/graphics/InstructionSets.h"
 #include "tests/graphics/Supersampling.h"
 
 #include <gtest/gtest.h>
@@ -154,6 +155,21 @@ TEST(DrawImage, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
         }
         ASSERT_EQ(whole.bytes(), parts.bytes()) << "round " << round;
     }
+}
+
+TEST(DrawImage, GivesTheSameBytesWithEveryInstructionSet) {
+    const RasterImage image = noise(131, 97);
+    std::vector<std::uint8_t> expected;
+    withEveryInstructionSet([&](const char* name) {
+        Canvas canvas(203, 150);
+        PixelBuffer reversed = canvas.part({0, 90, 203, 150});
+        reversed.order = PixelOrder::bgra;
+        drawImage(image, {-3.3, 2, 190.6, 80.2}, 0.8, canvas.buffer());
+        drawImage(image, {7, 50.4, 61, 149}, 0.8, canvas.buffer());
+        drawImage(image, {40, 20, 171, 117}, 0.5, reversed);
+        if (expected.empty()) expected = canvas.bytes();
+        EXPECT_EQ(canvas.bytes(), expected) << name;
+    });
 }
 
 TEST(DrawImage, SurvivesRectanglesOfAnyKind) {

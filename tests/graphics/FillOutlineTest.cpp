@@ -1,5 +1,6 @@
 #include "graphics/FillOutline.h"
 
+#include "tests/graphics/InstructionSets.h"
 #include "tests/graphics/Supersampling.h"
 
 #include <gtest/gtest.h>
@@ -141,6 +142,21 @@ TEST(FillOutline, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
         }
         ASSERT_EQ(whole.bytes(), parts.bytes()) << "outline " << round;
     }
+}
+
+TEST(FillOutline, GivesTheSameBytesWithEveryInstructionSet) {
+    std::mt19937 random(13);
+    FlattenedPath outline = scribble(random, 50, 150, 40);
+    addPolygon(outline, {{-9, 20.3}, {300, 20.3}, {300, 120.7}, {-9, 120.7}});
+    std::vector<std::uint8_t> expected;
+    withEveryInstructionSet([&](const char* name) {
+        Canvas canvas(203, 150);
+        for (int i = 0; i < 2; ++i)
+            fillOutline(outline, canvas.buffer(),
+                        packColor({0.2, 0.9, 0.4, 1}, 0.6, PixelOrder::argb));
+        if (expected.empty()) expected = canvas.bytes();
+        EXPECT_EQ(canvas.bytes(), expected) << name;
+    });
 }
 
 TEST(FillOutline, EndsBandsAtTheSamePixelsOnWidePictures) {

@@ -15,7 +15,7 @@ namespace {
 /// Compares the outline of a stroke, and the filled outline, with the set of points near its line.
 void expectTruth(const FlattenedPath& line, double width, int size, const char* what) {
     FlattenedPath outline;
-    strokeOutline(line, width, flatteningTolerance, outline);
+    strokeOutline(line, width, 1, 1, outline);
     Canvas canvas(size, size);
     fillOutline(outline, canvas.buffer(), packColor(black, 1, PixelOrder::argb));
 
@@ -113,7 +113,7 @@ TEST(Stroker, NeverTurnsBackwards) {
             points.push_back({points.back().x + move(random), points.back().y + move(random)});
         const FlattenedPath line = polyline(points, round % 2);
         FlattenedPath outline;
-        strokeOutline(line, 20, flatteningTolerance, outline);
+        strokeOutline(line, 20, 1, 1, outline);
         int sign = 0;
         for (int i = 0; i < 300; ++i) {
             const Point p{place(random), place(random)};
@@ -125,15 +125,35 @@ TEST(Stroker, NeverTurnsBackwards) {
     }
 }
 
+TEST(Stroker, DrawsWithAnEllipseWhereTheScalesDiffer) {
+    // The same line in a frame stretched three times in x and mirrored in y.
+    const std::vector<Point> points{{10, 20}, {22, 30}, {14, 60}, {14, 25}};
+    std::vector<Point> stretched;
+    for (const Point p : points)
+        stretched.push_back({3 * p.x, 80 - p.y});
+    const FlattenedPath line = polyline(points);
+    FlattenedPath outline;
+    strokeOutline(polyline(stretched), 8, 3, -1, outline);
+    for (double y = 0.3; y < 80; y += 0.7) {
+        for (double x = 0.1; x < 40; x += 0.3) {
+            const double beyond = distanceToLines({x, y}, line) - 4;
+            if (std::abs(beyond) > 1.5 * flatteningTolerance) {
+                ASSERT_EQ(windingNumber(outline, {3 * x, 80 - y}) != 0, beyond < 0)
+                    << x << ", " << y;
+            }
+        }
+    }
+}
+
 TEST(Stroker, TakesWidthsOfAnySize) {
     const FlattenedPath line = polyline({{10, 10}, {20, 12}, {11, 18}});
     FlattenedPath outline;
     for (const double width : {0.0, -3.0, std::nan(""), std::numeric_limits<double>::infinity()}) {
-        strokeOutline(line, width, flatteningTolerance, outline);
+        strokeOutline(line, width, 1, 1, outline);
         EXPECT_TRUE(outline.isEmpty()) << width;
     }
     for (const double width : {1e-300, 1e-5, 1e6, 1e12, 1e300}) {
-        strokeOutline(line, width, flatteningTolerance, outline);
+        strokeOutline(line, width, 1, 1, outline);
         EXPECT_LT(outline.points.size(), 10000u) << width;
         Canvas canvas(30, 30);
         fillOutline(outline, canvas.buffer(), packColor(black, 1, PixelOrder::argb));

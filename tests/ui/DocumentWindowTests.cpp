@@ -21,6 +21,7 @@ public:
         request = asked;
         completion(answer);
     }
+    void showOpenPanel(const OpenPanelRequest&, Completion) override {}
 };
 
 void draw(DrawingDocument& document) {

@@ -3,12 +3,10 @@
 #include "platform/FilePanels.h"
 #include "platform/qt/QtMainQueue.h"
 
+#include <QFileDialog>
 #include <QPointer>
-#include <QWidget>
 
 namespace marlevo {
-
-class SavePanel;
 
 /// The file panels of one window, shown over it. Panels still open when this object goes away are
 /// closed without an answer.
@@ -22,10 +20,14 @@ public:
 
     /// While a panel is open a further request is answered as cancelled.
     void showSavePanel(const SavePanelRequest& request, Completion completion) override;
+    void showOpenPanel(const OpenPanelRequest& request, Completion completion) override;
 
 private:
+    void cancelLater(Completion completion);
+    void show(QFileDialog* panel, Completion completion);
+
     QWidget& window_;
-    QPointer<SavePanel> open_;
+    QPointer<QFileDialog> open_;
     QtMainQueue queue_;
 };
 

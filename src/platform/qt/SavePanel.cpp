@@ -1,5 +1,7 @@
 #include "platform/qt/SavePanel.h"
 
+#include "platform/qt/PanelParts.h"
+
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -19,11 +21,7 @@ SavePanel::SavePanel(const SavePanelRequest& request, QWidget* parent) : QFileDi
     setAcceptMode(AcceptSave);
     setLabelText(LookIn, tr("Save in:"));
     setFileMode(AnyFile);
-    if (!extensions_.isEmpty()) {
-        setNameFilter(QStringLiteral("%1 (*.%2)")
-                          .arg(QString::fromStdString(request.fileType.description),
-                               extensions_.join(" *.")));
-    }
+    if (!extensions_.isEmpty()) setNameFilter(nameFilter(request.fileType));
     if (request.folder) setDirectory(QString::fromStdU16String(request.folder->u16string()));
     selectFile(QString::fromStdString(request.proposedName));
 }
@@ -39,9 +37,10 @@ void SavePanel::accept() {
 
     completeExtension();
     const QFileInfo file(chosenFile());
-    if (file.isDir()) return refuse(tr("A folder named “%1” exists.").arg(file.fileName()));
+    if (file.isDir())
+        return showRefusal(*this, tr("A folder named “%1” exists.").arg(file.fileName()));
     if (!QFileInfo(file.path()).isDir())
-        return refuse(tr("The folder “%1” does not exist.").arg(file.path()));
+        return showRefusal(*this, tr("The folder “%1” does not exist.").arg(file.path()));
     if (file.exists()) return askToReplace(file.fileName());
     QFileDialog::accept();
 }
@@ -72,13 +71,6 @@ void SavePanel::askToReplace(const QString& file) {
         if (question->clickedButton() == replace) QFileDialog::accept();
     });
     question->open();
-}
-
-void SavePanel::refuse(const QString& reason) {
-    auto* message =
-        new QMessageBox(QMessageBox::Warning, windowTitle(), reason, QMessageBox::Ok, this);
-    message->setAttribute(Qt::WA_DeleteOnClose);
-    message->open();
 }
 
 }  // namespace marlevo

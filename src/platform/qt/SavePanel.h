@@ -23,7 +23,6 @@ private:
     void completeExtension();
     bool hasExtension(const QString& file) const;
     void askToReplace(const QString& file);
-    void refuse(const QString& reason);
 
     QStringList extensions_;
 };

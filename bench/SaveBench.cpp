@@ -1,0 +1,59 @@
+// What a save costs the user-interface thread: the document's text, and handing it to the system.
+// The flush to disk is left out, since it follows behind.
+
+#include "io/DocumentData.h"
+#include "io/DocumentWriter.h"
+#include "model/DrawingDocument.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+namespace marlevo {
+namespace {
+
+/// As many strokes of 100 points, all numbers with every digit that a double has.
+void draw(DrawingDocument& document, std::int64_t strokeCount) {
+    std::mt19937_64 random(7);
+    std::uniform_real_distribution<double> coordinate(0, 1280);
+    std::vector<Stroke> strokes;
+    for (std::int64_t i = 0; i < strokeCount; ++i) {
+        std::vector<Point> points;
+        for (int j = 0; j < 100; ++j)
+            points.push_back({coordinate(random), coordinate(random)});
+        strokes.push_back({PointList(std::move(points)), black, 3, 1});
+    }
+    Layer layer("Background");
+    layer.strokes = StrokeList(std::move(strokes));
+    document.layers = LayerList{layer};
+}
+
+void saveIntoTheSameFile(benchmark::State& state) {
+    const TemporaryFolder folder;
+    DrawingDocument document;
+    draw(document, state.range(0));
+    for (auto _ : state)
+        document.writeDocument(folder / "drawing.marlevo");
+    state.SetBytesProcessed(static_cast<std::int64_t>(
+        state.iterations() * std::filesystem::file_size(folder / "drawing.marlevo")));
+}
+
+void encodeOnly(benchmark::State& state) {
+    DrawingDocument document;
+    draw(document, state.range(0));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(writeDocumentData(document.encodeDocumentData()));
+}
+
+BENCHMARK(saveIntoTheSameFile)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(encodeOnly)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+}  // namespace marlevo
+
+BENCHMARK_MAIN();

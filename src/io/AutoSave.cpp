@@ -1,0 +1,24 @@
+#include "io/AutoSave.h"
+
+#include "model/DrawingDocument.h"
+#include "platform/Preferences.h"
+
+namespace marlevo {
+
+AutoSave::AutoSave(DrawingDocument& document) : document_(document) {
+    const Services& services = document.services();
+    if (services.sleepingClock != nullptr && services.preferences != nullptr) sleep();
+}
+
+void AutoSave::sleep() {
+    sleep_ = document_.services().sleepingClock->sleep(interval, [this] { runCycle(); });
+}
+
+void AutoSave::runCycle() {
+    const bool isEnabled = document_.services().preferences->get(preference::autoSaveEnabled);
+    const std::optional<std::filesystem::path> file = document_.currentFileURL;
+    if (isEnabled && file) document_.writeDocument(*file);
+    sleep();
+}
+
+}  // namespace marlevo

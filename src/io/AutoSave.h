@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/SleepingClock.h"
+
+#include <chrono>
+#include <memory>
+
+namespace marlevo {
+
+class DrawingDocument;
+
+/// Writes a window's document to its file every 30 seconds, changed or not, while the user's
+/// setting allows it and the document has a file. Ends with this object; does nothing for a
+/// document without a clock or preferences.
+class AutoSave {
+public:
+    /// The pause after each cycle.
+    static constexpr std::chrono::seconds interval{30};
+
+    /// The document must outlive this object.
+    explicit AutoSave(DrawingDocument& document);
+    AutoSave(const AutoSave&) = delete;
+    AutoSave& operator=(const AutoSave&) = delete;
+
+private:
+    void sleep();
+    void runCycle();
+
+    DrawingDocument& document_;
+    std::unique_ptr<SleepingClock::Sleep> sleep_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+namespace marlevo {
+
+/// Whether the bytes are an ICC profile (ISO 15076-1) of the sRGB colour space, by its primaries
+/// and its curves, whatever its name.
+bool isSRGBProfile(std::span<const std::uint8_t> profile);
+
+}  // namespace marlevo

@@ -1,0 +1,93 @@
+#include "io/DocumentData.h"
+#include "model/DrawingDocument.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace marlevo {
+
+namespace {
+
+Stroke::ShapeType shapeTypeNamed(std::string_view name) {
+    const auto* const found = std::ranges::find(
+        Stroke::allShapeTypes, name, [](Stroke::ShapeType type) { return rawValue(type); });
+    return found == Stroke::allShapeTypes.end() ? Stroke::ShapeType::freehand : *found;
+}
+
+Stroke decodeStroke(const StrokeData& data) {
+    return {.points = data.points,
+            .color = {data.colorR, data.colorG, data.colorB, data.colorA},
+            .lineWidth = data.lineWidth,
+            .opacity = data.opacity,
+            .isEraser = data.isEraser,
+            .isFill = data.isFill,
+            .shapeType = shapeTypeNamed(data.shapeType)};
+}
+
+Layer decodeLayer(const LayerData& data) {
+    Layer layer(data.name);
+    layer.isVisible = data.isVisible;
+    layer.opacity = data.opacity;
+    layer.imageData = data.imageData;
+    std::vector<Stroke> strokes;
+    strokes.reserve(data.strokes.size());
+    std::ranges::transform(data.strokes, std::back_inserter(strokes), decodeStroke);
+    layer.strokes = StrokeList(std::move(strokes));
+    return layer;
+}
+
+}  // namespace
+
+StrokeData DrawingDocument::encodeStroke(const Stroke& stroke) {
+    return {.points = stroke.points,
+            .colorR = stroke.color.red,
+            .colorG = stroke.color.green,
+            .colorB = stroke.color.blue,
+            .colorA = stroke.color.alpha,
+            .lineWidth = stroke.lineWidth,
+            .opacity = stroke.opacity,
+            .isEraser = stroke.isEraser,
+            .isFill = stroke.isFill,
+            .shapeType = std::string(rawValue(stroke.shapeType))};
+}
+
+DocumentData DrawingDocument::encodeDocumentData() const {
+    DocumentData data{.version = 1,
+                      .canvasWidth = canvasSize->width,
+                      .canvasHeight = canvasSize->height,
+                      .bgColorR = backgroundColor->red,
+                      .bgColorG = backgroundColor->green,
+                      .bgColorB = backgroundColor->blue,
+                      .bgColorA = backgroundColor->alpha,
+                      .bgTransparent = backgroundIsTransparent,
+                      .layers = {}};
+    data.layers.reserve(layers->size());
+    for (const Layer& layer : *layers) {
+        LayerData& layerData = data.layers.emplace_back();
+        layerData.name = layer.name;
+        layerData.isVisible = layer.isVisible;
+        layerData.opacity = layer.opacity;
+        layerData.imageData = layer.imageData;
+        layerData.strokes.reserve(layer.strokes.size());
+        std::ranges::transform(layer.strokes, std::back_inserter(layerData.strokes), encodeStroke);
+    }
+    return data;
+}
+
+void DrawingDocument::applyDocumentData(const DocumentData& data) {
+    // Readers are told of each assignment: the order is part of what they may rely on.
+    canvasSize = {data.canvasWidth, data.canvasHeight};
+    backgroundColor = {data.bgColorR, data.bgColorG, data.bgColorB, data.bgColorA};
+    backgroundIsTransparent = data.bgTransparent;
+    LayerList loaded;
+    std::ranges::transform(data.layers, std::back_inserter(loaded), decodeLayer);
+    layers = std::move(loaded);
+    activeLayerIndex = 0;
+    zoom = 1.0;
+    undoStack = {};
+    redoStack = {};
+    currentStroke = std::nullopt;
+    layerThumbnails = {};
+}
+
+}  // namespace marlevo

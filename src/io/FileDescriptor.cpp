@@ -1,0 +1,23 @@
+#include "io/FileDescriptor.h"
+
+#include <unistd.h>
+
+namespace marlevo {
+
+std::error_code FileDescriptor::close() {
+    const int descriptor = std::exchange(descriptor_, -1);
+    // Not repeated after a signal: the system has let the descriptor go by then.
+    if (descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR) return {};
+    return lastSystemError();
+}
+
+Failure fileFailure(const std::filesystem::path& file, std::error_code error) {
+    return {file.string() + ": " + error.message()};
+}
+
+Failure notRegularFailure(const std::filesystem::path& file, bool isFolder) {
+    if (isFolder) return fileFailure(file, std::make_error_code(std::errc::is_a_directory));
+    return {file.string() + ": Not a regular file"};
+}
+
+}  // namespace marlevo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "io/Result.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace marlevo {
+
+/// Owns an open file of the system.
+class FileDescriptor {
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}  ///< negative: none
+    ~FileDescriptor() { close(); }
+    FileDescriptor(FileDescriptor&& other) noexcept
+        : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
+    }
+
+    explicit operator bool() const { return descriptor_ >= 0; }
+    int get() const { return descriptor_; }
+
+    /// Afterwards there is no file, also on an error, which may be one of an earlier write.
+    std::error_code close();
+
+private:
+    int descriptor_ = -1;
+};
+
+/// The reason why the last system call of this thread failed.
+inline std::error_code lastSystemError() { return {errno, std::generic_category()}; }
+
+/// Repeats a system call for as long as signals interrupt it.
+template <typename Call>
+auto uninterrupted(Call call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+/// "/folder/file: No space left on device"
+Failure fileFailure(const std::filesystem::path& file, std::error_code error);
+
+/// What failed for a file that is a folder, a device, a pipe or the like.
+Failure notRegularFailure(const std::filesystem::path& file, bool isFolder);
+
+}  // namespace marlevo

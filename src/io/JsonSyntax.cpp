@@ -1,0 +1,328 @@
+#include "io/JsonSyntax.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace marlevo {
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+int hexValue(char c) {
+    if (isDigit(c)) return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
+/// The code unit of four hexadecimal digits, or -1.
+int codeUnit(std::string_view text) {
+    if (text.size() < 4) return -1;
+    int unit = 0;
+    for (const char c : text.substr(0, 4)) {
+        const int value = hexValue(c);
+        if (value < 0) return -1;
+        unit = unit << 4 | value;
+    }
+    return unit;
+}
+
+bool isHighSurrogate(int unit) { return unit >= 0xD800 && unit < 0xDC00; }
+bool isLowSurrogate(int unit) { return unit >= 0xDC00 && unit < 0xE000; }
+
+void appendUtf8(std::string& text, std::uint32_t code) {
+    const auto add = [&](std::uint32_t byte) { text.push_back(static_cast<char>(byte)); };
+    if (code < 0x80) {
+        add(code);
+    } else if (code < 0x800) {
+        add(0xC0 | code >> 6);
+        add(0x80 | (code & 0x3F));
+    } else if (code < 0x10000) {
+        add(0xE0 | code >> 12);
+        add(0x80 | (code >> 6 & 0x3F));
+        add(0x80 | (code & 0x3F));
+    } else {
+        add(0xF0 | code >> 18);
+        add(0x80 | (code >> 12 & 0x3F));
+        add(0x80 | (code >> 6 & 0x3F));
+        add(0x80 | (code & 0x3F));
+    }
+}
+
+/// The length of the UTF-8 sequence of more than one byte that the text starts with; 0 when it is
+/// malformed, overlong, a surrogate or beyond U+10FFFF.
+std::size_t utf8Length(std::string_view text) {
+    const auto byte = [&](std::size_t i) {
+        return i < text.size() ? static_cast<unsigned char>(text[i]) : 0;
+    };
+    const auto continues = [&](std::size_t i) { return (byte(i) & 0xC0) == 0x80; };
+    const int lead = byte(0);
+    const int next = byte(1);
+    if (lead >= 0xC2 && lead <= 0xDF) return continues(1) ? 2 : 0;
+    if (lead >= 0xE0 && lead <= 0xEF) {
+        const int lowest = lead == 0xE0 ? 0xA0 : 0x80;
+        const int highest = lead == 0xED ? 0x9F : 0xBF;
+        return next >= lowest && next <= highest && continues(2) ? 3 : 0;
+    }
+    if (lead >= 0xF0 && lead <= 0xF4) {
+        const int lowest = lead == 0xF0 ? 0x90 : 0x80;
+        const int highest = lead == 0xF4 ? 0x8F : 0xBF;
+        return next >= lowest && next <= highest && continues(2) && continues(3) ? 4 : 0;
+    }
+    return 0;
+}
+
+/// Printable ASCII that a string holds as it is.
+constexpr auto isPlain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t c = 0x20; c < 0x80; ++c)
+        plain[c] = c != '"' && c != '\\';
+    return plain;
+}();
+
+/// Recursive descent; each function stands at the start of what it is named after, returns whether
+/// it is well-formed, and leaves the position behind it or at the fault.
+class Scanner {
+public:
+    explicit Scanner(std::string_view text) : text_(text) {}
+
+    bool document() {
+        skipSpace();
+        if (atEnd()) return fail("the text is empty");
+        if (!value(0)) return false;
+        skipSpace();
+        return atEnd() || fail("something follows the document's end");
+    }
+
+    bool value(std::size_t depth) {
+        if (atEnd()) return fail("the text ends too early");
+        switch (text_[position_]) {
+        case '{':
+            return object(depth);
+        case '[':
+            return array(depth);
+        case '"':
+            return string();
+        case 't':
+            return literal("true");
+        case 'f':
+            return literal("false");
+        case 'n':
+            return literal("null");
+        default:
+            return number();
+        }
+    }
+
+    bool memberValue(std::size_t depth) {
+        if (!value(depth)) return false;
+        skipSpace();
+        return take(',') || take('}');
+    }
+
+    bool string() {
+        if (!take('"')) return fail("a string was expected");
+        for (;;) {
+            while (!atEnd() && isPlain[static_cast<unsigned char>(text_[position_])])
+                ++position_;
+            if (atEnd()) return fail("the text ends within a string");
+            if (take('"')) return true;
+            if (text_[position_] == '\\') {
+                if (!escape()) return false;
+            } else if (static_cast<unsigned char>(text_[position_]) < 0x20) {
+                return fail("a control character stands in a string");
+            } else {
+                const std::size_t length = utf8Length(text_.substr(position_));
+                if (length == 0) return fail("the text is not UTF-8");
+                position_ += length;
+            }
+        }
+    }
+
+    bool number() {
+        const bool isNegative = take('-');
+        if (!take('0') && !digits())
+            return fail(isNegative ? "a digit was expected" : "a value was expected");
+        if (take('.') && !digits()) return fail("a digit was expected");
+        if (take('e') || take('E')) {
+            if (!take('+')) take('-');
+            if (!digits()) return fail("a digit was expected");
+        }
+        return true;
+    }
+
+    std::size_t position() const { return position_; }
+    JsonSyntax::Fault fault() const { return {position_, path_, reason_}; }
+
+private:
+    bool object(std::size_t depth) {
+        if (depth == JsonSyntax::maxDepth) return fail("the values are nested too deep");
+        ++position_;
+        skipSpace();
+        if (take('}')) return true;
+        for (;;) {
+            const std::size_t start = position_;
+            if (!string()) return false;
+            const std::string_view key = text_.substr(start + 1, position_ - start - 2);
+            skipSpace();
+            if (!take(':')) return fail("':' was expected");
+            skipSpace();
+            if (!value(depth + 1)) {
+                path_.prependKey(key);
+                return false;
+            }
+            skipSpace();
+            if (take('}')) return true;
+            if (!take(',')) return fail("',' or '}' was expected");
+            skipSpace();
+        }
+    }
+
+    bool array(std::size_t depth) {
+        if (depth == JsonSyntax::maxDepth) return fail("the values are nested too deep");
+        ++position_;
+        skipSpace();
+        if (take(']')) return true;
+        for (std::size_t index = 0;; ++index) {
+            if (!value(depth + 1)) {
+                path_.prependIndex(index);
+                return false;
+            }
+            skipSpace();
+            if (take(']')) return true;
+            if (!take(',')) return fail("',' or ']' was expected");
+            skipSpace();
+        }
+    }
+
+    bool escape() {
+        constexpr std::string_view lone = "a lone surrogate stands in a string";
+        ++position_;
+        if (atEnd()) return fail("the text ends within a string");
+        if (text_[position_] != 'u') {
+            constexpr std::string_view escapes = "\"\\/bfnrt";
+            if (escapes.find(text_[position_]) == escapes.npos) return fail("an unknown escape");
+            ++position_;
+            return true;
+        }
+        const int unit = codeUnit(text_.substr(position_ + 1));
+        if (unit < 0) return fail("four hexadecimal digits were expected");
+        if (isLowSurrogate(unit)) return fail(lone);
+        position_ += 5;
+        if (!isHighSurrogate(unit)) return true;
+        const std::string_view rest = text_.substr(position_);
+        if (!rest.starts_with("\\u") || !isLowSurrogate(codeUnit(rest.substr(2))))
+            return fail(lone);
+        position_ += 6;
+        return true;
+    }
+
+    bool literal(std::string_view word) {
+        if (!text_.substr(position_).starts_with(word)) return fail("a value was expected");
+        position_ += word.size();
+        return true;
+    }
+
+    bool digits() {
+        const std::size_t start = position_;
+        while (!atEnd() && isDigit(text_[position_]))
+            ++position_;
+        return position_ > start;
+    }
+
+    void skipSpace() {
+        while (!atEnd() && (text_[position_] == ' ' || text_[position_] == '\n' ||
+                            text_[position_] == '\t' || text_[position_] == '\r'))
+            ++position_;
+    }
+
+    bool take(char c) {
+        if (atEnd() || text_[position_] != c) return false;
+        ++position_;
+        return true;
+    }
+
+    bool atEnd() const { return position_ == text_.size(); }
+
+    bool fail(std::string_view reason) {
+        reason_ = reason;
+        return false;
+    }
+
+    std::string_view text_;
+    std::size_t position_ = 0;
+    KeyPath path_;
+    std::string_view reason_;
+};
+
+}  // namespace
+
+std::optional<JsonSyntax::Fault> JsonSyntax::findFault(std::string_view text) {
+    Scanner scanner(text);
+    if (scanner.document()) return std::nullopt;
+    return scanner.fault();
+}
+
+bool JsonSyntax::startsWithMemberValue(std::string_view text, std::size_t depth) {
+    return Scanner(text).memberValue(depth);
+}
+
+std::optional<std::string_view> JsonSyntax::leadingString(std::string_view text) {
+    Scanner scanner(text);
+    if (!scanner.string()) return std::nullopt;
+    return text.substr(1, scanner.position() - 2);
+}
+
+std::optional<std::string_view> JsonSyntax::leadingNumber(std::string_view text) {
+    Scanner scanner(text);
+    if (!scanner.number()) return std::nullopt;
+    return text.substr(0, scanner.position());
+}
+
+std::string JsonSyntax::unescape(std::string_view string) {
+    std::string text;
+    text.reserve(string.size());
+    while (!string.empty()) {
+        const std::size_t plain = std::min(string.find('\\'), string.size());
+        text.append(string.substr(0, plain));
+        string.remove_prefix(plain);
+        if (string.empty()) break;
+
+        const char kind = string[1];
+        string.remove_prefix(2);
+        switch (kind) {
+        case 'b':
+            text.push_back('\b');
+            break;
+        case 'f':
+            text.push_back('\f');
+            break;
+        case 'n':
+            text.push_back('\n');
+            break;
+        case 'r':
+            text.push_back('\r');
+            break;
+        case 't':
+            text.push_back('\t');
+            break;
+        case 'u': {
+            auto code = static_cast<std::uint32_t>(codeUnit(string));
+            string.remove_prefix(4);
+            if (isHighSurrogate(static_cast<int>(code))) {
+                const auto low = static_cast<std::uint32_t>(codeUnit(string.substr(2)));
+                string.remove_prefix(6);
+                code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
+            }
+            appendUtf8(text, code);
+            break;
+        }
+        default:
+            text.push_back(kind);  // a quote, a slash or a backslash stands for itself
+        }
+    }
+    return text;
+}
+
+}  // namespace marlevo

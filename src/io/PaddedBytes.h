@@ -1,0 +1,41 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace marlevo {
+
+/// A file's contents with a few readable bytes behind them, for parsers that look ahead in whole
+/// vectors.
+class PaddedBytes {
+public:
+    static constexpr std::size_t padding = 64;
+
+    /// The contents are left for the caller to fill; the padding is zero.
+    explicit PaddedBytes(std::size_t size)
+        : data_(std::make_unique_for_overwrite<std::uint8_t[]>(size + padding)), size_(size) {
+        std::fill_n(data_.get() + size, padding, std::uint8_t{0});
+    }
+
+    explicit PaddedBytes(std::span<const std::uint8_t> contents) : PaddedBytes(contents.size()) {
+        std::copy(contents.begin(), contents.end(), data_.get());
+    }
+
+    explicit PaddedBytes(std::string_view text)
+        : PaddedBytes(std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size())) {}
+
+    std::size_t size() const { return size_; }
+    std::span<std::uint8_t> span() { return {data_.get(), size_}; }
+    std::span<const std::uint8_t> span() const { return {data_.get(), size_}; }
+    std::string_view text() const { return {reinterpret_cast<const char*>(data_.get()), size_}; }
+
+private:
+    std::unique_ptr<std::uint8_t[]> data_;
+    std::size_t size_;
+};
+
+}  // namespace marlevo

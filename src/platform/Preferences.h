@@ -1,0 +1,66 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace marlevo {
+
+/// A setting of the user: its key in the store, and the value that it has until the user changes
+/// it, which is never written.
+template <typename T>
+struct Preference {
+    std::string_view key;
+    T initial;
+};
+
+namespace preference {
+
+/// Canvas pixels; any number, also 0, negative or fractional.
+inline constexpr Preference<double> defaultCanvasWidth{"defaultCanvasWidth", 1280};
+inline constexpr Preference<double> defaultCanvasHeight{"defaultCanvasHeight", 720};
+inline constexpr Preference<bool> autoSaveEnabled{"autoSaveEnabled", true};
+
+}  // namespace preference
+
+/// The user's settings, kept across runs of the program. Used on the user-interface thread only.
+class Preferences {
+public:
+    /// A registration for changes, which ends when it is dropped; it may outlive the preferences.
+    using Observation = std::shared_ptr<const std::function<void()>>;
+
+    Preferences() = default;
+    virtual ~Preferences() = default;
+    Preferences(const Preferences&) = delete;
+    Preferences& operator=(const Preferences&) = delete;
+
+    /// The value in the store. The initial one when there is none, when it has another type, and
+    /// when the store cannot be read.
+    double get(const Preference<double>& preference) const;
+    bool get(const Preference<bool>& preference) const;
+
+    /// Stores the value at once, for this run also when the store cannot be written. Values are not
+    /// checked. Observers are told when the value differs from before.
+    void set(const Preference<double>& preference, double value);
+    void set(const Preference<bool>& preference, bool value);
+
+    /// Calls `onChange` after each change. While being told, observers may read, set, come and go.
+    [[nodiscard]] Observation observe(std::function<void()> onChange);
+
+protected:
+    virtual std::optional<double> storedNumber(std::string_view key) const = 0;
+    virtual std::optional<bool> storedFlag(std::string_view key) const = 0;
+    virtual void store(std::string_view key, double value) = 0;
+    virtual void store(std::string_view key, bool value) = 0;
+
+private:
+    template <typename T>
+    void change(const Preference<T>& preference, T value);
+    void tellObservers();
+
+    std::vector<std::weak_ptr<const std::function<void()>>> observers_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "graphics/RasterImage.h"
+
+#include <QImage>
+
+namespace marlevo {
+
+/// The picture as one of Qt's, premultiplied; null when there is no memory for it.
+QImage qImageFrom(const RasterImage& raster);
+
+/// The pixels of an image in QImage::Format_ARGB32_Premultiplied.
+RasterImage rasterFrom(const QImage& image);
+
+/// The image laid on white, without alpha; null when it is or there is no memory.
+QImage onWhite(const QImage& image);
+
+}  // namespace marlevo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "graphics/BitmapContext.h"
+#include "render/RasterSize.h"
+
+#include <cstdint>
+#include <new>
+#include <optional>
+#include <vector>
+
+namespace marlevo {
+
+/// Allocates a raster filled with one byte value and lets `draw` paint on it, in a frame with its
+/// origin at the bottom left and y upwards; nothing when there is not enough memory.
+template <typename Draw>
+std::optional<RasterImage> makeRaster(RasterSize size, std::uint8_t fill, Draw draw) {
+    const std::ptrdiff_t stride = std::ptrdiff_t{size.width} * 4;
+    std::vector<std::uint8_t> bytes;
+    try {
+        bytes.assign(static_cast<std::size_t>(stride) * static_cast<std::size_t>(size.height),
+                     fill);
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+    BitmapContext context({bytes.data(), stride, {0, 0, size.width, size.height}},
+                          DeviceFrame::yUp(size.height));
+    draw(context);
+    return RasterImage(size.width, size.height, std::move(bytes));
+}
+
+}  // namespace marlevo

@@ -1,0 +1,17 @@
+#include "model/DrawingDocument.h"
+#include "tools/PixelAddress.h"
+
+namespace marlevo {
+
+void DrawingDocument::pickColor(Point at) {
+    const auto image = renderCGImage();
+    if (!image) return;
+    const auto address = pixelAddress(at, *image);
+    if (!address) return;
+    const auto pixel = image->pixel(address->column, address->row);
+    // The stored bytes as they are: premultiplied, and made opaque whatever their alpha.
+    selectedColor = Color{pixel[1] / 255.0, pixel[2] / 255.0, pixel[3] / 255.0, 1};
+    isEyeDropper = false;
+}
+
+}  // namespace marlevo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "graphics/RasterImage.h"
+#include "tools/GridPoint.h"
+#include "tools/Region.h"
+
+namespace marlevo {
+
+/// The largest difference in each byte of a pixel for the fill tool to take it for the same colour.
+inline constexpr int fillTolerance = 35;
+
+/// The cells that are joined to `seed` through the sides of cells (never through a corner alone)
+/// whose four bytes each differ by at most `tolerance` (0 to 255) from those of the seed's pixel.
+/// Every cell is compared with the seed, not with its neighbour: a slow ramp ends the region.
+///
+/// `seed` is a cell of the grid laid over the picture (rows count upwards, see GridPoint); a seed
+/// outside gives the empty region. Reads the picture once, from top to bottom, whatever the shape
+/// of the region: runs of matching cells in neighbouring rows are joined by union-find.
+Region floodFill(const RasterImage& image, GridPoint seed, int tolerance = fillTolerance);
+
+}  // namespace marlevo

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "graphics/Point.h"
+#include "graphics/RasterImage.h"
+
+#include <optional>
+
+namespace marlevo {
+
+/// A pixel of a raster; row 0 is the top row.
+struct PixelAddress {
+    int column;
+    int row;
+};
+
+/// The pixel that a canvas point lies in: coordinates truncated toward zero, so that −0.5 still
+/// means the first column. Nothing outside the picture.
+inline std::optional<PixelAddress> pixelAddress(Point p, const RasterImage& image) {
+    if (!(p.x > -1 && p.y > -1 && p.x < image.width() && p.y < image.height())) return std::nullopt;
+    return PixelAddress{static_cast<int>(p.x), static_cast<int>(p.y)};
+}
+
+}  // namespace marlevo

@@ -1,0 +1,42 @@
+#include "tests/support/FakeServices.h"
+
+#include <gtest/gtest.h>
+
+namespace marlevo {
+namespace {
+
+TEST(Preferences, startWithTheirInitialValuesAndTakeAnyOther) {
+    FakePreferences preferences;
+    EXPECT_EQ(preferences.get(preference::defaultCanvasWidth), 1280);
+    EXPECT_EQ(preferences.get(preference::defaultCanvasHeight), 720);
+    EXPECT_TRUE(preferences.get(preference::autoSaveEnabled));
+    preferences.set(preference::defaultCanvasHeight, -0.5);
+    EXPECT_EQ(preferences.get(preference::defaultCanvasHeight), -0.5);
+    EXPECT_EQ(preferences.get(preference::defaultCanvasWidth), 1280);
+}
+
+TEST(Preferences, observersHearOfChangesUntilTheyGo) {
+    std::vector<double> heard;
+    Preferences::Observation late;
+    Preferences::Observation second;
+    {
+        FakePreferences preferences;
+        const auto hear = [&] { heard.push_back(preferences.get(preference::defaultCanvasWidth)); };
+        const auto first = preferences.observe([&] {
+            hear();
+            second.reset();  // who goes meanwhile is not told
+            if (!late) late = preferences.observe(hear);
+        });
+        second = preferences.observe(hear);
+
+        preferences.set(preference::defaultCanvasWidth, 800);
+        EXPECT_EQ(heard, std::vector({800.0}));
+        preferences.set(preference::defaultCanvasWidth, 800);
+        EXPECT_EQ(heard.size(), 1u) << "the value was the same";
+        preferences.set(preference::autoSaveEnabled, false);
+        EXPECT_EQ(heard.size(), 3u);
+    }
+}
+
+}  // namespace
+}  // namespace marlevo

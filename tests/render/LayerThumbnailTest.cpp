@@ -1,0 +1,148 @@
+#include "render/LayerThumbnail.h"
+
+#include "platform/BackgroundThread.h"
+#include "tests/support/FakeImageCodec.h"
+#include "tests/support/ManualQueue.h"
+#include "tests/support/Strokes.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace marlevo {
+namespace {
+
+class LayerThumbnailTest : public testing::Test {
+protected:
+    LayerThumbnailTest() : document(services(backgroundQueue)) { document.ensureLayers(); }
+
+    Services services(BackgroundQueue& background) {
+        Services all;
+        all.mainQueue = &mainQueue;
+        all.imageCodec = &codec;
+        all.backgroundQueue = &background;
+        return all;
+    }
+
+    static void draw(DrawingDocument& on, Point at, std::size_t layer = 0) {
+        on.layers.modify([&](LayerList& layers) {
+            layers[layer].strokes.append(makeStroke({at, {at.x + 200, at.y}}, 60));
+        });
+    }
+
+    const Layer& layer(std::size_t index = 0) const { return (*document.layers)[index]; }
+
+    /// Lets renders begin and come back until nothing is left to do.
+    void settle() {
+        while (backgroundQueue.run() || mainQueue.run()) {
+        }
+    }
+
+    FakeImageCodec codec;
+    ManualMainQueue mainQueue;
+    ManualBackgroundQueue backgroundQueue;
+    DrawingDocument document;
+    int changes = 0;
+    LayerThumbnail thumbnail{document, [this] { ++changes; }};
+};
+
+TEST_F(LayerThumbnailTest, ShowsNothingUntilTheRenderIsBack) {
+    draw(document, {100, 360});
+    document.toggleLayerVisibility(0);
+    thumbnail.show(layer());
+    backgroundQueue.run();
+    EXPECT_FALSE(thumbnail.cgImage());
+    mainQueue.run();
+    ASSERT_TRUE(thumbnail.cgImage());
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(thumbnail.cgImage()->width(), 88);
+    EXPECT_EQ(thumbnail.cgImage()->height(), 64);
+    EXPECT_EQ(*thumbnail.cgImage(), document.renderSingleLayer(layer(), {88, 64}));
+}
+
+TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
+    thumbnail.show(layer());
+    settle();
+    const auto rendersAfter = [&](auto change) {
+        change();
+        thumbnail.show(layer());
+        const std::size_t renders = backgroundQueue.size();
+        settle();
+        return renders;
+    };
+    EXPECT_EQ(rendersAfter([] {}), 0);
+    EXPECT_EQ(rendersAfter([&] { document.toggleLayerVisibility(0); }), 0);
+    EXPECT_EQ(rendersAfter([&] {
+                  document.layers.modify([](LayerList& layers) { layers[0].name = "Sky"; });
+              }),
+              0);
+    EXPECT_EQ(rendersAfter([&] { draw(document, {0, 0}); }), 1);
+    EXPECT_EQ(rendersAfter([&] { document.canvasSize = CanvasSize{300, 300}; }), 1);
+    const auto setImage = [&] {
+        document.layers.modify([](LayerList& layers) {
+            layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 1, 255, 0, 0, 0});
+        });
+    };
+    EXPECT_EQ(rendersAfter(setImage), 1);
+    EXPECT_EQ(rendersAfter([&] {
+                  document.layers.modify([](LayerList& layers) { layers[0].opacity = 0.5; });
+              }),
+              1);
+    EXPECT_EQ(*thumbnail.cgImage(), document.renderSingleLayer(layer(), {88, 64}));
+}
+
+TEST_F(LayerThumbnailTest, ChangesDuringARenderMakeOneMore) {
+    thumbnail.show(layer());
+    for (double y = 100; y < 700; y += 100) {
+        draw(document, {100, y});
+        thumbnail.show(layer());
+        EXPECT_EQ(backgroundQueue.size(), 1);
+    }
+    backgroundQueue.run();
+    mainQueue.run();
+    EXPECT_EQ(backgroundQueue.size(), 1);
+    settle();
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(*thumbnail.cgImage(), document.renderSingleLayer(layer(), {88, 64}));
+}
+
+TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
+    auto gone = std::make_unique<LayerThumbnail>(document, [this] { ++changes; });
+    gone->show(layer());
+    backgroundQueue.run();
+    gone.reset();
+    mainQueue.run();
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(LayerThumbnailTest, CanvasesOfNoExtentAreRenderedOnce) {
+    document.canvasSize = CanvasSize{0, -5};
+    draw(document, {10, 10});
+    thumbnail.show(layer());
+    settle();
+    thumbnail.show(layer());
+    EXPECT_EQ(backgroundQueue.size(), 0);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(LayerThumbnailTest, RendersWhileTheLayerIsDrawnOn) {
+    BackgroundThread thread;
+    DrawingDocument busy(services(thread));
+    busy.ensureLayers();
+    LayerThumbnail shown(busy, {});
+    for (int i = 0; i < 300; ++i) {
+        draw(busy, {4.0 * i, 2.0 * i});
+        shown.show((*busy.layers)[0]);
+        mainQueue.run();
+        if (i % 50 == 49) busy.undo();
+    }
+    const auto wanted = busy.renderSingleLayer((*busy.layers)[0], {88, 64});
+    while (shown.cgImage() != wanted) {
+        shown.show((*busy.layers)[0]);
+        mainQueue.run();
+        std::this_thread::yield();
+    }
+}
+
+}  // namespace
+}  // namespace marlevo

@@ -1,0 +1,132 @@
+#include "tools/FloodFill.h"
+
+#include "tests/tools/FillDefinition.h"
+#include "tests/tools/FillPictures.h"
+#include "tools/MatchRow.h"
+
+#include <gtest/gtest.h>
+#include <hwy/targets.h>
+
+namespace marlevo {
+namespace {
+
+void expectRegionOfTheDefinition(const RasterImage& image, GridPoint seed, int tolerance) {
+    SCOPED_TRACE(testing::Message() << image.width() << " x " << image.height() << " from "
+                                    << seed.x << ", " << seed.y << " within " << tolerance);
+    const Region region = floodFill(image, seed, tolerance);
+    const filldefinition::Cells cells = filldefinition::flood(image, seed, tolerance);
+    EXPECT_EQ(region.size(), cells.size());
+    EXPECT_EQ(filldefinition::cellsOf(region), cells);
+
+    Region::Bounds bounds{image.width(), image.height(), 0, 0};
+    for (const std::int64_t i : cells) {
+        const int x = static_cast<int>(i % image.width());
+        const int y = static_cast<int>(i / image.width());
+        bounds = {std::min(bounds.minX, x), std::min(bounds.minY, y), std::max(bounds.maxX, x),
+                  std::max(bounds.maxY, y)};
+    }
+    EXPECT_EQ(region.bounds(), bounds);
+}
+
+TEST(FloodFill, FindsTheRegionOfTheDefinitionInPicturesOfEveryKind) {
+    std::mt19937 random(1);
+    for (const Region& shape : fillpictures::variousRegions(random)) {
+        const RasterImage image = fillpictures::pictureOf(shape);
+        for (int attempt = 0; attempt < 6; ++attempt) {
+            const GridPoint seed{static_cast<int>(random() % shape.width()),
+                                 static_cast<int>(random() % shape.height())};
+            expectRegionOfTheDefinition(image, seed, fillTolerance);
+        }
+    }
+}
+
+TEST(FloodFill, ComparesEveryByteWithTheSeedAtEveryTolerance) {
+    std::mt19937 random(2);
+    for (int picture = 0; picture < 60; ++picture) {
+        const int width = 1 + static_cast<int>(random() % 150);
+        const int height = 1 + static_cast<int>(random() % 40);
+        // Small spreads give regions with ragged edges, large ones reach both ends of a byte.
+        const auto spread = 1 + random() % 256;
+        const auto base = random() % (257 - spread);
+        std::vector<std::uint8_t> bytes(std::size_t{4} * width * height);
+        for (std::uint8_t& byte : bytes)
+            byte = static_cast<std::uint8_t>(base + random() % spread);
+        const RasterImage image(width, height, std::move(bytes));
+        const GridPoint seed{static_cast<int>(random() % width),
+                             static_cast<int>(random() % height)};
+        for (const int tolerance : {0, 1, 35, static_cast<int>(random() % 256), 255}) {
+            expectRegionOfTheDefinition(image, seed, tolerance);
+        }
+    }
+}
+
+TEST(FloodFill, JoinsADifferenceOf35AndStopsAt36InAnyByte) {
+    for (std::size_t byte = 0; byte < 4; ++byte) {
+        for (const int sign : {-1, 1}) {
+            std::vector<std::uint8_t> bytes(12, 120);
+            bytes[byte] = static_cast<std::uint8_t>(120 + sign * 36);
+            bytes[8 + byte] = static_cast<std::uint8_t>(120 + sign * 35);
+            const Region region = floodFill(RasterImage(3, 1, bytes), {1, 0});
+            EXPECT_FALSE(region.contains({0, 0}));
+            EXPECT_TRUE(region.contains({2, 0}));
+        }
+    }
+}
+
+TEST(FloodFill, StopsOnARampWhereItHasDriftedFromTheSeed) {
+    std::vector<std::uint8_t> bytes;
+    for (int x = 0; x < 20; ++x) {
+        const auto grey = static_cast<std::uint8_t>(10 * x);
+        bytes.insert(bytes.end(), {255, grey, grey, grey});
+    }
+    EXPECT_EQ(floodFill(RasterImage(20, 1, bytes), {8, 0}).bounds(), (Region::Bounds{5, 0, 11, 0}));
+}
+
+TEST(FloodFill, IsHeldByAnOutlineThatTouchesAtCornersOnly) {
+    const Region outline = fillpictures::regionFrom({"..#..",  //
+                                                     ".#.#.",  //
+                                                     "#...#",  //
+                                                     ".#.#.",  //
+                                                     "..#.."});
+    EXPECT_EQ(floodFill(fillpictures::pictureOf(outline), {2, 2}).size(), 5U);
+}
+
+TEST(FloodFill, CountsRowsUpwardsAndFindsNothingFromOutside) {
+    const RasterImage image = fillpictures::pictureOf(fillpictures::regionFrom({"##.", "..."}));
+    EXPECT_EQ(floodFill(image, {0, 1}).bounds(), (Region::Bounds{0, 1, 1, 1}));
+    for (const GridPoint seed : {GridPoint{-1, 0}, {0, -1}, {3, 0}, {0, 2}}) {
+        EXPECT_EQ(floodFill(image, seed).size(), 0U);
+        EXPECT_FALSE(floodFill(image, seed).bounds());
+    }
+}
+
+TEST(MatchRow, GivesTheSameBitsOnEveryInstructionSet) {
+    std::mt19937 random(3);
+    std::vector<std::uint8_t> pixels(4 * 1000);
+    for (std::uint8_t& byte : pixels)
+        byte = static_cast<std::uint8_t>(random() % 100);
+    const ColorRange range = ColorRange::around(std::span(pixels).first<4>(), 60);
+    const auto matchRows = [&] {
+        std::vector<std::vector<std::uint64_t>> rows;
+        for (std::size_t width = 1; width <= 1000; width += 1 + width / 16) {
+            rows.emplace_back((width + 63) / 64, ~std::uint64_t{0});
+            matchRow(std::span(pixels).first(4 * width), range, rows.back());
+        }
+        return rows;
+    };
+
+    const std::int64_t all = hwy::SupportedTargets();
+    hwy::SetSupportedTargetsForTest(HWY_SCALAR);
+    hwy::GetChosenTarget().Update(HWY_SCALAR);
+    const auto expected = matchRows();
+    for (std::int64_t rest = all; rest != 0; rest &= rest - 1) {
+        const std::int64_t target = rest & -rest;
+        hwy::GetChosenTarget().Update(target);
+        EXPECT_EQ(matchRows(), expected) << hwy::TargetName(target);
+    }
+    hwy::SetSupportedTargetsForTest(0);
+    hwy::GetChosenTarget().DeInit();
+}
+
+}  // namespace
+}  // namespace marlevo

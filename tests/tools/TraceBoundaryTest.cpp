@@ -1,0 +1,110 @@
+#include "tools/TraceBoundary.h"
+
+#include "tests/tools/FillDefinition.h"
+#include "tests/tools/FillPictures.h"
+#include "tools/Chord.h"
+#include "tools/FloodFill.h"
+
+#include <gmock/gmock.h>
+
+namespace marlevo {
+
+void PrintTo(const GridPoint& point, std::ostream* out) {
+    *out << "(" << point.x << ", " << point.y << ")";
+}
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Points = std::vector<GridPoint>;
+
+Region block(int width, int height, int gridWidth, int gridHeight) {
+    Region region(gridWidth, gridHeight);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            region.insert({x, y});
+    }
+    return region;
+}
+
+void expectOutlineOfTheDefinition(const Region& region) {
+    SCOPED_TRACE(testing::Message() << region.width() << " x " << region.height());
+    const Points outline =
+        filldefinition::outline(filldefinition::cellsOf(region), region.width(), region.height());
+    EXPECT_EQ(traceOutline(region), outline);
+    EXPECT_EQ(traceBoundary(region),
+              outline.size() < 4 ? outline : filldefinition::simplified(outline, 2.0));
+}
+
+TEST(TraceBoundary, FollowsTheDefinitionAroundRegionsOfEveryKind) {
+    std::mt19937 random(4);
+    for (const Region& region : fillpictures::variousRegions(random)) {
+        // As it is, in many pieces or none, and the one piece that a click would find.
+        expectOutlineOfTheDefinition(region);
+        const GridPoint seed{static_cast<int>(random() % region.width()),
+                             static_cast<int>(random() % region.height())};
+        expectOutlineOfTheDefinition(floodFill(fillpictures::pictureOf(region), seed));
+    }
+}
+
+TEST(TraceBoundary, FollowsTheDefinitionAroundEverySmallRegion) {
+    constexpr int side = 4;
+    for (unsigned cells = 0; cells < 1U << (side * side); ++cells) {
+        Region region(side, side);
+        for (int i = 0; i < side * side; ++i) {
+            if (cells >> i & 1) region.insert({i % side, i / side});
+        }
+        expectOutlineOfTheDefinition(region);
+    }
+}
+
+TEST(TraceBoundary, RunsAnticlockwiseFromTheTopOfTheLeftmostColumn) {
+    EXPECT_THAT(traceOutline(block(4, 4, 9, 7)),
+                ElementsAre(GridPoint{0, 3}, GridPoint{0, 2}, GridPoint{0, 1}, GridPoint{0, 0},
+                            GridPoint{1, 0}, GridPoint{2, 0}, GridPoint{3, 0}, GridPoint{3, 1},
+                            GridPoint{3, 2}, GridPoint{3, 3}, GridPoint{2, 3}, GridPoint{1, 3}));
+    EXPECT_THAT(traceBoundary(block(4, 4, 9, 7)),
+                ElementsAre(GridPoint{0, 3}, GridPoint{0, 0}, GridPoint{3, 0}, GridPoint{1, 3}));
+}
+
+TEST(TraceBoundary, GivesTheSameVerticesInAnEnormousGrid) {
+    const int enormous = static_cast<int>(Chord::exactExtent) + 1;
+    EXPECT_EQ(traceBoundary(block(30, 4, enormous, 4)), traceBoundary(block(30, 4, 40, 4)));
+    EXPECT_THAT(traceBoundary(block(1, 2, enormous, 4)), SizeIs(2));
+}
+
+TEST(TraceBoundary, LeavesTheWholeCanvasFiveVertices) {
+    const Region region = block(1280, 720, 1280, 720);
+    EXPECT_THAT(traceOutline(region), SizeIs(3996));
+    EXPECT_THAT(traceBoundary(region),
+                ElementsAre(GridPoint{0, 719}, GridPoint{0, 0}, GridPoint{1279, 0},
+                            GridPoint{1279, 719}, GridPoint{1, 719}));
+}
+
+TEST(TraceBoundary, FindsNoShapeInRegionsThatAreTooSmallOrFlat) {
+    EXPECT_THAT(traceBoundary(Region(5, 5)), IsEmpty());
+    EXPECT_THAT(traceBoundary(block(1, 1, 5, 5)), ElementsAre(GridPoint{0, 0}));
+    EXPECT_THAT(traceBoundary(block(2, 1, 5, 5)), ElementsAre(GridPoint{0, 0}, GridPoint{1, 0}));
+    EXPECT_THAT(traceBoundary(block(6, 3, 10, 10)), SizeIs(2));
+}
+
+TEST(TraceBoundary, StopsWhenTheOutlineOutgrowsTheGrid) {
+    EXPECT_THAT(traceOutline(block(5, 1, 5, 1)),
+                ElementsAre(GridPoint{0, 0}, GridPoint{1, 0}, GridPoint{2, 0}, GridPoint{3, 0},
+                            GridPoint{4, 0}, GridPoint{3, 0}));
+}
+
+TEST(BoundingRectangle, JoinsTheOutermostCellsAndClosesItself) {
+    const Region region = fillpictures::regionFrom({"......",  //
+                                                    "...#..",  //
+                                                    ".##...",  //
+                                                    "......"});
+    EXPECT_THAT(boundingRectangle(region),
+                ElementsAre(GridPoint{1, 1}, GridPoint{3, 1}, GridPoint{3, 2}, GridPoint{1, 2},
+                            GridPoint{1, 1}));
+}
+
+}  // namespace
+}  // namespace marlevo
