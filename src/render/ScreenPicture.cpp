@@ -79,6 +79,7 @@ constexpr IntRect everything{-(1 << 30), -(1 << 30), 1 << 30, 1 << 30};
 /// What must be repainted when `before` becomes `after` in the same place of the stack.
 template <typename Damage>
 void forEachDamage(const Layer& before, const Layer& after, double scale, Damage damage) {
+    if (&before == &after) return;  // both lists share the layer
     const bool sameImage = before.imageData.has_value() == after.imageData.has_value() &&
                            (!before.imageData || before.imageData->sharesWith(*after.imageData));
     const bool hasImage = before.imageData || after.imageData;
@@ -105,28 +106,25 @@ template <typename Damage>
 void forEachDamage(const LayerList& before, const LayerList& after, double scale, Damage damage) {
     const auto sameLayer = [](const Layer& a, const Layer& b) { return a.id == b.id; };
     // Layers that came, went or changed places lie between the equal ends of the two stacks.
-    const auto [differs, differsAfter] =
-        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), sameLayer);
-    const auto head = static_cast<std::size_t>(differs - before.begin());
-    const auto [tailBefore, tailAfter] =
-        std::mismatch(before.rbegin(), before.rend() - static_cast<std::ptrdiff_t>(head),
-                      after.rbegin(), after.rend() - static_cast<std::ptrdiff_t>(head), sameLayer);
-    const auto tail = static_cast<std::size_t>(tailBefore - before.rbegin());
-    (void)differsAfter;
-    (void)tailAfter;
-
-    for (std::size_t i = 0; i < head; ++i)
-        forEachDamage(before[i], after[i], scale, damage);
-    for (std::size_t i = 1; i <= tail; ++i) {
-        forEachDamage(before[before.size() - i], after[after.size() - i], scale, damage);
-    }
+    const auto head =
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), sameLayer).first -
+        before.begin();
+    const auto tail = std::mismatch(before.rbegin(), before.rend() - head, after.rbegin(),
+                                    after.rend() - head, sameLayer)
+                          .first -
+                      before.rbegin();
+    const auto firstOfTail = std::ssize(before) - tail;
+    const auto newFirstOfTail = std::ssize(after) - tail;
     const Layer none("");
-    for (std::size_t i = head; i + tail < before.size(); ++i) {
+
+    for (std::ptrdiff_t i = 0; i < head; ++i)
+        forEachDamage(before[i], after[i], scale, damage);
+    for (std::ptrdiff_t i = head; i < firstOfTail; ++i)
         forEachDamage(before[i], none, scale, damage);
-    }
-    for (std::size_t i = head; i + tail < after.size(); ++i) {
+    for (std::ptrdiff_t i = head; i < newFirstOfTail; ++i)
         forEachDamage(none, after[i], scale, damage);
-    }
+    for (std::ptrdiff_t i = 0; i < tail; ++i)
+        forEachDamage(before[firstOfTail + i], after[newFirstOfTail + i], scale, damage);
 }
 
 }  // namespace

@@ -1,13 +1,22 @@
 #include "ui/CanvasView.h"
 
+#include "platform/qt/QtItemProviders.h"
+#include "render/SelectionOutline.h"
 #include "ui/CanvasAccessibility.h"
 #include "ui/DevicePixels.h"
 #include "ui/DisplaySize.h"
+#include "ui/Icons.h"
 #include "ui/RoundedCorners.h"
+#include "ui/SemanticColors.h"
+#include "ui/TypeScale.h"
+#include "ui/WaitPointer.h"
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace marlevo {
@@ -16,6 +25,14 @@ namespace {
 
 constexpr double cornerRadius = 2;  // view points at every zoom
 
+// The outline of the selection, in canvas pixels.
+constexpr double outlineRadius = 4;
+constexpr double outlineWidth = 2;
+constexpr double outlineDash = 5;
+constexpr double outlineGap = 3;
+
+constexpr double eyeDropperOpacity = 0.4;
+
 PixelBuffer pixelsOf(QImage& image, QPoint origin) {
     return {image.bits(),
             image.bytesPerLine(),
@@ -23,20 +40,30 @@ PixelBuffer pixelsOf(QImage& image, QPoint origin) {
             PixelOrder::bgra};
 }
 
+/// Never a move, which would make a file manager take its file away.
+void acceptCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 }  // namespace
 
 CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
-    : QWidget(parent), document_(document),
-      reader_(document.changeRegistry(), [this](DocumentProperty) { update(); }) {
+    : QWidget(parent), document_(document), imageDrop_(document),
+      reader_(document.changeRegistry(), [this](DocumentProperty) { update(); }),
+      pointerShape_(document, [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
-    setCursor(Qt::CrossCursor);
+    setAcceptDrops(true);
     setAccessibleName(tr("Canvas"));
     setAccessibleDescription(tr("The drawing. Press and drag to draw with the chosen tool."));
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    reader_.observe([&] { paintPicture(painter, event->rect()); });
+    reader_.observe([&] {
+        paintPicture(painter, event->rect());
+        if (document_.isEyeDropper) paintEyeDropper(painter);
+    });
 }
 
 void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
@@ -53,8 +80,48 @@ void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
     if (frame_.isNull()) return;
 
     picture_.paint(document_, document_.zoom * ratio, pixelsOf(frame_, part.topLeft()));
+    paintSelectionOutline(part.topLeft());
     clipToRoundedRect(frame_, part.topLeft(), size, cornerRadius * ratio);
     pixels.drawImage(part.topLeft(), frame_);
+}
+
+/// `origin` is the frame's top left corner in device pixels of the canvas.
+void CanvasView::paintSelectionOutline(QPoint origin) {
+    const auto outline = document_.selectedStrokeBoundingRect();
+    if (!outline) return;
+    const double scale = document_.zoom * devicePixelRatioF();
+    QPainter painter(&frame_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-origin);
+    painter.scale(scale, scale);
+    painter.setOpacity(selectionOutlineOpacity(document_));
+    QPen pen(semanticColor(SemanticColor::blue), outlineWidth, Qt::CustomDashLine, Qt::FlatCap,
+             Qt::MiterJoin);
+    pen.setMiterLimit(10);
+    // Dashes are counted in widths of the pen.
+    pen.setDashPattern({outlineDash / outlineWidth, outlineGap / outlineWidth});
+    painter.setPen(pen);
+    painter.drawRoundedRect(
+        QRectF(outline->origin.x, outline->origin.y, outline->size.width, outline->size.height),
+        outlineRadius, outlineRadius);
+}
+
+void CanvasView::paintEyeDropper(QPainter& painter) const {
+    const int side = iconSide(TypeStyle::largeTitle);
+    QRectF place(0, 0, side, side);
+    place.moveCenter(QRectF(rect()).center());
+    paintIcon(painter, Icon::eyedropper, place,
+              withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
+}
+
+void CanvasView::showPointerOfTool() {
+    if (document_.isFillTool)
+        setCursor(Qt::PointingHandCursor);
+    else if (document_.isSelectTool)
+        setCursor(document_.selectionDragStartPositions->has_value() ? Qt::SizeAllCursor
+                                                                     : Qt::ArrowCursor);
+    else
+        setCursor(Qt::CrossCursor);
 }
 
 void CanvasView::mousePressEvent(QMouseEvent* event) {
@@ -74,13 +141,24 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !drag_.isActive()) return;
     drag_.moveTo(position(*event));
-    drag_.release();
+    const bool isClick = drag_.release();
     dragEnded();
+    if (isClick) clicked(position(*event));
 }
 
 void CanvasView::hideEvent(QHideEvent* event) {
     endInterruptedDrag();
     QWidget::hideEvent(event);
+}
+
+void CanvasView::dragEnterEvent(QDragEnterEvent* event) {
+    const auto items = itemProviders(*event->mimeData());
+    if (std::ranges::any_of(items, [](const auto& item) { return item->offersImage(); }))
+        acceptCopy(*event);
+}
+
+void CanvasView::dropEvent(QDropEvent* event) {
+    if (imageDrop_.handleDrop(itemProviders(*event->mimeData()))) acceptCopy(*event);
 }
 
 bool CanvasView::event(QEvent* event) {
@@ -100,17 +178,41 @@ Point CanvasView::canvasPoint(QPointF position) const {
 }
 
 void CanvasView::dragChanged(QPointF position) {
-    if (document_.isSelectTool || document_.isFillTool || document_.isEyeDropper) return;
     const Point p = canvasPoint(position);
-    if (document_.currentStroke->has_value())
+    if (document_.isSelectTool) {
+        // A drag moves what is selected, wherever it starts; it selects only when nothing is.
+        if (!document_.selectedStrokeIndex->has_value()) document_.selectStroke(p);
+        if (!document_.selectedStrokeIndex->has_value()) return;
+        if (!document_.selectionDragStartPositions->has_value()) document_.beginSelectDrag();
+        const QPointF way = drag_.translationTo(position) / document_.zoom;
+        document_.updateSelectDrag({way.x(), way.y()});
+    } else if (document_.isFillTool || document_.isEyeDropper) {
+        return;
+    } else if (document_.currentStroke->has_value()) {
         document_.addPointToStroke(p);
-    else
+    } else {
         document_.beginStroke(p);
+    }
 }
 
 void CanvasView::dragEnded() {
-    if (document_.isSelectTool || document_.isFillTool || document_.isEyeDropper) return;
-    document_.endStroke();
+    if (document_.isSelectTool)
+        document_.endSelectDrag();
+    else if (!document_.isFillTool && !document_.isEyeDropper)
+        document_.endStroke();
+}
+
+/// Another order than a drag's: whoever set several tools at once meets both.
+void CanvasView::clicked(QPointF position) {
+    const Point p = canvasPoint(position);
+    if (document_.isFillTool) {
+        const WaitPointer wait;
+        document_.performFill(p);
+    } else if (document_.isEyeDropper) {
+        document_.pickColor(p);
+    } else if (document_.isSelectTool) {
+        document_.selectStroke(p);
+    }
 }
 
 /// Ends a drag whose release does not come: what was drawn so far stays, and nothing was clicked.

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "io/ImageDrop.h"
 #include "model/DrawingDocument.h"
 #include "render/ScreenPicture.h"
+#include "ui/Follower.h"
 #include "ui/PointerDrag.h"
 
 #include <QImage>
@@ -28,22 +30,30 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void paintPicture(QPainter& painter, const QRect& exposed);
+    void paintSelectionOutline(QPoint origin);
+    void paintEyeDropper(QPainter& painter) const;
+    void showPointerOfTool();
 
     QPointF position(const QMouseEvent& event) const;
     Point canvasPoint(QPointF position) const;
 
     void dragChanged(QPointF position);
     void dragEnded();
+    void clicked(QPointF position);
     void endInterruptedDrag();
 
     DrawingDocument& document_;
     ScreenPicture picture_;
     QImage frame_;  ///< pixels on their way to the window, kept to be reused
     PointerDrag drag_;
+    ImageDrop imageDrop_;
     Reader reader_;
+    Follower pointerShape_;
 };
 
 }  // namespace marlevo

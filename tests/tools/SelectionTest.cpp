@@ -1,0 +1,167 @@
+#include "model/DrawingDocument.h"
+#include "tests/support/Strokes.h"
+#include "tools/HitTest.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <utility>
+
+namespace marlevo {
+namespace {
+
+using Type = Stroke::ShapeType;
+using Place = std::pair<std::size_t, std::size_t>;  // layer, stroke
+
+class Selection : public testing::Test {
+protected:
+    Selection() { document.ensureLayers(); }
+
+    void add(Stroke stroke, std::size_t layer = 0) {
+        document.layers.modify([&](LayerList& all) { all[layer].strokes.append(stroke); });
+    }
+
+    std::optional<Place> selected() const {
+        for (std::size_t layer = 0; layer < document.layers->size(); ++layer) {
+            if ((*document.layers)[layer].id == document.selectedLayerID.get())
+                return Place{layer, document.selectedStrokeIndex->value()};
+        }
+        return std::nullopt;
+    }
+
+    bool hits(Point p) {
+        document.selectStroke(p);
+        return document.selectedStrokeIndex->has_value();
+    }
+
+    const Stroke& stroke(std::size_t index) const {
+        return document.layers->front().strokes[index];
+    }
+
+    DrawingDocument document;
+};
+
+TEST_F(Selection, FindsFreehandStrokesByTheirInfiniteLinesWithinTheGrownBox) {
+    add(makeStroke({{0, 0}, {100, 0}, {100, 100}}));
+    EXPECT_FALSE(hits({150, 5}));
+    EXPECT_TRUE(hits({105, 50}));
+    EXPECT_TRUE(hits({105, -9})) << "on the second pair's line, beyond its end";
+    EXPECT_FALSE(hits({50, 10})) << "exactly the tolerance away";
+    EXPECT_TRUE(hits({50, 9.99}));
+    EXPECT_FALSE(hits({50, 50}));
+    document.zoom = 2;
+    EXPECT_FALSE(hits({50, 6}));
+    document.zoom = 0.5;
+    EXPECT_TRUE(hits({50, 19}));
+}
+
+TEST_F(Selection, FindsShapesAnywhereInTheirBoxWhoseFarEdgesAreOut) {
+    add(makeStroke({{100, 100}, {300, 200}}, 3, Type::rect));
+    EXPECT_TRUE(hits({200, 150}));
+    EXPECT_TRUE(hits({90, 90}));
+    EXPECT_FALSE(hits({310, 150}));
+    EXPECT_FALSE(hits({200, 210}));
+    add(makeStroke({{400, 100}, {600, 300}}, 3, Type::line));
+    EXPECT_TRUE(hits({420, 280}));
+}
+
+TEST_F(Selection, PrefersUpperLayersAndOlderStrokesAndSkipsHiddenLayersAndDots) {
+    add(makeStroke({{50, 50}}));
+    add(makeStroke({{0, 0}, {100, 0}}));
+    add(makeStroke({{0, 1}, {100, 1}}));
+    document.addLayer();
+    add(makeStroke({{0, 0}, {100, 0}}), 1);
+    document.selectStroke({50, 0});
+    EXPECT_EQ(selected(), (Place{1, 0}));
+    document.toggleLayerVisibility(1);
+    document.selectStroke({50, 0});
+    EXPECT_EQ(selected(), (Place{0, 1}));
+    EXPECT_FALSE(hits({50, 50}));
+}
+
+TEST_F(Selection, TreeSearchFindsWhatAPlainScanFinds) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> at(0, 1000);
+    std::uniform_int_distribution<int> type(0, 3);
+    std::uniform_int_distribution<int> count(0, 6);
+    for (int i = 0; i < 400; ++i) {
+        std::vector<Point> points;
+        const Point start{at(random), at(random)};
+        for (int n = count(random); n > 0; --n)
+            points.push_back({start.x + at(random) / 20, start.y + at(random) / 20});
+        add(makeStroke(PointList(std::move(points)), 3, Stroke::allShapeTypes[type(random)]));
+    }
+    const StrokeList& strokes = document.layers->front().strokes;
+    for (int i = 0; i < 2000; ++i) {
+        const Point p{at(random), at(random)};
+        std::optional<std::size_t> expected;
+        for (std::size_t k = 0; k < strokes.size() && !expected; ++k) {
+            if (isHit(strokes[k], p, 10)) expected = k;
+        }
+        ASSERT_EQ(firstHit(strokes, p, 10), expected);
+    }
+}
+
+TEST_F(Selection, DraggingMovesEveryPointByTheWholeWayAndIsOneUndoStep) {
+    add(makeStroke({{0.1, 0.2}, {100.3, 0.4}}));
+    document.selectStroke({50, 0});
+    document.beginSelectDrag();
+    for (int i = 0; i < 1000; ++i)
+        document.updateSelectDrag({i * 0.1, -i * 0.3});
+    document.updateSelectDrag({30, -10});
+    EXPECT_EQ(stroke(0).points, (PointList{{0.1 + 30, 0.2 - 10}, {100.3 + 30, 0.4 - 10}}));
+    document.updateSelectDrag({0, 0});
+    EXPECT_EQ(stroke(0).points, (PointList{{0.1, 0.2}, {100.3, 0.4}}));
+    document.updateSelectDrag({5, 5});
+    document.endSelectDrag();
+    EXPECT_FALSE(document.selectionDragStartPositions->has_value());
+    EXPECT_TRUE(document.selectedStrokeIndex->has_value());
+    document.undo();
+    EXPECT_EQ(stroke(0).points, (PointList{{0.1, 0.2}, {100.3, 0.4}}));
+    EXPECT_FALSE(document.canUndo());
+}
+
+TEST_F(Selection, OutlineStandsOffThePointsAtAnyZoomAndOnHiddenLayers) {
+    add(makeStroke({{10, 20}, {30, 60}}, 50));
+    EXPECT_FALSE(document.selectedStrokeBoundingRect());
+    document.selectStroke({20, 40});
+    document.zoom = 3;
+    document.toggleLayerVisibility(0);
+    EXPECT_EQ(document.selectedStrokeBoundingRect(), (Rect{{4, 14}, {32, 52}}));
+}
+
+TEST_F(Selection, DeletingTakesOneStrokeAndTheSelection) {
+    add(makeStroke({{0, 0}, {100, 0}}));
+    add(makeStroke({{0, 50}, {100, 50}}));
+    document.selectStroke({50, 0});
+    document.deleteSelectedStroke();
+    EXPECT_EQ(document.layers->front().strokes.size(), 1u);
+    EXPECT_EQ(stroke(0).points[0], (Point{0, 50}));
+    EXPECT_FALSE(document.selectedLayerID->has_value());
+    EXPECT_FALSE(document.selectedStrokeIndex->has_value());
+    document.undo();
+    EXPECT_EQ(document.layers->front().strokes.size(), 2u);
+}
+
+TEST_F(Selection, StaleSelectionsAreNone) {
+    document.beginStroke({0, 0});
+    document.addPointToStroke({100, 0});
+    document.endStroke();
+    document.selectStroke({50, 0});
+    document.undo();
+    ASSERT_TRUE(document.selectedStrokeIndex->has_value());
+    EXPECT_FALSE(document.selectedStrokeBoundingRect());
+    document.beginSelectDrag();
+    document.updateSelectDrag({5, 5});
+    document.deleteSelectedStroke();
+    EXPECT_FALSE(document.canUndo());
+    EXPECT_TRUE(document.canRedo());
+    EXPECT_TRUE(document.selectedStrokeIndex->has_value()) << "only a new hit test replaces it";
+
+    document.redo();
+    document.selectedStrokeIndex = -1;
+    EXPECT_FALSE(document.selectedStrokeBoundingRect());
+}
+
+}  // namespace
+}  // namespace marlevo
