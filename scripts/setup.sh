@@ -12,7 +12,7 @@ for purpose in "${@:-build}"; do
         build) wanted+=("${build[@]}") ;;
         run)   wanted+=("${build[@]}")
                [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
-        test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev "${virtual_display[@]}") ;;
+        test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev poppler-utils mupdf-tools ghostscript "${virtual_display[@]}") ;;
         bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev pkg-config) ;;
         pictures) wanted+=("${virtual_display[@]}" imagemagick) ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
