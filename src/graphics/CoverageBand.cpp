@@ -43,14 +43,10 @@ struct CoverageBand::EdgeLine {
     std::int64_t yPerX = 0;
 
     explicit EdgeLine(const OutlineEdge& of) : edge(of), winding(of.winding) {
-        // Divisions are what short edges cost most: none where no border is crossed.
-        const auto crossesBorder = [](std::int32_t a, std::int32_t b) {
-            return (a >> subpixelBits) != (b >> subpixelBits);
-        };
         const std::int32_t dx = edge.x1 - edge.x0;
         const std::int32_t dy = edge.y1 - edge.y0;
-        if (crossesBorder(edge.y0, edge.y1)) xPerY = slopeOf(dx, dy);
-        if (crossesBorder(edge.x0, edge.x1)) yPerX = slopeOf(dy, dx);
+        xPerY = slopeOf(dx, dy);
+        if (dx != 0) yPerX = slopeOf(dy, dx);
     }
 
     std::int32_t xAt(std::int32_t y) const {
