@@ -287,7 +287,8 @@ int main(int argc, char** argv) {
     const Scene scenes[] = {
         maker.strokes("strokes, 100 points, width 3", 1000, 100, 3, 3, 1),
         maker.strokes("strokes, 300 points, width 24 to 60", 200, 300, 24, 60, 0.5),
-        maker.outlines(50, 4000),
+        maker.fills(50, 4000),
+        maker.denseOutlines(50, 4000),
         maker.shapes(500),
     };
     std::printf("%d x %d, one thread; microseconds a shape; stray: mean difference, of 255, to 8 x "

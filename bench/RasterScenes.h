@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bench/TracedRegions.h"
 #include "graphics/Color.h"
 #include "graphics/Path.h"
 
@@ -52,8 +53,21 @@ public:
         return scene;
     }
 
-    Scene outlines(int count, int points) {
-        Scene scene{"filled outlines, 4,000 points", {}};
+    /// What the fill tool makes of regions; its outlines are drawn with the curves of strokes.
+    Scene fills(int count, int points) {
+        Scene scene{"fills of traced regions, 4,000 points", {}};
+        TracedRegions regions(sceneWidth, sceneHeight);
+        for (int i = 0; i < count; ++i) {
+            const auto outline = regions.outline(points * 9 / 10, points * 11 / 10);
+            scene.shapes.push_back({smoothed(outline), color(), 1, 0});
+        }
+        return scene;
+    }
+
+    /// Outlines whose points lie a third of a pixel apart, as no fill leaves them: next to nothing
+    /// but the reading of points.
+    Scene denseOutlines(int count, int points) {
+        Scene scene{"dense outlines, 4,000 points", {}};
         for (int i = 0; i < count; ++i) {
             scene.shapes.push_back({smoothed(blob(points)), color(), 1, 0});
         }
@@ -101,7 +115,6 @@ private:
         return points;
     }
 
-    // A ragged outline, such as a fill traces around its region.
     std::vector<Point> blob(int count) {
         const Point center = anywhere();
         const double size = between(40, 250);

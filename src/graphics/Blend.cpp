@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 // Compiles this file once for each instruction set; must come before what includes Highway.
 #undef HWY_TARGET_INCLUDE
@@ -15,14 +16,14 @@ namespace marlevo::HWY_NAMESPACE {
 
 #if HWY_TARGET != HWY_SCALAR
 
-/// Blends as many whole vectors as there are and returns the number of pixels done.
-std::size_t blendCoveredVectors(std::uint8_t* HWY_RESTRICT pixels,
-                                const std::uint8_t* HWY_RESTRICT coverage, std::size_t count,
-                                PackedColor packed) {
-    const hn::ScalableTag<std::uint32_t> d32;
-    const hn::Repartition<std::uint16_t, decltype(d32)> d16;
-    const hn::Repartition<std::uint8_t, decltype(d32)> dBytes;
-    const hn::Rebind<std::uint8_t, decltype(d32)> dCoverage;
+/// Blends as many whole vectors of `d32` as there are and returns the number of pixels done.
+template <class D32>
+HWY_INLINE std::size_t blendCovered(D32 d32, std::uint8_t* HWY_RESTRICT pixels,
+                                    const std::uint8_t* HWY_RESTRICT coverage, std::size_t count,
+                                    PackedColor packed) {
+    const hn::Repartition<std::uint16_t, D32> d16;
+    const hn::Repartition<std::uint8_t, D32> dBytes;
+    const hn::Rebind<std::uint8_t, D32> dCoverage;
     const auto color = spread(d32, loadPixelOfColor(d32, packed));
     const auto alpha = hn::Set(d16, packed.alpha);
 
@@ -37,11 +38,12 @@ std::size_t blendCoveredVectors(std::uint8_t* HWY_RESTRICT pixels,
     return done;
 }
 
-/// As blendCoveredVectors for full coverage, where the colour needs no product.
-std::size_t blendSolidVectors(std::uint8_t* pixels, std::size_t count, PackedColor packed) {
-    const hn::ScalableTag<std::uint32_t> d32;
-    const hn::Repartition<std::uint16_t, decltype(d32)> d16;
-    const hn::Repartition<std::uint8_t, decltype(d32)> dBytes;
+/// As blendCovered for full coverage, where the colour needs no product.
+template <class D32>
+HWY_INLINE std::size_t blendFully(D32 d32, std::uint8_t* pixels, std::size_t count,
+                                  PackedColor packed) {
+    const hn::Repartition<std::uint16_t, D32> d16;
+    const hn::Repartition<std::uint8_t, D32> dBytes;
     const auto color = loadPixelOfColor(d32, packed);
     const auto keep = hn::Set(d16, static_cast<std::uint16_t>(255 - packed.alpha));
 
@@ -56,6 +58,22 @@ std::size_t blendSolidVectors(std::uint8_t* pixels, std::size_t count, PackedCol
         hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + 4 * done);
     }
     return done;
+}
+
+// What is left of a span after the widest vectors is blended in short ones.
+using WideVector = hn::ScalableTag<std::uint32_t>;
+using ShortVector = hn::CappedTag<std::uint32_t, 4>;
+
+std::size_t blendCoveredVectors(std::uint8_t* pixels, const std::uint8_t* coverage,
+                                std::size_t count, PackedColor color) {
+    const std::size_t done = blendCovered(WideVector(), pixels, coverage, count, color);
+    return done +
+           blendCovered(ShortVector(), pixels + 4 * done, coverage + done, count - done, color);
+}
+
+std::size_t blendSolidVectors(std::uint8_t* pixels, std::size_t count, PackedColor color) {
+    const std::size_t done = blendFully(WideVector(), pixels, count, color);
+    return done + blendFully(ShortVector(), pixels + 4 * done, count - done, color);
 }
 
 #else
@@ -81,6 +99,12 @@ namespace {
 double clampedToUnit(double value) { return value > 0 ? std::min(value, 1.0) : 0; }
 
 std::uint8_t toByte(double unit) { return static_cast<std::uint8_t>(std::lround(unit * 255)); }
+
+/// Nothing of what was there shows through an opaque colour.
+void fillPixels(std::uint8_t* pixels, std::size_t count, PackedColor color) {
+    for (std::size_t i = 0; i < count; ++i)
+        std::memcpy(pixels + 4 * i, color.bytes.data(), color.bytes.size());
+}
 
 }  // namespace
 
@@ -109,6 +133,10 @@ void blendSpan(std::uint8_t* pixels, const std::uint8_t* coverage, std::size_t c
 
 void blendSolid(std::uint8_t* pixels, std::size_t count, PackedColor color) {
     if (color.alpha == 0) return;
+    if (color.alpha == 255) {
+        fillPixels(pixels, count, color);
+        return;
+    }
     std::size_t i = HWY_DYNAMIC_DISPATCH(blendSolidVectors)(pixels, count, color);
     for (; i < count; ++i)
         blendPixel(pixels + 4 * i, color, 255);

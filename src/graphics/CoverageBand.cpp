@@ -38,24 +38,18 @@ void addWrapping(std::int32_t& sum, std::int32_t term) {
 /// or bands would differ, so it is reckoned from the edge's upper end each time.
 struct CoverageBand::EdgeLine {
     OutlineEdge edge;
-    std::int32_t winding;
     std::int64_t xPerY = 0;
     std::int64_t yPerX = 0;
 
-    explicit EdgeLine(const OutlineEdge& of) : edge(of), winding(of.winding) {
-        // Divisions are what short edges cost most: none where no border is crossed.
-        const auto crossesBorder = [](std::int32_t a, std::int32_t b) {
-            return (a >> subpixelBits) != (b >> subpixelBits);
-        };
+    explicit EdgeLine(const OutlineEdge& of) : edge(of) {
         const std::int32_t dx = edge.x1 - edge.x0;
         const std::int32_t dy = edge.y1 - edge.y0;
-        if (crossesBorder(edge.y0, edge.y1)) xPerY = slopeOf(dx, dy);
-        if (crossesBorder(edge.x0, edge.x1)) yPerX = slopeOf(dy, dx);
+        xPerY = slopeOf(dx, dy);
+        if (dx != 0) yPerX = slopeOf(dy, dx);
     }
 
-    std::int32_t xAt(std::int32_t y) const {
-        return y == edge.y1 ? edge.x1 : along(edge.x0, xPerY, y - edge.y0);
-    }
+    std::int32_t xAt(std::int32_t y) const { return y == edge.y1 ? edge.x1 : xBetweenEnds(y); }
+    std::int32_t xBetweenEnds(std::int32_t y) const { return along(edge.x0, xPerY, y - edge.y0); }
     /// Kept within the rows' part of the edge.
     std::int32_t yAt(std::int32_t x, std::int32_t topY, std::int32_t bottomY) const {
         return std::clamp(along(edge.y0, yPerX, x - edge.x0), topY, bottomY);
@@ -67,6 +61,7 @@ struct CoverageBand::EdgePiece {
     std::int32_t topY;
     std::int32_t bottomY;
     bool leansRight;
+    std::int32_t winding;  ///< of the piece as it runs from left to right
     std::int32_t left;
     std::int32_t right;
     std::int32_t leftY;
@@ -75,11 +70,21 @@ struct CoverageBand::EdgePiece {
     std::int32_t lastColumn;
     std::int32_t enteredAt;  ///< how far right of its cell's left side the piece begins
 
-    EdgePiece(std::int32_t xa, std::int32_t ya, std::int32_t xb, std::int32_t yb, int areaLeft)
-        : topY(ya), bottomY(yb), leansRight(xa < xb), left(std::min(xa, xb)),
-          right(std::max(xa, xb)), leftY(leansRight ? ya : yb), rightY(leansRight ? yb : ya),
-          firstColumn((left >> subpixelBits) - areaLeft),
+    /// From its upper end at (xa, ya) to its lower one; `of` says how the edge winds downwards.
+    EdgePiece(std::int32_t xa, std::int32_t ya, std::int32_t xb, std::int32_t yb, std::int32_t of,
+              int areaLeft)
+        : topY(ya), bottomY(yb), leansRight(xa < xb), winding(leansRight ? of : -of),
+          left(std::min(xa, xb)), right(std::max(xa, xb)), leftY(leansRight ? ya : yb),
+          rightY(leansRight ? yb : ya), firstColumn((left >> subpixelBits) - areaLeft),
           lastColumn((right >> subpixelBits) - areaLeft), enteredAt(left & (subpixels - 1)) {}
+};
+
+/// The cells and marks of a row from its first column on.
+struct CoverageBand::RowStart {
+    std::int32_t* cells;
+    std::uint8_t* dirty;
+
+    void markDirty(std::int32_t column) const { dirty[column / sumBlockWidth] = dirtyMark; }
 };
 
 void CoverageBand::reset(const IntRect& area) {
@@ -89,14 +94,14 @@ void CoverageBand::reset(const IntRect& area) {
         (static_cast<std::size_t>(area.width()) + 1 + sumBlockWidth) / sumBlockWidth;
     const auto rows = static_cast<std::size_t>(area.height());
     rowCells_ = blocks * sumBlockWidth;
-    rowWords_ = (blocks + sumWordBits - 1) / sumWordBits;
+    rowMarks_ = (blocks + markGroup - 1) / markGroup * markGroup;
     // Blending leaves everything 0, so whatever the rows were, what is there can be used again.
     const auto reserve = [](auto& values, std::size_t count) {
         if (values.size() < count) values.resize(count);
     };
     reserve(cells_, rows * rowCells_);
     reserve(leftCover_, rows);
-    reserve(dirty_, rows * rowWords_);
+    reserve(dirty_, rows * rowMarks_);
 }
 
 void CoverageBand::add(const OutlineEdge& edge) {
@@ -106,68 +111,71 @@ void CoverageBand::add(const OutlineEdge& edge) {
 
     const EdgeLine line(edge);
     const std::int32_t width = area_.width();
+    const std::int32_t bottomX = line.xAt(bottom);
     auto row = static_cast<std::size_t>((top >> subpixelBits) - area_.top);
+    std::int32_t rowBottom = ((top >> subpixelBits) + 1) * subpixels;
     std::int32_t y = top;
-    std::int32_t x = line.xAt(y);
-    while (y < bottom) {
-        const std::int32_t nextY = std::min(((y >> subpixelBits) + 1) * subpixels, bottom);
-        const std::int32_t nextX = line.xAt(nextY);
-        const EdgePiece piece(x, y, nextX, nextY, area_.left);
+    std::int32_t x = line.xAt(top);
+    for (bool isLastRow = false; !isLastRow; ++row, rowBottom += subpixels) {
+        isLastRow = rowBottom >= bottom;
+        const std::int32_t nextY = isLastRow ? bottom : rowBottom;
+        const std::int32_t nextX = isLastRow ? bottomX : line.xBetweenEnds(rowBottom);
+        const EdgePiece piece(x, y, nextX, nextY, edge.winding, area_.left);
         if (piece.firstColumn >= 0 && piece.lastColumn < width &&
             piece.lastColumn - piece.firstColumn <= 1)
-            addPair(row, piece, line);
+            addPair({&cells_[row * rowCells_], &dirty_[row * rowMarks_]}, piece, line);
         else
             addPiece(row, piece, line);
         x = nextX;
         y = nextY;
-        ++row;
     }
 }
 
 /// Adds a piece that touches at most two cells, both in the area, without any branch: the commonest
 /// kind, and which of the two it is cannot be predicted.
-inline void CoverageBand::addPair(std::size_t row, const EdgePiece& piece, const EdgeLine& line) {
+inline void CoverageBand::addPair(RowStart row, const EdgePiece& piece, const EdgeLine& line) {
     const std::int32_t border = piece.left - piece.enteredAt + subpixels;
     const std::int32_t beyond = std::max(piece.right - border, 0);
-    const std::int32_t split =
-        piece.right <= border ? piece.rightY : line.yAt(border, piece.topY, piece.bottomY);
-    const std::int32_t winding = piece.leansRight ? line.winding : -line.winding;
-    const std::int32_t first = (split - piece.leftY) * winding;
-    const std::int32_t second = (piece.rightY - split) * winding;
-    const std::int32_t firstX =
-        piece.enteredAt + std::min(piece.right - piece.left + piece.enteredAt, subpixels);
-    std::int32_t* const cell =
-        &cells_[row * rowCells_ + static_cast<std::size_t>(piece.firstColumn)];
-    addWrapping(cell[0], first * (2 * subpixels - firstX));
-    addWrapping(cell[1], first * firstX + second * (2 * subpixels - beyond));
-    addWrapping(cell[2], second * beyond);
-    markDirty(row, piece.firstColumn);
-    markDirty(row, piece.lastColumn + 1);
+    const std::int32_t atBorder =
+        line.yAt(std::min(border, piece.right), piece.topY, piece.bottomY);
+    // All bits where the piece goes beyond the border, none where it does not.
+    const std::int32_t goesBeyond = -static_cast<std::int32_t>(beyond > 0);
+    const std::int32_t second = (piece.rightY - atBorder) & goesBeyond;
+    const std::int32_t first = piece.rightY - piece.leftY - second;
+    const std::int32_t firstX = piece.enteredAt + piece.right - beyond - (border - subpixels);
+    std::int32_t* const cell = row.cells + piece.firstColumn;
+    addWrapping(cell[0], first * piece.winding * (2 * subpixels - firstX));
+    addWrapping(cell[1], piece.winding * (first * firstX + second * (2 * subpixels - beyond)));
+    addWrapping(cell[2], second * piece.winding * beyond);
+    row.markDirty(piece.firstColumn);
+    row.markDirty(piece.lastColumn + 1);
 }
 
 /// Adds any piece, cell by cell from left to right.
-void CoverageBand::addPiece(std::size_t row, const EdgePiece& piece, const EdgeLine& line) {
+///
+/// Takes copies, because what is never referred to stays in registers.
+void CoverageBand::addPiece(std::size_t row, EdgePiece piece, EdgeLine line) {
     const std::int32_t width = area_.width();
-    const std::int32_t winding = piece.leansRight ? line.winding : -line.winding;
     if (piece.lastColumn < 0) {
-        addWrapping(leftCover_[row], (piece.rightY - piece.leftY) * winding * 2 * subpixels);
+        addWrapping(leftCover_[row], (piece.rightY - piece.leftY) * piece.winding * 2 * subpixels);
         return;
     }
     if (piece.firstColumn >= width) return;
 
     std::int32_t* const cells = &cells_[row * rowCells_];
+    const RowStart start{cells, &dirty_[row * rowMarks_]};
     std::int32_t column = piece.firstColumn;
     std::int32_t y = piece.leftY;
     std::int32_t enteredAt = piece.enteredAt;
     if (column < 0) {
         const std::int32_t nextY = line.yAt(area_.left * subpixels, piece.topY, piece.bottomY);
-        addWrapping(leftCover_[row], (nextY - y) * winding * 2 * subpixels);
+        addWrapping(leftCover_[row], (nextY - y) * piece.winding * 2 * subpixels);
         column = 0;
         enteredAt = 0;
         y = nextY;
     }
     const auto addToCell = [&](std::int32_t nextY, std::int32_t leftAt) {
-        const std::int32_t cover = (nextY - y) * winding;
+        const std::int32_t cover = (nextY - y) * piece.winding;
         addWrapping(cells[column], cover * (2 * subpixels - enteredAt - leftAt));
         addWrapping(cells[column + 1], cover * (enteredAt + leftAt));
         enteredAt = 0;
@@ -175,8 +183,8 @@ void CoverageBand::addPiece(std::size_t row, const EdgePiece& piece, const EdgeL
     };
     for (std::int32_t block = column; block <= std::min(piece.lastColumn, width - 1);
          block += sumBlockWidth)
-        markDirty(row, block);
-    markDirty(row, std::min(piece.lastColumn, width - 1) + 1);
+        start.markDirty(block);
+    start.markDirty(std::min(piece.lastColumn, width - 1) + 1);
     std::int32_t nextX = (column + area_.left + 1) * subpixels;
     for (const std::int32_t end = std::min(piece.lastColumn, width); column < end; ++column) {
         addToCell(line.yAt(nextX, piece.topY, piece.bottomY), subpixels);
@@ -185,16 +193,11 @@ void CoverageBand::addPiece(std::size_t row, const EdgePiece& piece, const EdgeL
     if (column < width) addToCell(piece.rightY, piece.right & (subpixels - 1));
 }
 
-inline void CoverageBand::markDirty(std::size_t row, std::int32_t column) {
-    const std::size_t block = static_cast<std::size_t>(column) / sumBlockWidth;
-    dirty_[row * rowWords_ + block / sumWordBits] |= std::uint64_t{1} << (block % sumWordBits);
-}
-
 void CoverageBand::blendInto(const PixelBuffer& target, PackedColor color) {
     const auto width = static_cast<std::size_t>(area_.width());
     for (int y = area_.top; y < area_.bottom; ++y) {
         const auto row = static_cast<std::size_t>(y - area_.top);
-        blendCoverageRow({&cells_[row * rowCells_], &dirty_[row * rowWords_], rowWords_,
+        blendCoverageRow({&cells_[row * rowCells_], &dirty_[row * rowMarks_], rowMarks_,
                           std::exchange(leftCover_[row], 0)},
                          target.pixel(area_.left, y), width, color);
     }

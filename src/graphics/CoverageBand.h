@@ -42,16 +42,17 @@ private:
     struct EdgeLine;
     struct EdgePiece;
 
-    void addPair(std::size_t row, const EdgePiece& piece, const EdgeLine& line);
-    void addPiece(std::size_t row, const EdgePiece& piece, const EdgeLine& line);
-    void markDirty(std::size_t row, std::int32_t column);
+    struct RowStart;
+
+    static void addPair(RowStart row, const EdgePiece& piece, const EdgeLine& line);
+    void addPiece(std::size_t row, EdgePiece piece, EdgeLine line);
 
     IntRect area_;
     std::size_t rowCells_ = 0;  ///< whole blocks, with room for the cell behind the last column
-    std::size_t rowWords_ = 0;
+    std::size_t rowMarks_ = 0;
     std::vector<std::int32_t> cells_;      ///< differences of the running sum, row by row
     std::vector<std::int32_t> leftCover_;  ///< the running sum at the start of each row
-    std::vector<std::uint64_t> dirty_;     ///< one bit a block of cells that is not all 0
+    std::vector<std::uint8_t> dirty_;      ///< `dirtyMark` where a block is not all 0
 };
 
 }  // namespace marlevo

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 
 // Compiles this file once for each instruction set; must come before what includes Highway.
 #undef HWY_TARGET_INCLUDE
@@ -152,15 +153,18 @@ void blendRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor c
             blender.blendEvenly(coverage, end - done, pixels + 4 * done);
         done = end;
     };
-    for (std::size_t word = 0; word < row.dirtyWords; ++word) {
-        std::uint64_t bits = row.dirty[word];
-        row.dirty[word] = 0;
-        while (bits != 0) {
-            const auto first = static_cast<std::size_t>(std::countr_zero(bits));
-            const auto blocks = static_cast<std::size_t>(std::countr_one(bits >> first));
-            bits &= first + blocks == sumWordBits ? 0 : ~std::uint64_t{0} << (first + blocks);
-            const std::size_t start = (word * sumWordBits + first) * sumBlockWidth;
-            const std::size_t end = start + blocks * sumBlockWidth;
+    for (std::size_t group = 0; group < row.markCount; group += markGroup) {
+        std::uint64_t marks;
+        std::memcpy(&marks, row.dirty + group, markGroup);
+        if (marks == 0) continue;
+        std::memset(row.dirty + group, 0, markGroup);
+        while (marks != 0) {
+            const int firstBit = std::countr_zero(marks);
+            const int bits = std::countr_one(marks >> firstBit);
+            marks &= firstBit + bits == 64 ? 0 : ~std::uint64_t{0} << (firstBit + bits);
+            const std::size_t start =
+                (group + static_cast<std::size_t>(firstBit) / 8) * sumBlockWidth;
+            const std::size_t end = start + static_cast<std::size_t>(bits) / 8 * sumBlockWidth;
             if (start > done) passGap(std::min(start, count));
             if (start < count) {
                 done = std::min(end, count);

@@ -32,37 +32,6 @@ struct SubpixelPoint {
     explicit SubpixelPoint(Point p) : x(toSubpixels(p.x)), y(toSubpixels(p.y)) {}
 };
 
-/// The edges of an outline that can matter in an area, filed by the band in which they begin.
-class EdgeTable {
-public:
-    /// Takes what the outline covers of `area`; returns false when that is nothing.
-    bool build(const FlattenedPath& outline, const IntRect& area);
-
-    void blend(const PixelBuffer& target, PackedColor color);
-
-private:
-    struct Entry {
-        OutlineEdge edge;
-        std::int32_t next;  ///< of the same band
-    };
-    static constexpr std::int32_t none = -1;
-
-    void addPolygon(std::span<const Point> points);
-    void addClippedPolygon(std::span<const Point> points);
-    void addClippedSegment(Point from, Point to);
-    void addEdge(SubpixelPoint from, SubpixelPoint to);
-    std::int32_t& bandOf(std::int32_t y) {
-        const int row = std::max(y >> CoverageBand::subpixelBits, box_.top) - box_.top;
-        return bandHeads_[static_cast<std::size_t>(row / bandRows_)];
-    }
-
-    IntRect box_;
-    int bandRows_ = 1;
-    std::vector<Entry> entries_;
-    std::vector<std::int32_t> bandHeads_;
-    CoverageBand band_;
-};
-
 bool isFinite(std::span<const Point> points) {
     return std::all_of(points.begin(), points.end(),
                        [](Point p) { return std::isfinite(p.x) && std::isfinite(p.y); });
@@ -97,15 +66,63 @@ struct Bounds {
     }
 };
 
-bool EdgeTable::build(const FlattenedPath& outline, const IntRect& area) {
+/// Fills an outline band by band. Edges go to the first band at once, which is most often the only
+/// one; what they have in later bands is filed by the band in which that begins.
+class BandFiller {
+public:
+    void fill(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color);
+
+private:
+    struct Entry {
+        OutlineEdge edge;
+        std::int32_t next;  ///< of the same band
+    };
+    static constexpr std::int32_t none = -1;
+
+    void addOutline(const FlattenedPath& outline, const Bounds& bounds);
+    void addPolygon(std::span<const Point> points);
+    void addClippedPolygon(std::span<const Point> points);
+    void addClippedSegment(Point from, Point to);
+    void addEdge(SubpixelPoint from, SubpixelPoint to);
+    void fileEdge(const OutlineEdge& edge, int band);
+    void addFiledEdges(int band);
+
+    int bandCount() const { return (box_.height() + bandRows_ - 1) / bandRows_; }
+    /// The first row below a band.
+    int bandBottom(int band) const {
+        return std::min(box_.top + (band + 1) * bandRows_, box_.bottom);
+    }
+
+    IntRect box_;
+    int bandRows_ = 1;
+    CoverageBand band_;
+    std::vector<Entry> entries_;
+    std::vector<std::int32_t> bandHeads_;
+};
+
+void BandFiller::fill(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color) {
     Bounds bounds;
     bounds.add(outline.points);
-    box_ = area.intersectedWith(bounds.touchedPixels());
-    if (box_.isEmpty()) return false;
+    box_ = target.area.intersectedWith(bounds.touchedPixels());
+    if (box_.isEmpty()) return;
 
     bandRows_ = std::clamp(bandCells / box_.width(), 1, box_.height());
     entries_.clear();
-    bandHeads_.assign(static_cast<std::size_t>((box_.height() + bandRows_ - 1) / bandRows_), none);
+    bandHeads_.assign(static_cast<std::size_t>(bandCount()), none);
+    IntRect area = box_;
+    for (int band = 0; band < bandCount(); ++band) {
+        area.bottom = bandBottom(band);
+        band_.reset(area);
+        if (band == 0)
+            addOutline(outline, bounds);
+        else
+            addFiledEdges(band);
+        band_.blendInto(target, color);
+        area.top = area.bottom;
+    }
+}
+
+void BandFiller::addOutline(const FlattenedPath& outline, const Bounds& bounds) {
     for (const auto& part : outline.subPaths) {
         const auto points = outline.pointsOf(part);
         if (points.size() < 2) continue;
@@ -114,10 +131,9 @@ bool EdgeTable::build(const FlattenedPath& outline, const IntRect& area) {
         else
             addClippedPolygon(points);
     }
-    return !entries_.empty();
 }
 
-void EdgeTable::addPolygon(std::span<const Point> points) {
+void BandFiller::addPolygon(std::span<const Point> points) {
     SubpixelPoint from(points.back());
     for (const Point p : points) {
         const SubpixelPoint to(p);
@@ -126,7 +142,7 @@ void EdgeTable::addPolygon(std::span<const Point> points) {
     }
 }
 
-void EdgeTable::addClippedPolygon(std::span<const Point> points) {
+void BandFiller::addClippedPolygon(std::span<const Point> points) {
     if (!isFinite(points)) return;
     Point from = points.back();
     for (const Point to : points) {
@@ -136,7 +152,7 @@ void EdgeTable::addClippedPolygon(std::span<const Point> points) {
 }
 
 /// Cuts the segment at the upper and lower limit, and lets it follow the left and right one.
-void EdgeTable::addClippedSegment(Point from, Point to) {
+void BandFiller::addClippedSegment(Point from, Point to) {
     const auto cut = [&](double t) {
         // Weighting both ends does not overflow where their difference would.
         return Point{from.x * (1 - t) + to.x * t, from.y * (1 - t) + to.y * t};
@@ -165,7 +181,7 @@ void EdgeTable::addClippedSegment(Point from, Point to) {
     }
 }
 
-void EdgeTable::addEdge(SubpixelPoint from, SubpixelPoint to) {
+void BandFiller::addEdge(SubpixelPoint from, SubpixelPoint to) {
     if (from.y == to.y) return;
     const bool isDown = from.y < to.y;
     const SubpixelPoint upper = isDown ? from : to;
@@ -175,29 +191,34 @@ void EdgeTable::addEdge(SubpixelPoint from, SubpixelPoint to) {
     if (edge.y1 <= box_.top * one || edge.y0 >= box_.bottom * one ||
         std::min(edge.x0, edge.x1) >= box_.right * one)
         return;
-    std::int32_t& head = bandOf(edge.y0);
+    if (edge.y0 < bandBottom(0) * one) {
+        band_.add(edge);
+        if (edge.y1 > bandBottom(0) * one) fileEdge(edge, 1);
+    } else {
+        fileEdge(edge, ((edge.y0 >> CoverageBand::subpixelBits) - box_.top) / bandRows_);
+    }
+}
+
+void BandFiller::fileEdge(const OutlineEdge& edge, int band) {
+    if (band >= bandCount()) return;
+    std::int32_t& head = bandHeads_[static_cast<std::size_t>(band)];
     entries_.push_back({edge, head});
     head = static_cast<std::int32_t>(entries_.size() - 1);
 }
 
-void EdgeTable::blend(const PixelBuffer& target, PackedColor color) {
-    for (std::size_t i = 0; i < bandHeads_.size(); ++i) {
-        IntRect part = box_;
-        part.top = box_.top + static_cast<int>(i) * bandRows_;
-        part.bottom = std::min(part.top + bandRows_, box_.bottom);
-        band_.reset(part);
-        for (std::int32_t at = bandHeads_[i]; at != none;) {
-            Entry& entry = entries_[static_cast<std::size_t>(at)];
-            band_.add(entry.edge);
-            const std::int32_t next = entry.next;
-            if (entry.edge.y1 > part.bottom * CoverageBand::subpixels &&
-                i + 1 < bandHeads_.size()) {
-                entry.next = bandHeads_[i + 1];
-                bandHeads_[i + 1] = at;
-            }
-            at = next;
+/// Adds the edges filed for a band and files those that go on for the next.
+void BandFiller::addFiledEdges(int band) {
+    const std::int32_t bottom = bandBottom(band) * CoverageBand::subpixels;
+    for (std::int32_t at = bandHeads_[static_cast<std::size_t>(band)]; at != none;) {
+        Entry& entry = entries_[static_cast<std::size_t>(at)];
+        const std::int32_t next = entry.next;
+        band_.add(entry.edge);
+        if (entry.edge.y1 > bottom && band + 1 < bandCount()) {
+            std::int32_t& head = bandHeads_[static_cast<std::size_t>(band) + 1];
+            entry.next = head;
+            head = at;
         }
-        band_.blendInto(target, color);
+        at = next;
     }
 }
 
@@ -205,8 +226,8 @@ void EdgeTable::blend(const PixelBuffer& target, PackedColor color) {
 
 void fillOutline(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color) {
     // Kept between calls for its memory only.
-    thread_local EdgeTable table;
-    if (table.build(outline, target.area)) table.blend(target, color);
+    thread_local BandFiller filler;
+    filler.fill(outline, target, color);
 }
 
 }  // namespace marlevo

@@ -37,16 +37,6 @@ public:
         current_ = p;
     }
 
-    /// Draws `count` segments to points that the caller then writes, the last of them `last`; all
-    /// are in range, and so is the current point.
-    Point* addSegmentsInRange(int count, Point last) {
-        if (!isDrawing_) begin();
-        current_ = last;
-        const std::size_t before = out_.points.size();
-        out_.points.resize(before + static_cast<std::size_t>(count));
-        return out_.points.data() + before;
-    }
-
     static bool isInRange(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
 
     /// Joins the sub-path to its start, where the pen then is.
@@ -111,7 +101,10 @@ class Flattener {
 public:
     Flattener(const DeviceFrame& frame, double tolerance, const VisibleRange& visible,
               PolylineBuilder& builder)
-        : frame_(frame), tolerance_(tolerance), visible_(visible), builder_(builder) {}
+        : frame_(frame), tolerance_(tolerance),
+          oneSegmentBendSquare_(4 * tolerance * (4 * tolerance)),
+          twoSegmentsBendSquare_(16 * tolerance * (16 * tolerance)), visible_(visible),
+          builder_(builder) {}
 
     void add(const Path::Element& element) {
         if (!isFinite(element.point) || !isFinite(element.control)) return;
@@ -157,36 +150,36 @@ private:
         if (!builder_.hasCurrent()) builder_.moveTo(control);
         const Point from = builder_.current();
         const Point bend{from.x - 2 * control.x + to.x, from.y - 2 * control.y + to.y};
+        const double bendSquare = bend.x * bend.x + bend.y * bend.y;
+        // Freehand lines are made of curves so short that one or two segments do.
+        if (bendSquare < oneSegmentBendSquare_) {
+            builder_.lineTo(to);
+            return;
+        }
+        const Point slope{2 * (control.x - from.x), 2 * (control.y - from.y)};
+        const auto pointAt = [&](double t) {
+            return Point{from.x + t * (slope.x + t * bend.x), from.y + t * (slope.y + t * bend.y)};
+        };
+        if (bendSquare < twoSegmentsBendSquare_) {
+            builder_.lineTo(pointAt(0.5));
+            builder_.lineTo(to);
+            return;
+        }
         const int count =
             isOutOfSight(std::min({from.x, control.x, to.x}), std::max({from.x, control.x, to.x}),
                          std::min({from.y, control.y, to.y}), std::max({from.y, control.y, to.y}))
                 ? 1
-                : segmentsPerCurve(bend);
-        const Point slope{2 * (control.x - from.x), 2 * (control.y - from.y)};
+                : segmentsPerCurve(bendSquare);
         const double step = 1.0 / count;
-        const auto pointAt = [&](int i) {
-            const double t = i * step;
-            return Point{from.x + t * (slope.x + t * bend.x), from.y + t * (slope.y + t * bend.y)};
-        };
-        // The curve stays in the triangle of its three points.
-        if (PolylineBuilder::isInRange(from) && PolylineBuilder::isInRange(control) &&
-            PolylineBuilder::isInRange(to)) {
-            Point* const points = builder_.addSegmentsInRange(count, to);
-            for (int i = 1; i < count; ++i)
-                points[i - 1] = pointAt(i);
-            points[count - 1] = to;
-        } else {
-            for (int i = 1; i < count; ++i)
-                builder_.lineTo(pointAt(i));
-            builder_.lineTo(to);
-        }
+        for (int i = 1; i < count; ++i)
+            builder_.lineTo(pointAt(i * step));
+        builder_.lineTo(to);
     }
 
     // Equal steps of the parameter: a piece of length h strays from its chord by h² / 4 of the
-    // curve's second difference.
-    int segmentsPerCurve(Point bend) const {
-        const double bendLength = std::sqrt(bend.x * bend.x + bend.y * bend.y);
-        const double count = std::sqrt(bendLength / (4 * tolerance_));
+    // curve's second difference, here called its bend.
+    int segmentsPerCurve(double bendSquare) const {
+        const double count = std::sqrt(std::sqrt(bendSquare) / (4 * tolerance_));
         return 1 + static_cast<int>(std::min(count, maxSegmentsPerCurve - 1.0));
     }
 
@@ -235,6 +228,8 @@ private:
 
     const DeviceFrame& frame_;
     double tolerance_;
+    double oneSegmentBendSquare_;  ///< a curve that bends less is as good as its chord
+    double twoSegmentsBendSquare_;
     const VisibleRange& visible_;
     PolylineBuilder& builder_;
 };
