@@ -17,7 +17,7 @@ std::optional<RasterImage> DecodedImages::image(const Bytes& file) {
         return entries_.back().image;
     }
     Entry entry{file, codec_->decode(file.span())};
-    const std::optional<RasterImage> result = entry.image;
+    std::optional<RasterImage> result = entry.image;
     entries_.push_back(std::move(entry));
     std::size_t total =
         std::accumulate(entries_.begin(), entries_.end(), std::size_t{0},

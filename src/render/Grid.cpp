@@ -2,19 +2,23 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace marlevo {
 
 namespace {
 
 /// Calls `line` with the position of each grid line in 0 … end that may touch from … to. Positions
-/// are multiples taken anew each time, so that they do not drift.
+/// are multiples taken anew each time, so that they do not drift. `from` and `to` are a part of
+/// what a screen shows, so few lines lie between them.
 template <typename Line>
 void forEachPosition(double end, double from, double to, Line line) {
     const double first = std::max(0.0, std::ceil((from - gridLineWidth) / gridSpacing));
     const double last = std::floor(std::min(end, to + gridLineWidth) / gridSpacing);
-    for (double k = first; k <= last; ++k)
-        line(k * gridSpacing);
+    if (!(first <= last)) return;
+    const auto count = static_cast<std::int64_t>(last - first);
+    for (std::int64_t i = 0; i <= count; ++i)
+        line((first + static_cast<double>(i)) * gridSpacing);
 }
 
 }  // namespace
