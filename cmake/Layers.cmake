@@ -13,6 +13,11 @@ if(MARLEVO_SANITIZE)
   target_link_options(marlevo_flags INTERFACE -fsanitize=${MARLEVO_SANITIZE})
 endif()
 
+if(MARLEVO_FUZZ)
+  # Coverage counters in every layer: the fuzzer steers by them.
+  target_compile_options(marlevo_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # marlevo_layer(<folder> [PUBLIC <libs>...] [PRIVATE <libs>...])
 # One folder of src/ is one static library, marlevo_<folder>, made of all its .cpp files.
 function(marlevo_layer folder)
