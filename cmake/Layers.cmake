@@ -19,7 +19,8 @@ if(MARLEVO_FUZZ)
 endif()
 
 # marlevo_layer(<folder> [PUBLIC <libs>...] [PRIVATE <libs>...])
-# One folder of src/ is one static library, marlevo_<folder>, made of all its .cpp files.
+# One folder of src/ is one static library, marlevo_<folder>, made of all its .cpp files and the
+# resources below it.
 function(marlevo_layer folder)
   cmake_parse_arguments(layer "" "" "PUBLIC;PRIVATE" ${ARGN})
   string(REPLACE "/" "_" name "marlevo_${folder}")
@@ -30,7 +31,8 @@ function(marlevo_layer folder)
     target_link_libraries(${name} INTERFACE marlevo_flags ${layer_PUBLIC})
     return()
   endif()
-  add_library(${name} STATIC ${sources} ${headers})
+  file(GLOB_RECURSE resources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.qrc)
+  add_library(${name} STATIC ${sources} ${headers} ${resources})
   target_link_libraries(${name} PUBLIC marlevo_flags ${layer_PUBLIC} PRIVATE ${layer_PRIVATE})
   if(folder MATCHES "qt|ui")
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)

@@ -3,7 +3,7 @@
 # Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libhwy-dev zlib1g-dev qt6-base-dev qt6-image-formats-plugins)
+build=(g++ cmake ninja-build libhwy-dev zlib1g-dev qt6-base-dev qt6-svg-dev qt6-image-formats-plugins)
 virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
 
 wanted=()

@@ -1,0 +1,136 @@
+#include "ui/ContinuousSlider.h"
+
+#include "ui/ControlAccessibility.h"
+#include "ui/ControlPainting.h"
+#include "ui/SemanticColors.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int knobSize = 16;
+constexpr int trackHeight = 4;
+constexpr int comfortableWidth = 120;
+constexpr int leastWidth = 48;
+constexpr int pageSteps = 10;
+
+}  // namespace
+
+ContinuousSlider::ContinuousSlider(const QString& name, Range range, QWidget* parent)
+    : QWidget(parent), range_(range), value_(range.least) {
+    installControlAccessibility();
+    setAccessibleName(name);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void ContinuousSlider::showValue(double value, const QString& inWords) {
+    if (value == value_ && inWords == inWords_) return;
+    value_ = value;
+    inWords_ = inWords;
+    update();
+    QAccessibleValueChangeEvent event(this, value);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ContinuousSlider::moveTo(double value) {
+    Q_EMIT moved(std::clamp(value, range_.least, range_.most));
+}
+
+QSize ContinuousSlider::sizeHint() const { return {comfortableWidth, knobSize + 2}; }
+
+QSize ContinuousSlider::minimumSizeHint() const { return {leastWidth, knobSize + 2}; }
+
+double ContinuousSlider::knobCenter() const {
+    const double share =
+        std::clamp((value_ - range_.least) / (range_.most - range_.least), 0.0, 1.0);
+    const double forward = isRightToLeft() ? 1 - share : share;
+    return knobSize / 2.0 + forward * (width() - knobSize);
+}
+
+double ContinuousSlider::valueAt(double x) const {
+    const double forward =
+        std::clamp((x - knobSize / 2.0) / std::max(width() - knobSize, 1), 0.0, 1.0);
+    const double share = isRightToLeft() ? 1 - forward : forward;
+    return range_.least + share * (range_.most - range_.least);
+}
+
+void ContinuousSlider::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+
+    const double middle = height() / 2.0;
+    const QRectF track(1, middle - trackHeight / 2.0, width() - 2, trackHeight);
+    const double knob = knobCenter();
+    QRectF filled = track;
+    if (isRightToLeft())
+        filled.setLeft(knob);
+    else
+        filled.setRight(knob);
+    const auto gray = semanticColor(SemanticColor::gray);
+    const auto blue = semanticColor(SemanticColor::blue);
+    paintRoundedRect(painter, track, trackHeight / 2.0, withOpacity(gray, 0.35));
+    paintRoundedRect(painter, filled, trackHeight / 2.0, blue);
+
+    const QRectF disc(knob - knobSize / 2.0 + 1, middle - knobSize / 2.0 + 1, knobSize - 2,
+                      knobSize - 2);
+    const bool ringed = hasFocus() || isGrabbed_;
+    paintRoundedRect(painter, disc, disc.width() / 2, isGrabbed_ ? QColor(0xe8e8ec) : Qt::white,
+                     {ringed ? blue : gray, ringed ? 2.0 : 1.0});
+}
+
+void ContinuousSlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->ignore();
+    const double x = event->position().x();
+    const double toKnob = knobCenter() - x;
+    isGrabbed_ = true;
+    grabOffset_ = std::abs(toKnob) <= knobSize / 2.0 ? toKnob : 0;
+    update();
+    if (grabOffset_ == 0 && toKnob != 0) moveTo(valueAt(x));
+}
+
+void ContinuousSlider::mouseMoveEvent(QMouseEvent* event) {
+    if (isGrabbed_) moveTo(valueAt(event->position().x() + grabOffset_));
+}
+
+void ContinuousSlider::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->ignore();
+    isGrabbed_ = false;
+    update();
+}
+
+void ContinuousSlider::keyPressEvent(QKeyEvent* event) {
+    if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return event->ignore();
+    const double forward = isRightToLeft() ? -range_.keyStep : range_.keyStep;
+    switch (event->key()) {
+    case Qt::Key_Right:
+        return moveTo(value_ + forward);
+    case Qt::Key_Left:
+        return moveTo(value_ - forward);
+    case Qt::Key_Up:
+        return moveTo(value_ + range_.keyStep);
+    case Qt::Key_Down:
+        return moveTo(value_ - range_.keyStep);
+    case Qt::Key_PageUp:
+        return moveTo(value_ + pageSteps * range_.keyStep);
+    case Qt::Key_PageDown:
+        return moveTo(value_ - pageSteps * range_.keyStep);
+    case Qt::Key_Home:
+        return moveTo(range_.least);
+    case Qt::Key_End:
+        return moveTo(range_.most);
+    default:
+        event->ignore();
+    }
+}
+
+}  // namespace marlevo
