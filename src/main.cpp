@@ -8,6 +8,7 @@
 #include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtSleepingClock.h"
+#include "ui/Icons.h"
 #include "ui/MarlevoApp.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
+    QApplication::setWindowIcon(marlevo::applicationIcon());
     marlevo::KeyRepeatFilter keyRepeatFilter;
     application.installEventFilter(&keyRepeatFilter);
 

@@ -63,6 +63,14 @@ double ContinuousSlider::valueAt(double x) const {
     return range_.least + share * (range_.most - range_.least);
 }
 
+// On multiples of the step, or sums of rounded steps would show 89 % for 90 %.
+double ContinuousSlider::afterSteps(double count) const {
+    constexpr double tolerance = 1e-6;
+    const double steps = value_ / range_.keyStep;
+    const double whole = count > 0 ? std::floor(steps + tolerance) : std::ceil(steps - tolerance);
+    return (whole + count) * range_.keyStep;
+}
+
 void ContinuousSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -110,20 +118,20 @@ void ContinuousSlider::mouseReleaseEvent(QMouseEvent* event) {
 
 void ContinuousSlider::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return event->ignore();
-    const double forward = isRightToLeft() ? -range_.keyStep : range_.keyStep;
+    const double forward = isRightToLeft() ? -1 : 1;
     switch (event->key()) {
     case Qt::Key_Right:
-        return moveTo(value_ + forward);
+        return moveTo(afterSteps(forward));
     case Qt::Key_Left:
-        return moveTo(value_ - forward);
+        return moveTo(afterSteps(-forward));
     case Qt::Key_Up:
-        return moveTo(value_ + range_.keyStep);
+        return moveTo(afterSteps(1));
     case Qt::Key_Down:
-        return moveTo(value_ - range_.keyStep);
+        return moveTo(afterSteps(-1));
     case Qt::Key_PageUp:
-        return moveTo(value_ + pageSteps * range_.keyStep);
+        return moveTo(afterSteps(pageSteps));
     case Qt::Key_PageDown:
-        return moveTo(value_ - pageSteps * range_.keyStep);
+        return moveTo(afterSteps(-pageSteps));
     case Qt::Key_Home:
         return moveTo(range_.least);
     case Qt::Key_End:

@@ -48,6 +48,7 @@ protected:
 private:
     double knobCenter() const;
     double valueAt(double x) const;
+    double afterSteps(double count) const;
 
     Range range_;
     double value_;

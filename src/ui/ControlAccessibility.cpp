@@ -1,6 +1,8 @@
 #include "ui/ControlAccessibility.h"
 
 #include "ui/ContinuousSlider.h"
+#include "ui/DisclosureButton.h"
+#include "ui/LayerThumbnailView.h"
 
 #include <QAccessibleWidget>
 
@@ -35,9 +37,38 @@ private:
     ContinuousSlider& slider_;
 };
 
+class AccessibleDisclosure final : public QAccessibleWidget {
+public:
+    explicit AccessibleDisclosure(DisclosureButton* button)
+        : QAccessibleWidget(button, QAccessible::Button), button_(*button) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = button_.isOpen();
+        state.collapsed = !button_.isOpen();
+        return state;
+    }
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& action) override {
+        if (action == pressAction())
+            button_.click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    DisclosureButton& button_;
+};
+
 // What is returned is owned by the toolkit's cache of interfaces.
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     if (auto* slider = qobject_cast<ContinuousSlider*>(object)) return new AccessibleSlider(slider);
+    if (auto* button = qobject_cast<DisclosureButton*>(object))
+        return new AccessibleDisclosure(button);
+    if (auto* thumbnail = qobject_cast<LayerThumbnailView*>(object))
+        return new QAccessibleWidget(thumbnail, QAccessible::Graphic);
     return nullptr;
 }
 

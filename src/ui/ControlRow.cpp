@@ -1,11 +1,9 @@
 #include "ui/ControlRow.h"
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QToolButton>
 
 #include <utility>
 
@@ -28,45 +26,6 @@ void ControlRow::addButton(const QString& name, Command press) {
     auto* button = new QPushButton(name, this);
     connect(button, &QPushButton::clicked, this,
             [this, press = std::move(press)] { press(document_); });
-    addWidget(button);
-}
-
-void ControlRow::addChoice(const QString& name, Read<bool> isChosen, Command choose) {
-    auto* button = new QToolButton(this);
-    button->setText(name);
-    button->setAccessibleName(name);
-    button->setCheckable(true);
-    Follower& follower = followers_.emplace_back(document_, [this, button, isChosen] {
-        const QSignalBlocker quiet(button);
-        button->setChecked(isChosen(document_));
-    });
-    // Toggled, not clicked: that is all that assistive technology makes a checkable button say.
-    connect(button, &QToolButton::toggled, this, [this, choose = std::move(choose), &follower] {
-        choose(document_);
-        follower.refresh();
-    });
-    addWidget(button);
-}
-
-void ControlRow::addCheckBox(const QString& name, Read<bool> read, Write<bool> write) {
-    auto* box = new QCheckBox(name, this);
-    box->setAccessibleName(name);
-    followers_.emplace_back(document_, [this, box, read = std::move(read)] {
-        const QSignalBlocker quiet(box);
-        box->setChecked(read(document_));
-    });
-    connect(box, &QCheckBox::toggled, this,
-            [this, write = std::move(write)](bool on) { write(document_, on); });
-    addWidget(box);
-}
-
-void ControlRow::addColorButton(const QString& name, ColorButton::Opacity opacity, Read<Color> read,
-                                Write<Color> write) {
-    auto* button = new ColorButton(name, opacity, this);
-    followers_.emplace_back(
-        document_, [this, button, read = std::move(read)] { button->setColor(read(document_)); });
-    connect(button, &ColorButton::colorChosen, this,
-            [this, write = std::move(write)](const Color& color) { write(document_, color); });
     addWidget(button);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/DrawingDocument.h"
-#include "ui/ColorButton.h"
 #include "ui/Follower.h"
 
 #include <QToolBar>
@@ -28,14 +27,6 @@ public:
 
     /// A button that runs `press`.
     void addButton(const QString& name, Command press);
-
-    /// A button that is down while `isChosen`; pressing it runs `choose`, also when it is down.
-    void addChoice(const QString& name, Read<bool> isChosen, Command choose);
-
-    void addCheckBox(const QString& name, Read<bool> read, Write<bool> write);
-
-    void addColorButton(const QString& name, ColorButton::Opacity opacity, Read<Color> read,
-                        Write<Color> write);
 
     /// A slider over whole numbers of `unit`, with its name and value in words beside it.
     void addSlider(const QString& name, const QString& unit, int least, int most, Read<double> read,

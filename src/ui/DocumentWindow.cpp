@@ -20,13 +20,16 @@ Services withPanels(Services services, FilePanels& panels) {
 
 DocumentWindow::DocumentWindow(const Services& services)
     : filePanels_(*this), document_(withPanels(services, filePanels_)), menus_(document_, this),
-      drawingTools_(document_, this), viewTools_(document_, this), canvas_(document_, this) {
+      viewTools_(document_, this), sidebar_(document_), canvas_(document_) {
     setWindowTitle(tr("Marlevo"));
     setMenuBar(&menus_);
-    addToolBar(&drawingTools_);
-    addToolBarBreak();
     addToolBar(&viewTools_);
-    setCentralWidget(&canvas_);
+    columns_.addWidget(&sidebar_);
+    columns_.addWidget(&canvas_);
+    columns_.setStretchFactor(1, 1);
+    columns_.setChildrenCollapsible(false);
+    sidebar_.setMaximumWidth(SidebarView::greatestWidth);
+    setCentralWidget(&columns_);
     setContextMenuPolicy(Qt::NoContextMenu);
 
     setMinimumSize(smallestSize);

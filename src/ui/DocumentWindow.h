@@ -4,9 +4,11 @@
 #include "platform/qt/QtFilePanels.h"
 #include "ui/CanvasScrollArea.h"
 #include "ui/MenuCommands.h"
+#include "ui/SidebarView.h"
 #include "ui/ToolBars.h"
 
 #include <QMainWindow>
+#include <QSplitter>
 
 namespace marlevo {
 
@@ -30,8 +32,9 @@ private:
     QtFilePanels filePanels_;
     DrawingDocument document_;
     MenuCommands menus_;
-    DrawingToolBar drawingTools_;
     ViewToolBar viewTools_;
+    QSplitter columns_;
+    SidebarView sidebar_;
     CanvasScrollArea canvas_;
 };
 

@@ -62,7 +62,9 @@ void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& c
     const QPointF corner = rect.center() - QPointF(side, side) / 2;
     const QTransform toDevice = painter.deviceTransform();
     const QPointF onPixel = toDevice.map(corner);
-    painter.drawImage(toDevice.inverted().map(QPointF(onPixel.toPoint())), image);
+    const bool turned = toDevice.isRotating();
+    if (turned) painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(turned ? corner : toDevice.inverted().map(QPointF(onPixel.toPoint())), image);
 }
 
 QIcon applicationIcon() {

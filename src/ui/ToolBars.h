@@ -4,15 +4,7 @@
 
 namespace marlevo {
 
-/// The drawing tools and the settings of new strokes.
-class DrawingToolBar final : public ControlRow {
-    Q_OBJECT
-
-public:
-    explicit DrawingToolBar(DrawingDocument& document, QWidget* parent = nullptr);
-};
-
-/// The background and the zoom.
+/// The zoom.
 class ViewToolBar final : public ControlRow {
     Q_OBJECT
 

@@ -29,6 +29,32 @@ void chooseEraser(DrawingDocument& document) {
     clearSelection(document);
 }
 
+void chooseFill(DrawingDocument& document) {
+    document.isFillTool = true;
+    document.isEraser = false;
+    document.isShapeTool = false;
+    document.isEyeDropper = false;
+    document.isSelectTool = false;
+    clearSelection(document);
+}
+
+void chooseEyeDropper(DrawingDocument& document) {
+    document.isEyeDropper = true;
+    document.isEraser = false;
+    document.isFillTool = false;
+    document.isShapeTool = false;
+    document.isSelectTool = false;
+    clearSelection(document);
+}
+
+void chooseSelect(DrawingDocument& document) {
+    document.isSelectTool = true;
+    document.isEraser = false;
+    document.isFillTool = false;
+    document.isShapeTool = false;
+    document.isEyeDropper = false;
+}
+
 void chooseShape(DrawingDocument& document, Stroke::ShapeType type) {
     document.isShapeTool = true;
     document.currentShapeType = type;

@@ -1,0 +1,40 @@
+#include "ui/LabeledSlider.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int spacing = 3;
+
+}  // namespace
+
+LabeledSlider::LabeledSlider(const QString& label, ContinuousSlider::Range range, Display display,
+                             QWidget* parent)
+    : QWidget(parent), display_(std::move(display)),
+      label_(label, {TypeStyle::caption, QFont::Normal, SemanticColor::secondary}),
+      value_({}, {TypeStyle::caption, QFont::Normal, SemanticColor::secondary,
+                  TextLabel::Digits::monospaced}),
+      slider_(label, range) {
+    auto* texts = new QHBoxLayout;
+    texts->addWidget(&label_, 1);
+    texts->addWidget(&value_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(spacing);
+    column->addLayout(texts);
+    column->addWidget(&slider_);
+    connect(&slider_, &ContinuousSlider::moved, this, &LabeledSlider::moved);
+}
+
+void LabeledSlider::showValue(double value) {
+    const QString inWords = display_(value);
+    value_.setText(inWords);
+    slider_.showValue(value, inWords);
+}
+
+}  // namespace marlevo

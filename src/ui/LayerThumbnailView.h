@@ -1,0 +1,36 @@
+#pragma once
+
+#include "render/LayerThumbnail.h"
+
+#include <QWidget>
+
+#include <optional>
+
+namespace marlevo {
+
+/// Shows a layer's small picture in a frame of 44 × 32 points. Nothing is rendered while it is not
+/// on screen.
+class LayerThumbnailView final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the view.
+    explicit LayerThumbnailView(const DrawingDocument& document, QWidget* parent = nullptr);
+
+    /// To be told whenever the layer or the canvas may have changed.
+    void showLayer(const Layer& layer, bool isActive);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    LayerThumbnail thumbnail_;
+    std::optional<Layer> layer_;
+    bool isActive_ = false;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,109 @@
+#include "ui/SidebarView.h"
+
+#include "ui/ActionRow.h"
+#include "ui/DisclosureSection.h"
+#include "ui/DrawingSection.h"
+#include "ui/FormsSection.h"
+#include "ui/LayerCount.h"
+#include "ui/LayersSection.h"
+#include "ui/SemanticColors.h"
+#include "ui/Separator.h"
+#include "ui/ViewSection.h"
+
+#include <QEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int sidePadding = 12;
+constexpr int verticalPadding = 8;
+constexpr int spacing = 14;
+
+// Within the padding, so that the column keeps its width when the bar comes and goes.
+constexpr int scrollBarWidth = 10;
+
+}  // namespace
+
+SidebarView::SidebarView(DrawingDocument& document, QWidget* parent)
+    : QScrollArea(parent), column_(new QWidget) {
+    setFrameShape(NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setAutoFillBackground(true);
+    setAccessibleName(tr("Sidebar"));
+    addSections(document);
+    setWidget(column_);
+    takeColors();
+    verticalScrollBar()->installEventFilter(this);
+    makeRoomForScrollBar();
+}
+
+void SidebarView::addSections(DrawingDocument& document) {
+    using Start = DisclosureSection::Start;
+    auto* column = new QVBoxLayout(column_);
+    column->setSpacing(spacing);
+    column->addWidget(new ActionRow(document));
+    column->addWidget(new Separator);
+    column->addWidget(new DrawingSection(document));
+    column->addWidget(new Separator);
+    column->addWidget(new FormsSection(document));
+    column->addWidget(new Separator);
+    column->addWidget(new DisclosureSection(tr("View"), {new SectionHeader(tr("View"))},
+                                            new ViewSection(document), Start::open));
+    column->addWidget(new Separator);
+    column->addWidget(new DisclosureSection(
+        tr("Layers"), {new SectionHeader(tr("Layers")), new LayerCount(document)},
+        new LayersSection(document), Start::closed));
+    column->addStretch(1);
+}
+
+QSize SidebarView::sizeHint() const {
+    const QSize content = column_->sizeHint();
+    return {std::clamp(std::max(content.width(), idealWidth), leastWidth, greatestWidth),
+            content.height()};
+}
+
+QSize SidebarView::minimumSizeHint() const {
+    const int content = column_->minimumSizeHint().width();
+    return {std::clamp(content, leastWidth, greatestWidth), 0};
+}
+
+void SidebarView::takeColors() {
+    setPalette(semanticPalette(SemanticColor::controlBackground));
+    const QColor knob = withOpacity(semanticColor(SemanticColor::gray), 0.5);
+    verticalScrollBar()->setStyleSheet(
+        QStringLiteral("QScrollBar { width: %1px; background: transparent; border: none; }"
+                       "QScrollBar::handle { background: %2; border-radius: 3px; margin: 2px;"
+                       " min-height: 24px; }"
+                       "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+                       "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }")
+            .arg(scrollBarWidth)
+            .arg(knob.name(QColor::HexArgb)));
+}
+
+void SidebarView::makeRoomForScrollBar() {
+    const int trailing = sidePadding - (verticalScrollBar()->isVisible() ? scrollBarWidth : 0);
+    column_->layout()->setContentsMargins(isRightToLeft() ? trailing : sidePadding, verticalPadding,
+                                          isRightToLeft() ? sidePadding : trailing,
+                                          verticalPadding);
+}
+
+bool SidebarView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange) takeColors();
+    if (event->type() == QEvent::LayoutDirectionChange) makeRoomForScrollBar();
+    return QScrollArea::event(event);
+}
+
+bool SidebarView::eventFilter(QObject* watched, QEvent* event) {
+    const bool comesOrGoes = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (watched == verticalScrollBar() && comesOrGoes) makeRoomForScrollBar();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+}  // namespace marlevo
