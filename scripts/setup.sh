@@ -3,7 +3,8 @@
 # Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libhwy-dev zlib1g-dev qt6-base-dev qt6-svg-dev qt6-image-formats-plugins)
+build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev zlib1g-dev qt6-base-dev qt6-svg-dev
+       qt6-image-formats-plugins)
 virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
 
 wanted=()
@@ -16,7 +17,7 @@ for purpose in "${@:-build}"; do
         bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev pkg-config) ;;
         pictures) wanted+=("${virtual_display[@]}" imagemagick) ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
-        fuzz)  wanted+=(cmake ninja-build libhwy-dev zlib1g-dev clang) ;;
+        fuzz)  wanted+=(cmake ninja-build libhwy-dev libsimdjson-dev zlib1g-dev clang) ;;
         *) echo "setup.sh: no purpose named '$purpose'" >&2; exit 2 ;;
     esac
 done
