@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Makes the pictures of the README from the real program, on a virtual screen.
+# Makes the pictures of the README with the program's own windows, on a virtual screen.
 set -euo pipefail
 "$(dirname "$0")/setup.sh" build pictures
 . "$(dirname "$0")/common.sh"
-build_preset release
+cmake --preset release >/dev/null
+cmake --build build/release --target marlevo_pictures
 mkdir -p docs/pictures
-with_display scripts/draw-picture.sh docs/pictures/window.png
+with_display build/release/pictures/marlevo_pictures docs/pictures

@@ -15,7 +15,7 @@ for purpose in "${@:-build}"; do
                [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
         test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev poppler-utils mupdf-tools ghostscript "${virtual_display[@]}") ;;
         bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev pkg-config) ;;
-        pictures) wanted+=("${virtual_display[@]}" imagemagick) ;;
+        pictures) wanted+=("${virtual_display[@]}") ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
         fuzz)  wanted+=(cmake ninja-build libhwy-dev libsimdjson-dev zlib1g-dev clang) ;;
         *) echo "setup.sh: no purpose named '$purpose'" >&2; exit 2 ;;
