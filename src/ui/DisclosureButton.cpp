@@ -22,7 +22,7 @@ DisclosureButton::DisclosureButton(const QString& name, const QList<QWidget*>& h
     : PaintedButton(name, parent), row_(new QHBoxLayout(this)) {
     row_->setContentsMargins(0, 0, 0, 0);
     row_->setSpacing(gap);
-    row_->addSpacing(iconSide(TypeStyle::caption2));
+    row_->addSpacing(iconSide(TypeStyle::caption2) + gap);
     for (QWidget* part : header) {
         part->setAttribute(Qt::WA_TransparentForMouseEvents);
         row_->addWidget(part);

@@ -5,7 +5,6 @@
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QToolButton>
 
 using namespace marlevo;
 
@@ -104,59 +103,8 @@ private Q_SLOTS:
         QCOMPARE(s.document.layers->size(), std::size_t{2});
     }
 
-    void aToolButtonSetsItsFlagFirstAndClearsTheSelection() {
+    void theZoomFollowsItsSlider() {
         Setting s;
-        s.document.isEraser = true;
-        s.document.selectedLayerID = s.document.layers->front().id;
-        s.document.selectedStrokeIndex = 0;
-        std::vector<DocumentProperty> told;
-        Reader reader(s.document.changeRegistry(), [&](DocumentProperty p) { told.push_back(p); });
-        reader.observe([&] {
-            (void)s.document.isShapeTool.get();
-            (void)s.document.currentShapeType.get();
-            (void)s.document.isEraser.get();
-            (void)s.document.selectedLayerID.get();
-            (void)s.document.selectedStrokeIndex.get();
-        });
-
-        control<QToolButton>(s.window, "Ellipse").click();
-        using P = DocumentProperty;
-        const std::vector<P> expected{P::isShapeTool, P::currentShapeType, P::isEraser,
-                                      P::selectedLayerID, P::selectedStrokeIndex};
-        QVERIFY(told == expected);
-        QVERIFY(s.document.isShapeTool &&
-                s.document.currentShapeType == Stroke::ShapeType::ellipse);
-    }
-
-    void exactlyTheChosenToolsButtonIsDown() {
-        Setting s;
-        const auto down = [&] {
-            QStringList names;
-            for (const QToolButton* button : s.window.findChildren<QToolButton*>())
-                if (button->isCheckable() && button->isChecked()) names << button->text();
-            return names;
-        };
-        QCOMPARE(down(), QStringList{"Draw"});
-        control<QToolButton>(s.window, "Line").click();
-        QCOMPARE(down(), QStringList{"Line"});
-        control<QToolButton>(s.window, "Line").click();
-        QCOMPARE(down(), QStringList{"Line"});
-        s.document.isShapeTool = false;
-        s.document.isEraser = true;
-        QCOMPARE(down(), QStringList{"Eraser"});
-        control<QToolButton>(s.window, "Draw").toggle();
-        QVERIFY(s.document.isDrawingMode());
-        QCOMPARE(down(), QStringList{"Draw"});
-    }
-
-    void aSliderShowsTheDocumentWithoutChangingIt() {
-        Setting s;
-        auto& size = control<QSlider>(s.window, "Size");
-        s.document.lineWidth = 12.9;
-        QCOMPARE(size.value(), 12);
-        QCOMPARE(s.document.lineWidth.get(), 12.9);
-        size.setValue(7);
-        QCOMPARE(s.document.lineWidth.get(), 7.0);
         control<QSlider>(s.window, "Zoom").setValue(250);
         QCOMPARE(s.document.zoom.get(), 2.5);
     }
