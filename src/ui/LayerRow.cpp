@@ -74,7 +74,7 @@ void LayerRow::showLayer(const Layer& layer, bool isActive) {
 }
 
 QWidget* LayerRow::followInTabOrder(QWidget* previous) {
-    setTabOrder(previous, this);
+    if (previous) setTabOrder(previous, this);
     setTabOrder(this, &eye_);
     return &eye_;
 }

@@ -23,7 +23,7 @@ double luminance(const QColor& color) {
 }
 
 double contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
@@ -94,8 +94,8 @@ private Q_SLOTS:
 
     void textFollowsTheDesktopsFont() {
         const QFont before = QApplication::font();
-        TextLabel label("Layer", {TypeStyle::caption});
-        label.show();
+        QWidget window;
+        TextLabel label("Layer", {TypeStyle::caption}, &window);
         const double small = label.font().pointSizeF();
         QVERIFY(small < before.pointSizeF());
         QFont larger = before;

@@ -29,7 +29,7 @@ QStringList activeOf(SidebarSetting& s) {
 /// The names of the layers as listed, from the top.
 QStringList listed(SidebarSetting& s) {
     QList<LayerRow*> rows = s.sidebar->findChildren<LayerRow*>();
-    std::erase_if(rows, [](const LayerRow* row) { return row->isHidden(); });
+    rows.removeIf([](const LayerRow* row) { return row->isHidden(); });
     std::sort(rows.begin(), rows.end(), [](auto* a, auto* b) { return a->y() < b->y(); });
     QStringList names;
     for (const LayerRow* row : rows)
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QTRY_COMPARE(listed(s), (QStringList{"Layer 2", "Background", "Layer 3"}));
         s.click("Delete layer");
         QTRY_COMPARE(listed(s), (QStringList{"Layer 2", "Layer 3"}));
-        QCOMPARE(activeOf<LayerRow>(s), QStringList{"Layer 2"});
+        QTRY_COMPARE(activeOf<LayerRow>(s), QStringList{"Layer 2"});
 
         s.click("Hide layer: Layer 3");
         QVERIFY(!s.document.layers->front().isVisible);
@@ -325,6 +325,7 @@ private Q_SLOTS:
         SidebarSetting s;
         s.openLayers();
         s.document.addLayer();
+        QTRY_VERIFY(s.get("Layer 2").isVisible());
         QStringList reached;
         for (int i = 0; i < 60; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
