@@ -13,6 +13,11 @@ if(MARLEVO_SANITIZE)
   target_link_options(marlevo_flags INTERFACE -fsanitize=${MARLEVO_SANITIZE})
 endif()
 
+if(MARLEVO_FUZZ)
+  # Coverage counters in every layer: the fuzzer steers by them.
+  target_compile_options(marlevo_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # marlevo_layer(<folder> [PUBLIC <libs>...] [PRIVATE <libs>...])
 # One folder of src/ is one static library, marlevo_<folder>, made of all its .cpp files and the
 # resources below it.
@@ -43,5 +48,14 @@ function(marlevo_program name)
   list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/src/ OUTPUT_VARIABLE sources)
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE marlevo_ui)
+  target_compile_definitions(${name} PRIVATE MARLEVO_VERSION="${PROJECT_VERSION}")
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()
+
+# Compiles the catalogues of translations/ into the program, at :/translations.
+function(marlevo_catalogues program)
+  file(GLOB catalogues CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/*.ts)
+  qt_add_translation(compiled ${catalogues})
+  qt_add_resources(${program} catalogues PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR}
+    FILES ${compiled})
 endfunction()

@@ -8,8 +8,10 @@
 #include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtSleepingClock.h"
+#include "platform/qt/QtStrings.h"
 #include "ui/Icons.h"
 #include "ui/MarlevoApp.h"
+#include "ui/Translations.h"
 
 #include <QApplication>
 
@@ -28,7 +30,9 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
+    QApplication::setApplicationVersion(QStringLiteral(MARLEVO_VERSION));
     QApplication::setWindowIcon(marlevo::applicationIcon());
+    const marlevo::Translations translations;
     marlevo::KeyRepeatFilter keyRepeatFilter;
     application.installEventFilter(&keyRepeatFilter);
 
@@ -40,6 +44,7 @@ int main(int argc, char* argv[]) {
     marlevo::WorkQueue flushQueue;
     marlevo::QtPrinter printer;
     marlevo::QtPasteboard pasteboard;
+    const marlevo::QtStrings strings;
     // Behind what its work uses, so that it ends first.
     marlevo::BackgroundThread backgroundQueue;
     marlevo::MarlevoApp app({.mainQueue = &mainQueue,
@@ -50,7 +55,8 @@ int main(int argc, char* argv[]) {
                              .flushQueue = &flushQueue,
                              .backgroundQueue = &backgroundQueue,
                              .printer = &printer,
-                             .pasteboard = &pasteboard});
+                             .pasteboard = &pasteboard,
+                             .strings = &strings});
     app.openWindow();
     return QApplication::exec();
 }

@@ -17,6 +17,9 @@ struct Field {
     Value Record::*member;
 };
 
+template <typename Record, typename Value>
+Field(std::string_view, Value Record::*) -> Field<Record, Value>;
+
 /// The fields of each record, in the order in which they are written.
 template <typename Record>
 inline constexpr auto fieldsOf = std::tuple<>();

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
+#include <locale.h>
 #include <utility>
 
 namespace marlevo {
@@ -92,7 +94,7 @@ private:
                 if (!readValue(member.value(), record.*field.member, depth))
                     problems[index] = std::exchange(problem_, {});
             });
-            if (!isKnown && !JsonSyntax::startsWithValue(textFrom(member.value()), depth))
+            if (!isKnown && !JsonSyntax::startsWithMemberValue(textFrom(member.value()), depth))
                 broken(simdjson::TAPE_ERROR);
             if (isBroken_) return false;
         }
@@ -166,9 +168,31 @@ private:
     }
 
     bool readNumber(ondemand::value& value, double& number) {
-        if (value.get_double().get(number) == simdjson::SUCCESS) return true;
+        const std::string_view token = value.raw_json_token();
+        const bool isRead = isLongFraction(token)
+                                ? readLongFraction(token, number)
+                                : value.get_double().get(number) == simdjson::SUCCESS;
+        if (isRead) return true;
         if (!is(value, json_type::number)) return problem("a number was expected");
         return problem("the number is too large");
+    }
+
+    /// Before its version 3.1 simdjson miscounts the digits behind "0." and returns nonsense when
+    /// there are more than 19.
+    static bool isLongFraction(std::string_view token) {
+        constexpr std::size_t longestRight = std::string_view("0.1234567890123456789").size();
+        return token.size() > longestRight && (token.starts_with("0.") || token.starts_with("-0."));
+    }
+
+    /// The token reaches to the next one: it may end with white space, or with what makes it none.
+    static bool readLongFraction(std::string_view token, double& number) {
+        static const locale_t plainLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+        const auto digits = JsonSyntax::leadingNumber(token);
+        if (!digits || token.find_first_not_of(" \n\r\t", digits->size()) != token.npos)
+            return false;
+        // The digits end before something that strtod does not take for a digit.
+        number = strtod_l(token.data(), nullptr, plainLocale);
+        return std::isfinite(number);
     }
 
     bool readValue(ondemand::value value, std::int64_t& number, std::size_t /*depth*/) {
@@ -199,7 +223,7 @@ private:
     bool readValue(ondemand::value value, std::optional<Bytes>& bytes, std::size_t depth) {
         bytes.reset();
         if (is(value, json_type::null)) {
-            const bool isNull = JsonSyntax::startsWithValue(textFrom(value), depth);
+            const bool isNull = JsonSyntax::startsWithMemberValue(textFrom(value), depth);
             return isNull || broken(simdjson::N_ATOM_ERROR);
         }
         if (!is(value, json_type::string)) return problem("a string was expected");

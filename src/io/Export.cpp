@@ -46,12 +46,12 @@ std::string wholeNumber(double value) {
     return std::to_string(fits ? static_cast<std::int64_t>(value) : 0);
 }
 
-std::string proposedName(CanvasSize size, const FileType& type) {
-    return "Drawing-" + wholeNumber(size.width) + "x" + wholeNumber(size.height) + "." +
-           type.extensions.front();
-}
-
 }  // namespace
+
+std::string DrawingDocument::proposedPictureName(ExportFormat format) const {
+    return services_.translate("Files", "Drawing-") + wholeNumber(canvasSize->width) + "x" +
+           wholeNumber(canvasSize->height) + "." + fileType(format, services_).extensions.front();
+}
 
 void DrawingDocument::exportTo(const std::filesystem::path& file, ExportFormat format) {
     const auto bytes = encodedPicture(*this, format);
@@ -63,9 +63,10 @@ void DrawingDocument::exportTo(const std::filesystem::path& file, ExportFormat f
 
 void DrawingDocument::performExport(ExportFormat format) {
     if (services_.filePanels == nullptr) return;
-    const FileType type = fileType(format);
+    const FileType type = fileType(format, services_);
     services_.filePanels->showSavePanel(
-        {"Export Drawing", type, proposedName(canvasSize, type), std::nullopt},
+        {services_.translate("Files", "Export Drawing"), type, proposedPictureName(format),
+         std::nullopt},
         [this, format](const std::optional<std::filesystem::path>& file) {
             if (file) exportTo(*file, format);
         });

@@ -2,22 +2,24 @@
 
 namespace marlevo {
 
-FileType fileType(ExportFormat format) {
+FileType fileType(ExportFormat format, const Services& services) {
     switch (format) {
     case ExportFormat::png:
-        return {"PNG image", "image/png", {"png"}};
+        return {services.translate("Files", "PNG image"), "image/png", {"png"}};
     case ExportFormat::jpeg:
-        return {"JPEG image", "image/jpeg", {"jpeg", "jpg"}};
+        return {services.translate("Files", "JPEG image"), "image/jpeg", {"jpeg", "jpg"}};
     case ExportFormat::tiff:
-        return {"TIFF image", "image/tiff", {"tiff", "tif"}};
+        return {services.translate("Files", "TIFF image"), "image/tiff", {"tiff", "tif"}};
     case ExportFormat::bmp:
-        return {"BMP image", "image/bmp", {"bmp"}};
+        return {services.translate("Files", "BMP image"), "image/bmp", {"bmp"}};
     case ExportFormat::pdf:
-        return {"PDF document", "application/pdf", {"pdf"}};
+        return {services.translate("Files", "PDF document"), "application/pdf", {"pdf"}};
     }
     return {};
 }
 
-FileType documentFileType() { return {"Marlevo drawing", "application/x-marlevo", {"marlevo"}}; }
+FileType documentFileType(const Services& services) {
+    return {services.translate("Files", "Marlevo drawing"), "application/x-marlevo", {"marlevo"}};
+}
 
 }  // namespace marlevo

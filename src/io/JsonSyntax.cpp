@@ -115,6 +115,12 @@ public:
         }
     }
 
+    bool memberValue(std::size_t depth) {
+        if (!value(depth)) return false;
+        skipSpace();
+        return take(',') || take('}');
+    }
+
     bool string() {
         if (!take('"')) return fail("a string was expected");
         for (;;) {
@@ -132,6 +138,18 @@ public:
                 position_ += length;
             }
         }
+    }
+
+    bool number() {
+        const bool isNegative = take('-');
+        if (!take('0') && !digits())
+            return fail(isNegative ? "a digit was expected" : "a value was expected");
+        if (take('.') && !digits()) return fail("a digit was expected");
+        if (take('e') || take('E')) {
+            if (!take('+')) take('-');
+            if (!digits()) return fail("a digit was expected");
+        }
+        return true;
     }
 
     std::size_t position() const { return position_; }
@@ -206,18 +224,6 @@ private:
         return true;
     }
 
-    bool number() {
-        const bool isNegative = take('-');
-        if (!take('0') && !digits())
-            return fail(isNegative ? "a digit was expected" : "a value was expected");
-        if (take('.') && !digits()) return fail("a digit was expected");
-        if (take('e') || take('E')) {
-            if (!take('+')) take('-');
-            if (!digits()) return fail("a digit was expected");
-        }
-        return true;
-    }
-
     bool digits() {
         const std::size_t start = position_;
         while (!atEnd() && isDigit(text_[position_]))
@@ -258,14 +264,20 @@ std::optional<JsonSyntax::Fault> JsonSyntax::findFault(std::string_view text) {
     return scanner.fault();
 }
 
-bool JsonSyntax::startsWithValue(std::string_view text, std::size_t depth) {
-    return Scanner(text).value(depth);
+bool JsonSyntax::startsWithMemberValue(std::string_view text, std::size_t depth) {
+    return Scanner(text).memberValue(depth);
 }
 
 std::optional<std::string_view> JsonSyntax::leadingString(std::string_view text) {
     Scanner scanner(text);
     if (!scanner.string()) return std::nullopt;
     return text.substr(1, scanner.position() - 2);
+}
+
+std::optional<std::string_view> JsonSyntax::leadingNumber(std::string_view text) {
+    Scanner scanner(text);
+    if (!scanner.number()) return std::nullopt;
+    return text.substr(0, scanner.position());
 }
 
 std::string JsonSyntax::unescape(std::string_view string) {

@@ -26,13 +26,16 @@ public:
     /// Nothing when the text is one value with nothing but white space around it.
     static std::optional<Fault> findFault(std::string_view text);
 
-    /// True when the text starts with a value; what follows it is not looked at. The value stands
-    /// inside `depth` arrays and objects.
-    static bool startsWithValue(std::string_view text, std::size_t depth);
+    /// True when the text starts with a value and the ',' or '}' that ends a member. The value
+    /// stands inside `depth` arrays and objects.
+    static bool startsWithMemberValue(std::string_view text, std::size_t depth);
 
     /// The string that the text starts with, between its quotes and with its escapes; nothing when
     /// there is none or it is malformed.
     static std::optional<std::string_view> leadingString(std::string_view text);
+
+    /// The number that the text starts with; nothing when there is none.
+    static std::optional<std::string_view> leadingNumber(std::string_view text);
 
     /// A string as leadingString() returns it, with its escapes replaced.
     static std::string unescape(std::string_view string);

@@ -127,10 +127,10 @@ char* writeNumber(double number, char* to) {
         const auto whole = static_cast<std::uint64_t>(magnitude);
         if (static_cast<double>(whole) == magnitude) return writeWhole(whole, to);
         if (magnitude >= 0x1p-10) {
+            // Whole numbers are doubles themselves, so the decimal lies between the same two.
             const Decimal decimal = shortestDecimal(magnitude);
-            const std::uint64_t scale = powersOfTen[decimal.decimals];
-            to = writeWhole(decimal.digits / scale, to);
-            return writeFraction(decimal.digits % scale, decimal.decimals, to);
+            const std::uint64_t fraction = decimal.digits - whole * powersOfTen[decimal.decimals];
+            return writeFraction(fraction, decimal.decimals, writeWhole(whole, to));
         }
     }
     return std::to_chars(to, to + maxNumberLength, magnitude).ptr;

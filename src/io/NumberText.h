@@ -4,8 +4,8 @@
 
 namespace marlevo {
 
-/// Room that writeNumber may need.
-inline constexpr std::size_t maxNumberLength = 32;
+/// Room that writeNumber() may need, more than the text itself is long.
+inline constexpr std::size_t maxNumberLength = 40;
 
 /// Writes a finite number as JSON and returns the end of the text: the fewest digits that read back
 /// to the same double (and of those the nearest), whole numbers below 2^53 without fraction or

@@ -34,14 +34,15 @@ void load(const std::filesystem::path& file, DrawingDocument& document) {
 
 }  // namespace
 
-void openDocument(FilePanels& panels, FrontmostDocument frontmostDocument) {
-    panels.showOpenPanel({"Open Drawing", documentFileType()},
-                         [frontmostDocument = std::move(frontmostDocument)](
-                             const std::optional<std::filesystem::path>& file) {
-                             if (!file) return;
-                             if (DrawingDocument* const document = frontmostDocument())
-                                 load(*file, *document);
-                         });
+void openDocument(const Services& services, FrontmostDocument frontmostDocument) {
+    if (services.filePanels == nullptr) return;
+    services.filePanels->showOpenPanel(
+        {services.translate("Files", "Open Drawing"), documentFileType(services)},
+        [frontmostDocument =
+             std::move(frontmostDocument)](const std::optional<std::filesystem::path>& file) {
+            if (!file) return;
+            if (DrawingDocument* const document = frontmostDocument()) load(*file, *document);
+        });
 }
 
 }  // namespace marlevo

@@ -40,7 +40,8 @@ void DrawingDocument::save() {
 
 void DrawingDocument::saveAs() {
     if (services_.filePanels == nullptr) return;
-    SavePanelRequest request{"Save Drawing", documentFileType(), "Untitled.marlevo", std::nullopt};
+    SavePanelRequest request{services_.translate("Files", "Save Drawing"),
+                             documentFileType(services_), "Untitled.marlevo", std::nullopt};
     if (const std::optional<std::filesystem::path>& file = currentFileURL) {
         request.proposedName = file->filename().string();
         request.folder = file->parent_path();

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -165,6 +166,9 @@ public:
     void saveAs();
 
     // ---- Export, print, clipboard (io/) ---------------------------------------------------------
+    /// The name that a panel proposes for the picture, such as "Drawing-1280x720.png".
+    std::string proposedPictureName(ExportFormat format) const;
+
     /// Writes the picture to the file, replacing it. Failures are silent.
     void exportTo(const std::filesystem::path& file, ExportFormat format);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace marlevo {
 
 class BackgroundQueue;
@@ -11,6 +13,7 @@ class Pasteboard;
 class Preferences;
 class Printer;
 class SleepingClock;
+class Strings;
 class WorkQueue;
 
 /// What a document wants of the desktop. The services are borrowed and must outlive whoever holds
@@ -26,6 +29,10 @@ struct Services {
     BackgroundQueue* backgroundQueue = nullptr;
     Printer* printer = nullptr;
     Pasteboard* pasteboard = nullptr;
+    const Strings* strings = nullptr;
+
+    /// The text in the user's language; the text itself without strings. Literals only (Strings.h).
+    std::string translate(const char* context, const char* text) const;
 };
 
 }  // namespace marlevo

@@ -1,5 +1,9 @@
 #include "ui/DocumentWindow.h"
 
+#include "ui/MarlevoApp.h"
+
+#include <QCloseEvent>
+#include <QDialog>
 #include <QScreen>
 
 namespace marlevo {
@@ -18,28 +22,29 @@ Services withPanels(Services services, FilePanels& panels) {
 
 }  // namespace
 
-DocumentWindow::DocumentWindow(const Services& services)
-    : filePanels_(*this), document_(withPanels(services, filePanels_)), menus_(document_, this),
-      viewTools_(document_, this), sidebar_(document_), canvas_(document_) {
-    setWindowTitle(tr("Marlevo"));
+DocumentWindow::DocumentWindow(MarlevoApp& app)
+    : filePanels_(*this), content_(withPanels(app.services(), filePanels_), app.notifications()),
+      menus_(app, this) {
     setMenuBar(&menus_);
-    addToolBar(&viewTools_);
-    columns_.addWidget(&sidebar_);
-    columns_.addWidget(&canvas_);
-    columns_.setStretchFactor(1, 1);
-    columns_.setChildrenCollapsible(false);
-    sidebar_.setMaximumWidth(SidebarView::greatestWidth);
-    setCentralWidget(&columns_);
+    setCentralWidget(&content_);
     setContextMenuPolicy(Qt::NoContextMenu);
+    connect(&content_.closeGuard(), &WindowAccessor::Coordinator::kept, this,
+            &DocumentWindow::kept);
 
     setMinimumSize(smallestSize);
     const QSize room = screen()->availableSize() - screenReserve;
     resize(sizeHint().boundedTo(room).expandedTo(smallestSize));
 }
 
-void DocumentWindow::showEvent(QShowEvent* event) {
-    document_.ensureLayers();
-    QMainWindow::showEvent(event);
+void DocumentWindow::closeDismissingPanels() {
+    for (QDialog* const panel : findChildren<QDialog*>(Qt::FindDirectChildrenOnly))
+        if (panel->isVisible()) panel->reject();
+    if (isVisible()) close();
+}
+
+void DocumentWindow::closeEvent(QCloseEvent* event) {
+    QMainWindow::closeEvent(event);
+    if (event->isAccepted()) Q_EMIT closed();
 }
 
 }  // namespace marlevo

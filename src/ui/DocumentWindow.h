@@ -1,41 +1,47 @@
 #pragma once
 
-#include "model/DrawingDocument.h"
 #include "platform/qt/QtFilePanels.h"
-#include "ui/CanvasScrollArea.h"
+#include "ui/ContentView.h"
 #include "ui/MenuCommands.h"
-#include "ui/SidebarView.h"
-#include "ui/ToolBars.h"
 
 #include <QMainWindow>
-#include <QSplitter>
 
 namespace marlevo {
 
-/// A window with a drawing of its own.
+class MarlevoApp;
+
+/// A window with a drawing of its own: its content below the menus.
 class DocumentWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// The services must outlive the window. Without file panels among them the window shows its
-    /// own.
-    explicit DocumentWindow(const Services& services);
+    /// The application must outlive the window. Without file panels among its services the window
+    /// shows its own.
+    explicit DocumentWindow(MarlevoApp& app);
 
-    DrawingDocument& document() { return document_; }
-    CanvasView& canvasView() { return canvas_.view(); }
+    DrawingDocument& document() { return content_.document(); }
+    ContentView& content() { return content_; }
+    CanvasView& canvasView() { return content_.canvasView(); }
+
+    /// Closes the window as the user would, who may keep it. Panels that are open over it would
+    /// stand in the way: they are answered as cancelled.
+    void closeDismissingPanels();
+
+Q_SIGNALS:
+    /// The window has closed and goes away after the current event.
+    void closed();
+
+    /// The user was asked and keeps the window.
+    void kept();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
-    // The views come after the document that they show, so that they go before it.
+    // The panels come before the document that shows them, so that they go after it.
     QtFilePanels filePanels_;
-    DrawingDocument document_;
+    ContentView content_;
     MenuCommands menus_;
-    ViewToolBar viewTools_;
-    QSplitter columns_;
-    SidebarView sidebar_;
-    CanvasScrollArea canvas_;
 };
 
 }  // namespace marlevo

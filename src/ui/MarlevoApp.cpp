@@ -1,22 +1,89 @@
 #include "ui/MarlevoApp.h"
 
+#include "io/Open.h"
 #include "ui/DocumentWindow.h"
+#include "ui/SettingsWindow.h"
 
-#include <algorithm>
+#include <QApplication>
+#include <QWindow>
 
 namespace marlevo {
 
+MarlevoApp::MarlevoApp(const Services& services) : services_(services) {
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MarlevoApp::focusFollows);
+}
+
 MarlevoApp::~MarlevoApp() {
+    focusedDocument_.set(nullptr);
+    delete settings_;
     for (const QPointer<DocumentWindow>& window : windows_)
         delete window;
 }
 
-void MarlevoApp::openWindow() {
+DocumentWindow& MarlevoApp::openWindow() {
     std::erase_if(windows_, [](const auto& window) { return window.isNull(); });
-    auto* window = new DocumentWindow(services_);
+    auto* window = new DocumentWindow(*this);
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->show();
     windows_.emplace_back(window);
+    connect(window, &DocumentWindow::closed, this, [this, window] { forget(*window); });
+    connect(window, &DocumentWindow::kept, this, [this] { isQuitting_ = false; });
+    // Not every desktop gives a new window the focus.
+    focusedDocument_.set(&window->document());
+    window->show();
+    return *window;
+}
+
+std::vector<DocumentWindow*> MarlevoApp::documentWindows() const {
+    std::vector<DocumentWindow*> open;
+    for (const QPointer<DocumentWindow>& window : windows_)
+        if (window) open.push_back(window);
+    return open;
+}
+
+void MarlevoApp::openDocument() {
+    const DrawingDocument* const frontmost = focusedDocument_.get();
+    if (frontmost == nullptr) return;
+    marlevo::openDocument(frontmost->services(), [this] { return focusedDocument_.get(); });
+}
+
+void MarlevoApp::showSettings() {
+    if (services_.preferences == nullptr) return;
+    if (!settings_) settings_ = new SettingsWindow(*this);
+    settings_->show();
+    settings_->raise();
+    settings_->activateWindow();
+}
+
+void MarlevoApp::quit() {
+    isQuitting_ = true;
+    closeNextWindow();
+}
+
+/// A window's panels count as the window; the focus of another program changes nothing.
+void MarlevoApp::focusFollows(const QWindow* focused) {
+    if (focused == nullptr) return;
+    for (const QWindow* ancestor = focused; ancestor; ancestor = ancestor->transientParent())
+        for (DocumentWindow* const window : documentWindows())
+            if (window->windowHandle() == ancestor)
+                return focusedDocument_.set(&window->document());
+    focusedDocument_.set(nullptr);
+}
+
+void MarlevoApp::forget(DocumentWindow& window) {
+    std::erase(windows_, &window);
+    if (focusedDocument_.get() == &window.document()) focusedDocument_.set(nullptr);
+    if (isQuitting_) closeNextWindow();
+    if (windows_.empty()) delete settings_;
+}
+
+/// The window answers at once, or by one of its signals when it has asked the user.
+void MarlevoApp::closeNextWindow() {
+    const std::vector<DocumentWindow*> open = documentWindows();
+    if (open.empty()) return;
+    DocumentWindow* next = open.back();
+    for (DocumentWindow* const window : open)
+        if (&window->document() == focusedDocument_.get()) next = window;
+    next->closeDismissingPanels();
 }
 
 }  // namespace marlevo

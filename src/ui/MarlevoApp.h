@@ -1,33 +1,66 @@
 #pragma once
 
+#include "platform/NotificationCenter.h"
 #include "platform/Services.h"
+#include "ui/FocusedDocument.h"
 
+#include <QObject>
 #include <QPointer>
 
 #include <vector>
 
+class QWindow;
+
 namespace marlevo {
 
 class DocumentWindow;
+class SettingsWindow;
 
-/// The application: opens document windows over one set of services.
-class MarlevoApp {
+/// The application: its windows over one set of services, the focused document, and what the menu
+/// commands ask of the application as a whole.
+///
+/// The program ends when the last document window has closed; the settings do not keep it.
+class MarlevoApp final : public QObject {
+    Q_OBJECT
+
 public:
-    /// The services must outlive the application.
-    explicit MarlevoApp(const Services& services) : services_(services) {}
+    /// The services must outlive the application. Those without preferences get no settings window.
+    explicit MarlevoApp(const Services& services);
 
     /// Takes the windows still open with it.
-    ~MarlevoApp();
+    ~MarlevoApp() override;
 
-    MarlevoApp(const MarlevoApp&) = delete;
-    MarlevoApp& operator=(const MarlevoApp&) = delete;
+    const Services& services() const { return services_; }
+    FocusedDocument& focusedDocument() { return focusedDocument_; }
+    NotificationCenter& notifications() { return notifications_; }
 
     /// Opens a window with a fresh drawing, which goes away when it is closed.
-    void openWindow();
+    DocumentWindow& openWindow();
+
+    /// The document windows still open, in the order in which they were opened.
+    std::vector<DocumentWindow*> documentWindows() const;
+
+    /// Asks for a drawing over the frontmost window; it goes into the document that is focused when
+    /// the user confirms.
+    void openDocument();
+
+    void showSettings();
+
+    /// Closes one document window after the other, the frontmost first, each as if the user had
+    /// closed it, and stops at the first that the user keeps.
+    void quit();
 
 private:
+    void focusFollows(const QWindow* focused);
+    void forget(DocumentWindow& window);
+    void closeNextWindow();
+
     Services services_;
+    NotificationCenter notifications_;
+    FocusedDocument focusedDocument_;
     std::vector<QPointer<DocumentWindow>> windows_;
+    QPointer<SettingsWindow> settings_;
+    bool isQuitting_ = false;
 };
 
 }  // namespace marlevo

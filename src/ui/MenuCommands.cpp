@@ -1,86 +1,101 @@
 #include "ui/MenuCommands.h"
 
-#include <QCoreApplication>
+#include "ui/HelpMenu.h"
+#include "ui/LayerCommands.h"
+#include "ui/MarlevoApp.h"
+#include "ui/TextFieldCommands.h"
+#include "ui/WindowMenu.h"
+
 #include <QMenu>
 
 #include <utility>
 
 namespace marlevo {
 
-namespace {
-
-std::int64_t layerCount(const DrawingDocument& document) {
-    return static_cast<std::int64_t>(document.layers->size());
-}
-
-void deleteActiveLayer(DrawingDocument& document) {
-    if (layerCount(document) > 1) document.deleteLayer(document.activeLayerIndex);
-}
-
-void moveActiveLayerUp(DrawingDocument& document) {
-    const std::int64_t index = document.activeLayerIndex;
-    if (index < layerCount(document) - 1) document.moveLayer(index, index + 1);
-}
-
-void moveActiveLayerDown(DrawingDocument& document) {
-    const std::int64_t index = document.activeLayerIndex;
-    if (index > 0) document.moveLayer(index, index - 1);
-}
-
-}  // namespace
-
-MenuCommands::MenuCommands(DrawingDocument& document, QWidget* parent)
-    : QMenuBar(parent), document_(document) {
+MenuCommands::MenuCommands(MarlevoApp& app, QWidget* window) : QMenuBar(window), app_(app) {
     addFileMenu();
     addEditMenu();
     addCanvasMenu();
+    addMenu(new WindowMenu(app, *window));
+    addMenu(new HelpMenu(*this));
+
+    connect(&app.focusedDocument(), &FocusedDocument::changed, this,
+            &MenuCommands::followFocusedDocument);
+    followFocusedDocument();
 }
 
 void MenuCommands::addFileMenu() {
     QMenu& file = *addMenu(tr("&File"));
-    QMenu& formats = *file.addMenu(tr("Export…"));
-    addCommand(formats, tr("PNG"), {}, [this] { document_.performExport(ExportFormat::png); });
+    addCommand(file, tr("New Window"), Qt::CTRL | Qt::SHIFT | Qt::Key_N,
+               [this] { app_.openWindow(); });
+    newCanvas_ = &addCommand(file, tr("New Canvas…"), Qt::CTRL | Qt::Key_N,
+                             [this] { app_.notifications().post(notification::newCanvas); });
+    addCommand(file, tr("Open…"), Qt::CTRL | Qt::Key_O, [this] { app_.openDocument(); });
+    file.addSeparator();
+    addCommand(file, tr("Close"), Qt::CTRL | Qt::Key_W, [this] { window()->close(); });
+    addDocumentCommand(file, tr("Save"), Qt::CTRL | Qt::Key_S, &DrawingDocument::save);
+    addDocumentCommand(file, tr("Save As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                       &DrawingDocument::saveAs);
+    file.addSeparator();
+    addDocumentCommand(file, tr("Print…"), Qt::CTRL | Qt::Key_P, &DrawingDocument::printDocument);
+    addExportMenu(file);
+    file.addSeparator();
+    addCommand(file, tr("Quit"), Qt::CTRL | Qt::Key_Q, [this] { app_.quit(); });
+}
 
+void MenuCommands::addExportMenu(QMenu& file) {
+    QMenu& formats = *file.addMenu(tr("Export…"));
+    for (const ExportFormat format : allExportFormats) {
+        const std::string_view name = rawValue(format);
+        addDocumentCommand(formats, QString::fromUtf8(name.data(), qsizetype(name.size())), {},
+                           [format](DrawingDocument& d) { d.performExport(format); });
+    }
     // A submenu does nothing by itself when its shortcut is typed: show the formats.
     QAction& exportItem = *formats.menuAction();
-    exportItem.setShortcut(QKeySequence(tr("Ctrl+Shift+E")));
+    exportItem.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     exportItem.setAutoRepeat(false);
-    connect(&exportItem, &QAction::triggered, this,
-            [this, &formats] { formats.popup(mapToGlobal(rect().bottomLeft())); });
-
-    file.addSeparator();
-    addCommand(file, tr("Quit"), QKeySequence(tr("Ctrl+Q")), &QCoreApplication::quit);
+    connect(&exportItem, &QAction::triggered, this, [this, &formats] {
+        formats.popup(mapToGlobal(rect().bottomLeft()));
+        formats.setActiveAction(formats.actions().first());
+    });
+    documentActions_.push_back(&exportItem);
 }
 
 void MenuCommands::addEditMenu() {
     QMenu& edit = *addMenu(tr("&Edit"));
-    QAction& undo =
-        addCommand(edit, tr("Undo"), QKeySequence(tr("Ctrl+Z")), [this] { document_.undo(); });
-    QAction& redo = addCommand(edit, tr("Redo"), QKeySequence(tr("Ctrl+Shift+Z")),
-                               [this] { document_.redo(); });
-    followers_.emplace_back(document_, [this, &undo] { undo.setEnabled(document_.canUndo()); });
-    followers_.emplace_back(document_, [this, &redo] { redo.setEnabled(document_.canRedo()); });
+    undo_ = &addDocumentCommand(edit, tr("Undo"), Qt::CTRL | Qt::Key_Z, &DrawingDocument::undo);
+    redo_ = &addDocumentCommand(edit, tr("Redo"), Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
+                                &DrawingDocument::redo);
+    edit.addSeparator();
+    new TextFieldCommands(edit, *window());
+    addDocumentCommand(edit, tr("Copy Canvas"), Qt::CTRL | Qt::SHIFT | Qt::Key_C,
+                       &DrawingDocument::copyToClipboard);
+    edit.addSeparator();
+    addCommand(edit, tr("Settings…"), Qt::CTRL | Qt::Key_Comma, [this] { app_.showSettings(); });
 }
 
 void MenuCommands::addCanvasMenu() {
     QMenu& canvas = *addMenu(tr("&Canvas"));
-    addCommand(canvas, tr("Clear Active Layer"), QKeySequence(tr("Ctrl+K")),
-               [this] { document_.clearActiveLayer(); });
-    addCommand(canvas, tr("Clear All Layers"), {}, [this] { document_.clearAll(); });
+    // The same command at two places: two with one shortcut would be ambiguous, and neither ran.
+    canvas.addAction(newCanvas_);
     canvas.addSeparator();
-    addCommand(canvas, tr("Toggle Grid"), QKeySequence(tr("Ctrl+G")),
-               [this] { document_.showGrid = !document_.showGrid; });
+    addDocumentCommand(canvas, tr("Clear Active Layer"), Qt::CTRL | Qt::Key_K,
+                       &DrawingDocument::clearActiveLayer);
+    addDocumentCommand(canvas, tr("Clear All Layers"), {}, &DrawingDocument::clearAll);
+    canvas.addSeparator();
+    addDocumentCommand(canvas, tr("Toggle Grid"), Qt::CTRL | Qt::Key_G,
+                       [](DrawingDocument& d) { d.showGrid = !d.showGrid; });
     canvas.addSeparator();
     addLayersMenu(canvas);
 }
 
-void MenuCommands::addLayersMenu(QMenu& canvasMenu) {
-    QMenu& layers = *canvasMenu.addMenu(tr("Layers"));
-    addCommand(layers, tr("Add Layer"), QKeySequence(tr("Ctrl+Shift+L")),
-               [this] { document_.addLayer(); });
-    addCommand(layers, tr("Delete Active Layer"), {}, [this] { deleteActiveLayer(document_); });
-    addCommand(layers, tr("Move Layer Up"), {}, [this] { moveActiveLayerUp(document_); });
-    addCommand(layers, tr("Move Layer Down"), {}, [this] { moveActiveLayerDown(document_); });
+void MenuCommands::addLayersMenu(QMenu& canvas) {
+    QMenu& layers = *canvas.addMenu(tr("Layers"));
+    addDocumentCommand(layers, tr("Add Layer"), Qt::CTRL | Qt::SHIFT | Qt::Key_L,
+                       &DrawingDocument::addLayer);
+    addDocumentCommand(layers, tr("Delete Active Layer"), {}, deleteActiveLayer);
+    addDocumentCommand(layers, tr("Move Layer Up"), {}, moveActiveLayerUp);
+    addDocumentCommand(layers, tr("Move Layer Down"), {}, moveActiveLayerDown);
 }
 
 QAction& MenuCommands::addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
@@ -90,6 +105,28 @@ QAction& MenuCommands::addCommand(QMenu& menu, const QString& title, const QKeyS
     action.setAutoRepeat(false);
     connect(&action, &QAction::triggered, this, [run = std::move(run)] { run(); });
     return action;
+}
+
+QAction& MenuCommands::addDocumentCommand(QMenu& menu, const QString& title,
+                                          const QKeySequence& shortcut,
+                                          std::function<void(DrawingDocument&)> run) {
+    QAction& action = addCommand(menu, title, shortcut, [this, run = std::move(run)] {
+        if (DrawingDocument* const document = app_.focusedDocument().get()) run(*document);
+    });
+    documentActions_.push_back(&action);
+    return action;
+}
+
+void MenuCommands::followFocusedDocument() {
+    DrawingDocument* const document = app_.focusedDocument().get();
+    for (QAction* const action : documentActions_)
+        action->setEnabled(document != nullptr);
+    historyFollower_.reset();
+    if (document == nullptr) return;
+    historyFollower_.emplace(*document, [this, document] {
+        undo_->setEnabled(document->canUndo());
+        redo_->setEnabled(document->canRedo());
+    });
 }
 
 }  // namespace marlevo

@@ -1,36 +1,50 @@
 #pragma once
 
-#include "model/DrawingDocument.h"
+#include "model/ExportFormat.h"
 #include "ui/Follower.h"
 
 #include <QKeySequence>
 #include <QMenuBar>
 
 #include <functional>
-#include <list>
+#include <optional>
+#include <vector>
 
 namespace marlevo {
 
-/// The menus of a document window; every command acts on that window's document.
+class MarlevoApp;
+
+/// The menus of a window. Their commands act on the focused document, whichever window they stand
+/// in, and are disabled while there is none.
 class MenuCommands final : public QMenuBar {
     Q_OBJECT
 
 public:
-    /// The document must outlive the menus.
-    explicit MenuCommands(DrawingDocument& document, QWidget* parent = nullptr);
+    /// The application must outlive the menus; `window` is what Close closes.
+    MenuCommands(MarlevoApp& app, QWidget* window);
 
 private:
     void addFileMenu();
+    void addExportMenu(QMenu& file);
     void addEditMenu();
     void addCanvasMenu();
-    void addLayersMenu(QMenu& canvasMenu);
+    void addLayersMenu(QMenu& canvas);
 
     /// A key held down runs a command once.
     QAction& addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
                         std::function<void()> run);
+    /// A command that needs the focused document.
+    QAction& addDocumentCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
+                                std::function<void(DrawingDocument&)> run);
 
-    DrawingDocument& document_;
-    std::list<Follower> followers_;
+    void followFocusedDocument();
+
+    MarlevoApp& app_;
+    QAction* newCanvas_ = nullptr;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    std::vector<QAction*> documentActions_;
+    std::optional<Follower> historyFollower_;
 };
 
 }  // namespace marlevo

@@ -39,7 +39,7 @@ struct Desktop {
 
 /// Opens the file in the document as a user does.
 void open(Desktop& desktop, DrawingDocument* document, const fs::path& file) {
-    openDocument(desktop.panels, [document] { return document; });
+    openDocument(desktop.services(), [document] { return document; });
     desktop.panels.answer(file);
 }
 
@@ -174,7 +174,7 @@ TEST(OpeningDocuments, actsOnWhoIsFrontmostAtConfirmation) {
     DrawingDocument second(desktop.services());
 
     DrawingDocument* frontmost = &first;
-    openDocument(desktop.panels, [&] { return frontmost; });
+    openDocument(desktop.services(), [&] { return frontmost; });
     EXPECT_EQ(desktop.panels.open->title, "Open Drawing");
     EXPECT_THAT(desktop.panels.open->fileType.extensions, ElementsAre("marlevo"));
     frontmost = &second;

@@ -1,6 +1,7 @@
 #include "tests/ui/Pointer.h"
 #include "ui/Colors.h"
 #include "ui/DocumentWindow.h"
+#include "ui/MarlevoApp.h"
 
 #include <QScreen>
 
@@ -42,12 +43,14 @@ class CanvasPaintingTests : public QObject {
     Q_OBJECT
 
     struct Setting {
-        DocumentWindow window{Services{}};
+        MarlevoApp app{Services{}};
+        DocumentWindow window{app};
         DrawingDocument& document = window.document();
         CanvasView& view = window.canvasView();
 
         Setting() {
             document.canvasSize = {300, 200};
+            window.content().setShowNewCanvas(false);
             window.show();
             if (!QTest::qWaitForWindowExposed(&window)) qFatal("no window");
         }

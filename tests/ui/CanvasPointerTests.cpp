@@ -1,5 +1,6 @@
 #include "tests/ui/Pointer.h"
 #include "ui/DocumentWindow.h"
+#include "ui/MarlevoApp.h"
 
 #include <memory>
 
@@ -9,11 +10,13 @@ class CanvasPointerTests : public QObject {
     Q_OBJECT
 
     struct Setting {
-        DocumentWindow window{Services{}};
+        MarlevoApp app{Services{}};
+        DocumentWindow window{app};
         DrawingDocument& document = window.document();
         Pointer pointer{window.canvasView()};
 
         Setting() {
+            window.content().setShowNewCanvas(false);
             window.show();
             window.activateWindow();
             if (!QTest::qWaitForWindowActive(&window)) qFatal("no active window");

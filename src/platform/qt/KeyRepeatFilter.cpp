@@ -8,12 +8,10 @@ bool KeyRepeatFilter::eventFilter(QObject* receiver, QEvent* event) {
     // A window gets each event first, then hands it on to its widgets.
     if (!receiver->isWindowType()) return false;
     if (event->type() == QEvent::KeyRelease) {
-        const auto& release = static_cast<const QKeyEvent&>(*event);
-        releasedKey_ = release.key();
-        releaseTime_ = release.timestamp();
+        repeats_.release(static_cast<const QKeyEvent&>(*event));
     } else if (event->type() == QEvent::ShortcutOverride) {
         const auto& press = static_cast<const QKeyEvent&>(*event);
-        if (press.key() == releasedKey_ && press.timestamp() == releaseTime_) {
+        if (!press.isAutoRepeat() && repeats_.isRepeat(press)) {
             event->accept();
             return true;
         }

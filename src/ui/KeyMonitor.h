@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/qt/KeyRepeats.h"
+
+#include <QObject>
+
+#include <functional>
+
+class QKeyEvent;
+class QWidget;
+
+namespace marlevo {
+
+class DrawingDocument;
+
+/// The keys that a document window takes before its menus and its controls do. Sees every key of
+/// the application and acts on those that arrive in its own window while that has the focus; keys
+/// of panels, alerts, menus and other windows pass. In this order:
+///
+/// 1. A repeat of a held key passes.
+/// 2. With Ctrl, by the character that the key makes with Shift but without Ctrl: "z" undoes, with
+///    Shift redoes; "e" toggles the eraser and leaves the select tool; "n" shows the new-canvas
+///    sheet; "g" toggles the grid.
+/// 3. Ctrl with "=" zooms in.
+/// 4. Ctrl with "-" zooms out.
+/// 5. Backspace and Delete, whatever the modifiers, delete the selected stroke while the select
+///    tool is chosen and a stroke is selected; else they pass.
+/// 6. Everything else passes.
+///
+/// While a text field of the window can be typed into, Backspace, Delete and Ctrl+Z are its own, as
+/// editing the text needs them; the other keys mean nothing to a field and act as always.
+class KeyMonitor final : public QObject {
+public:
+    /// The document and the window must outlive the monitor, which works until it goes.
+    KeyMonitor(QWidget& window, DrawingDocument& document, std::function<void()> showNewCanvas);
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    using Action = std::function<void()>;
+
+    /// What the press does; nothing when it passes.
+    Action actionOf(const QKeyEvent& press) const;
+    Action controlActionOf(const QKeyEvent& press) const;
+
+    void toggleEraser() const;
+
+    QWidget& window_;
+    DrawingDocument& document_;
+    std::function<void()> showNewCanvas_;
+    KeyRepeats repeats_;
+};
+
+}  // namespace marlevo

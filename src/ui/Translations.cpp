@@ -1,0 +1,27 @@
+#include "ui/Translations.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+namespace marlevo {
+
+namespace {
+
+constexpr auto separator = "_";
+constexpr auto folder = ":/translations";
+
+}  // namespace
+
+Translations::Translations() {
+    const QLocale user;
+    const QString program = QStringLiteral("marlevo");
+    const bool isLoaded = program_.load(user, program, separator, folder) ||
+                          program_.load(program + QLatin1String("_en"), folder);
+    if (isLoaded) QCoreApplication::installTranslator(&program_);
+    if (toolkit_.load(user, QStringLiteral("qtbase"), separator,
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkit_);
+}
+
+}  // namespace marlevo

@@ -1,0 +1,199 @@
+#include "io/DocumentWriter.h"
+
+#include "io/DocumentReader.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace marlevo {
+namespace {
+
+std::string textOf(const DocumentData& document) {
+    const auto text = writeDocumentData(document);
+    return text ? text->joined() : "error: " + text.error();
+}
+
+/// Documents of every shape, with numbers of every kind of bit pattern.
+class RandomDocument {
+public:
+    explicit RandomDocument(unsigned seed) : random_(seed) {}
+
+    DocumentData make(std::size_t mostStrokes) {
+        DocumentData document;
+        document.version = static_cast<std::int64_t>(random_());
+        for (double* value : {&document.canvasWidth, &document.canvasHeight, &document.bgColorR,
+                              &document.bgColorG, &document.bgColorB, &document.bgColorA})
+            *value = number();
+        document.bgTransparent = below(2) == 0;
+        document.layers.resize(below(4));
+        for (LayerData& layer : document.layers) {
+            layer.name = text();
+            layer.isVisible = below(2) == 0;
+            layer.opacity = number();
+            if (below(2) == 0) {
+                std::vector<std::uint8_t> bytes(below(3) == 0 ? 200'000 : below(5));
+                for (std::uint8_t& byte : bytes)
+                    byte = static_cast<std::uint8_t>(random_());
+                layer.imageData = Bytes(std::move(bytes));
+            }
+            layer.strokes.resize(below(mostStrokes));
+            for (StrokeData& stroke : layer.strokes)
+                stroke = makeStroke();
+        }
+        return document;
+    }
+
+private:
+    StrokeData makeStroke() {
+        StrokeData stroke;
+        std::vector<Point> points(below(20));
+        for (Point& point : points)
+            point = {number(), number()};
+        stroke.points = PointList(std::move(points));
+        for (double* value : {&stroke.colorR, &stroke.colorG, &stroke.colorB, &stroke.colorA,
+                              &stroke.lineWidth, &stroke.opacity})
+            *value = number();
+        stroke.isEraser = below(2) == 0;
+        stroke.isFill = below(2) == 0;
+        stroke.shapeType = text();
+        return stroke;
+    }
+
+    double number() {
+        switch (below(4)) {
+        case 0:
+            return static_cast<double>(below(2000)) - 1000;
+        case 1:
+            return std::ldexp(static_cast<double>(random_()), -static_cast<int>(below(80)));
+        case 2:
+            return -0.0;
+        default: {
+            const auto any = std::bit_cast<double>(static_cast<std::uint64_t>(random_()));
+            return std::isfinite(any) ? any : 0.5;
+        }
+        }
+    }
+
+    std::string text() {
+        static constexpr std::string_view letters[] = {"a",
+                                                       "\"",
+                                                       "\\",
+                                                       "/",
+                                                       "\n",
+                                                       "\x01",
+                                                       "\x1F",
+                                                       "\x7F",
+                                                       "\xC3\xA9",
+                                                       "\u2028",
+                                                       "\xF0\x9F\x98\x80"};
+        std::string text;
+        for (std::size_t i = below(12); i > 0; --i)
+            text += letters[below(std::size(letters))];
+        return text;
+    }
+
+    std::size_t below(std::size_t limit) { return random_() % limit; }
+
+    std::mt19937_64 random_;
+};
+
+TEST(DocumentWriter, writesTheFileAsPeopleKnowIt) {
+    DocumentData document;
+    document.canvasWidth = 1280;
+    document.canvasHeight = 0.1;
+    document.bgColorA = -0.0;
+    LayerData layer;
+    layer.name = "A \"quoted\"\tname\x01";
+    layer.imageData = Bytes({0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'});
+    document.layers = {layer, LayerData()};
+    StrokeData stroke;
+    stroke.points = PointList({{10, 20}, {300.5, 1e300}});
+    stroke.isFill = true;
+    stroke.shapeType = "line";
+    document.layers[1].strokes = {stroke, StrokeData()};
+
+    EXPECT_EQ(textOf(document), R"({
+  "version" : 1,
+  "canvasWidth" : 1280,
+  "canvasHeight" : 0.1,
+  "bgColorR" : 0,
+  "bgColorG" : 0,
+  "bgColorB" : 0,
+  "bgColorA" : -0,
+  "bgTransparent" : false,
+  "layers" : [
+    {
+      "name" : "A \"quoted\"\tname\u0001",
+      "isVisible" : false,
+      "opacity" : 0,
+      "imageData" : "iVBORw0KGgo=",
+      "strokes" : [ ]
+    },
+    {
+      "name" : "",
+      "isVisible" : false,
+      "opacity" : 0,
+      "strokes" : [
+        {
+          "points" : [ 10, 20, 300.5, 1e+300 ],
+          "colorR" : 0,
+          "colorG" : 0,
+          "colorB" : 0,
+          "colorA" : 0,
+          "lineWidth" : 0,
+          "opacity" : 0,
+          "isEraser" : false,
+          "isFill" : true,
+          "shapeType" : "line"
+        },
+        {
+          "points" : [ ],
+          "colorR" : 0,
+          "colorG" : 0,
+          "colorB" : 0,
+          "colorA" : 0,
+          "lineWidth" : 0,
+          "opacity" : 0,
+          "isEraser" : false,
+          "isFill" : false,
+          "shapeType" : ""
+        }
+      ]
+    }
+  ]
+}
+)");
+    EXPECT_NE(textOf(DocumentData()).find("\"layers\" : [ ]\n}"), std::string::npos);
+}
+
+TEST(DocumentWriter, randomDocumentsComeBackBitForBit) {
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        // Every tenth is long enough for two threads to share the work.
+        const DocumentData document = RandomDocument(seed).make(seed % 10 == 0 ? 3000 : 8);
+        const std::string text = textOf(document);
+        const auto copy = readDocumentData(PaddedBytes(text));
+        ASSERT_TRUE(copy) << seed << ": " << copy.error();
+        EXPECT_TRUE(*copy == document) << seed;
+        EXPECT_EQ(textOf(*copy), text) << seed;  // tells −0 from 0, which == does not
+    }
+}
+
+TEST(DocumentWriter, namesTheFirstNumberThatIsNotFinite) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    DocumentData document;
+    document.layers.resize(2);
+    document.layers[1].strokes.resize(3);
+    document.layers[1].strokes[2].points = PointList({{1, 2}, {3, -infinity}});
+    EXPECT_EQ(textOf(document), "error: layers[1].strokes[2].points[3]: the number is not finite");
+    document.layers[1].strokes[0].lineWidth = std::nan("");
+    EXPECT_EQ(textOf(document), "error: layers[1].strokes[0].lineWidth: the number is not finite");
+    document.canvasHeight = infinity;
+    EXPECT_EQ(textOf(document), "error: canvasHeight: the number is not finite");
+}
+
+}  // namespace
+}  // namespace marlevo

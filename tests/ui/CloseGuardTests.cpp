@@ -1,0 +1,163 @@
+#include "tests/support/TemporaryFolder.h"
+#include "tests/ui/RunningApp.h"
+
+#include <QImage>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+
+using namespace marlevo;
+
+namespace {
+
+QMessageBox* alertOf(QWidget& window) { return window.findChild<QMessageBox*>(); }
+
+void answer(QWidget& window, const QString& title) {
+    button<QPushButton>(*alertOf(window), title).click();
+}
+
+}  // namespace
+
+class CloseGuardTests : public QObject {
+    Q_OBJECT
+
+    struct Setting : RunningApp {
+        QPointer<DocumentWindow> open = &window;
+
+        Setting() { QCoreApplication::processEvents(); }
+
+        void drawAndClose() {
+            drawStroke(document);
+            window.close();
+        }
+    };
+
+private Q_SLOTS:
+    void aDrawingWithoutStrokesClosesWithoutAQuestion() {
+        Setting s;
+        drawStroke(s.document);
+        s.document.clearAll();
+        QVERIFY(s.window.close());
+        QTRY_VERIFY(!s.open);
+        QVERIFY(!s.app.focusedDocument().get());
+    }
+
+    void theAlertSaysWhatIsAtStake() {
+        Setting s;
+        s.document.currentFileURL = "/tmp/saved.marlevo";
+        drawStroke(s.document);
+        s.document.toggleLayerVisibility(0);
+        s.window.close();
+        QMessageBox& alert = *alertOf(s.window);
+        QCOMPARE(alert.text(), QString("Do you want to save your drawing?"));
+        QCOMPARE(alert.informativeText(), QString("Your drawing will be lost if you don't save."));
+        QCOMPARE(alert.icon(), QMessageBox::Warning);
+        QCOMPARE(alert.windowModality(), Qt::ApplicationModal);
+        QCOMPARE(alert.defaultButton()->text(), QString("Save"));
+        QVERIFY(s.window.isVisible());
+    }
+
+    void cancelAndDismissalKeepTheWindowAndAskAgain() {
+        Setting s;
+        s.drawAndClose();
+        answer(s.window, "Cancel");
+        QTRY_VERIFY(!alertOf(s.window));
+        s.window.close();
+        QTest::keyClick(alertOf(s.window), Qt::Key_Escape);
+        QTRY_VERIFY(!alertOf(s.window));
+        s.window.close();
+        alertOf(s.window)->close();
+        QTRY_VERIFY(!alertOf(s.window));
+        QVERIFY(s.open && s.window.isVisible());
+        QVERIFY(!s.window.content().closeGuard().shouldSkipClose());
+    }
+
+    void dontSaveClosesTheWindow() {
+        Setting s;
+        s.drawAndClose();
+        answer(s.window, "Don't Save");
+        QTRY_VERIFY(!s.open);
+        QVERIFY(!s.panels.save);
+    }
+
+    void saveWritesThePictureThenCloses() {
+        Setting s;
+        const TemporaryFolder folder;
+        s.document.canvasSize = {120.7, 80};
+        s.drawAndClose();
+        answer(s.window, "Save");
+        QVERIFY(s.open && s.window.isVisible());
+        QVERIFY(s.window.content().closeGuard().shouldSkipClose());
+        QCOMPARE(s.panels.save->title, std::string("Save Drawing"));
+        QCOMPARE(s.panels.save->proposedName, std::string("Drawing-120x80.png"));
+        QCOMPARE(s.panels.save->fileType.mimeType, std::string("image/png"));
+        s.panels.answer(folder / "picture.png");
+        QTRY_VERIFY(!s.open);
+        QCOMPARE(QImage(QString::fromStdString((folder / "picture.png").string())).size(),
+                 QSize(120, 80));
+    }
+
+    void theWindowClosesAlsoWhenThePanelIsCancelled() {
+        Setting s;
+        s.drawAndClose();
+        answer(s.window, "Save");
+        s.panels.answer(std::nullopt);
+        QTRY_VERIFY(!s.open);
+    }
+
+    void quitStopsAtTheFirstWindowThatIsKept() {
+        Setting s;
+        drawStroke(s.document);
+        QPointer<DocumentWindow> empty = &s.openWindow();
+        QPointer<DocumentWindow> kept = &s.openWindow();
+        drawStroke(kept->document());
+        QCoreApplication::processEvents();
+        RunningApp::activate(*empty);
+        s.app.quit();
+        QTRY_VERIFY(!empty);
+        QTRY_VERIFY(alertOf(*kept));
+        QVERIFY(!alertOf(s.window));
+        answer(*kept, "Cancel");
+        QTest::qWait(50);
+        QVERIFY(kept && !alertOf(s.window));
+    }
+
+    void quitGoesOnAfterAPictureWasSaved() {
+        Setting s;
+        drawStroke(s.document);
+        QPointer<DocumentWindow> front = &s.openWindow();
+        drawStroke(front->document());
+        QCoreApplication::processEvents();
+        s.app.quit();
+        answer(*front, "Save");
+        QVERIFY(!alertOf(s.window));
+        s.panels.answer(std::nullopt);
+        QTRY_VERIFY(!front);
+        QTRY_VERIFY(alertOf(s.window));
+        answer(s.window, "Don't Save");
+        QTRY_VERIFY(!s.open);
+    }
+
+    void theTitleFollowsTheFileAfterTheEvent() {
+        Setting s;
+        QCOMPARE(s.window.windowTitle(), QString("Marlevo"));
+        s.document.currentFileURL = "/some/where/sketch[*].marlevo";
+        QCOMPARE(s.window.windowTitle(), QString("Marlevo"));
+        QCoreApplication::processEvents();
+        QCOMPARE(s.window.windowHandle()->title(), QString("sketch[*].marlevo"));
+    }
+
+    void autoSaveEndsWithTheWindow() {
+        Setting s;
+        QCOMPARE(s.clock.sleepers(), std::size_t{1});
+        s.window.hide();
+        s.window.show();
+        QCOMPARE(s.clock.sleepers(), std::size_t{1});
+        s.window.close();
+        QTRY_VERIFY(!s.open);
+        QCOMPARE(s.clock.sleepers(), std::size_t{0});
+    }
+};
+
+QTEST_MAIN(CloseGuardTests)
+#include "CloseGuardTests.moc"

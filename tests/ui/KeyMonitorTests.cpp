@@ -1,0 +1,153 @@
+#include "tests/ui/RunningApp.h"
+
+#include <QLineEdit>
+
+using namespace marlevo;
+
+namespace {
+
+/// A press and release as a keyboard sends them, through the window.
+void type(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(window.windowHandle(), key, modifiers);
+}
+
+void selectTheStroke(DrawingDocument& document) {
+    document.isSelectTool = true;
+    document.selectedLayerID = document.layers->front().id;
+    document.selectedStrokeIndex = 0;
+}
+
+}  // namespace
+
+class KeyMonitorTests : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void controlKeysActOnTheWindowsDocument() {
+        RunningApp s;
+        drawStroke(s.document);
+        type(s.window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(strokeCount(s.document), std::size_t{0});
+        // With Shift the key makes "Z": the menu redoes, once.
+        drawStroke(s.document);
+        drawStroke(s.document);
+        type(s.window, Qt::Key_Z, Qt::ControlModifier);
+        type(s.window, Qt::Key_Z, Qt::ControlModifier);
+        type(s.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(strokeCount(s.document), std::size_t{1});
+
+        type(s.window, Qt::Key_G, Qt::ControlModifier);
+        QVERIFY(s.document.showGrid);
+        type(s.window, Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(s.document.showGrid);
+        type(s.window, Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(s.window.content().showNewCanvas());
+    }
+
+    void theEraserKeyLeavesTheSelectToolAndItsSelectionOnly() {
+        RunningApp s;
+        drawStroke(s.document);
+        selectTheStroke(s.document);
+        s.document.isFillTool = true;
+        type(s.window, Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(s.document.isEraser && !s.document.isSelectTool && s.document.isFillTool);
+        QVERIFY(!s.document.selectedLayerID->has_value());
+        QVERIFY(!s.document.selectedStrokeIndex->has_value());
+        type(s.window, Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(!s.document.isEraser);
+    }
+
+    void zoomStepsStayWithinTheRange() {
+        RunningApp s;
+        const auto zoomAfter = [&](Qt::Key key, double before) {
+            s.document.zoom = before;
+            type(s.window, key, Qt::ControlModifier);
+            return s.document.zoom.get();
+        };
+        QCOMPARE(zoomAfter(Qt::Key_Equal, 1), 1.2);
+        QCOMPARE(zoomAfter(Qt::Key_Equal, 4.5), 5.0);
+        QCOMPARE(zoomAfter(Qt::Key_Minus, 1.2), 1.0);
+        QCOMPARE(zoomAfter(Qt::Key_Minus, 0.11), 0.1);
+        QCOMPARE(zoomAfter(Qt::Key_Plus, 1), 1.0);
+    }
+
+    void aHeldKeyActsOnce() {
+        RunningApp s;
+        const auto send = [&](QEvent::Type type, quint64 time, bool isMarked) {
+            for (const QEvent::Type step : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
+                if (type == QEvent::KeyRelease && step == QEvent::KeyPress) break;
+                QKeyEvent event(type == QEvent::KeyRelease ? type : step, Qt::Key_Equal,
+                                Qt::ControlModifier, "=", isMarked);
+                event.setTimestamp(time);
+                QCoreApplication::sendEvent(s.window.windowHandle(), &event);
+            }
+        };
+        send(QEvent::KeyPress, 100, false);
+        QCOMPARE(s.document.zoom.get(), 1.2);
+        send(QEvent::KeyRelease, 600, true);
+        send(QEvent::KeyPress, 600, true);
+        // The pair that reaches the program before it is known to be one.
+        send(QEvent::KeyRelease, 630, false);
+        send(QEvent::KeyPress, 630, false);
+        QCOMPARE(s.document.zoom.get(), 1.2);
+        send(QEvent::KeyRelease, 700, false);
+        send(QEvent::KeyPress, 800, false);
+        QCOMPARE(s.document.zoom.get(), 1.2 * 1.2);
+    }
+
+    void bothDeleteKeysDeleteTheSelectedStrokeOnly_data() {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("Backspace") << Qt::Key_Backspace;
+        QTest::newRow("Delete") << Qt::Key_Delete;
+    }
+    void bothDeleteKeysDeleteTheSelectedStrokeOnly() {
+        QFETCH(const Qt::Key, key);
+        RunningApp s;
+        drawStroke(s.document);
+        s.document.isSelectTool = true;
+        type(s.window, key);
+        selectTheStroke(s.document);
+        s.document.isSelectTool = false;
+        type(s.window, key);
+        QCOMPARE(strokeCount(s.document), std::size_t{1});
+        s.document.isSelectTool = true;
+        type(s.window, key, Qt::ShiftModifier);
+        QCOMPARE(strokeCount(s.document), std::size_t{0});
+    }
+
+    void aTextFieldKeepsTheKeysThatEditText() {
+        RunningApp s;
+        drawStroke(s.document);
+        selectTheStroke(s.document);
+        QLineEdit field("12", &s.window);
+        field.show();
+        field.setFocus();
+        type(s.window, Qt::Key_Backspace);
+        QCOMPARE(field.text(), QString("1"));
+        type(s.window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field.text(), QString("12"));
+        QCOMPARE(strokeCount(s.document), std::size_t{1});
+        type(s.window, Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(s.document.zoom.get(), 1.2);
+        QCOMPARE(field.text(), QString("12"));
+
+        field.setReadOnly(true);
+        type(s.window, Qt::Key_Backspace);
+        QCOMPARE(strokeCount(s.document), std::size_t{0});
+    }
+
+    void onlyTheFocusedWindowActs() {
+        RunningApp s;
+        DocumentWindow& second = s.openWindow();
+        type(second, Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(second.document().zoom.get(), 1.2);
+        QCOMPARE(s.document.zoom.get(), 1.0);
+        RunningApp::activate(s.window);
+        type(s.window, Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(s.window.content().showNewCanvas());
+        QVERIFY(!second.content().showNewCanvas());
+    }
+};
+
+QTEST_MAIN(KeyMonitorTests)
+#include "KeyMonitorTests.moc"

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "platform/qt/QtImageCodec.h"
+#include "tests/support/FakeServices.h"
+#include "ui/DocumentWindow.h"
+#include "ui/MarlevoApp.h"
+
+#include <QMenu>
+#include <QTest>
+
+namespace marlevo {
+
+/// The application over fakes, with a window in front whose sheet is gone.
+struct RunningApp {
+    FakeFilePanels panels;
+    FakePreferences preferences;
+    FakeClock clock;
+    QtImageCodec codec;
+    MarlevoApp app{{.filePanels = &panels,
+                    .imageCodec = &codec,
+                    .preferences = &preferences,
+                    .sleepingClock = &clock}};
+    DocumentWindow& window = openWindow();
+    DrawingDocument& document = window.document();
+
+    DocumentWindow& openWindow() {
+        DocumentWindow& opened = app.openWindow();
+        opened.content().setShowNewCanvas(false);
+        activate(opened);
+        return opened;
+    }
+
+    static void activate(QWidget& window) {
+        window.raise();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window)) qFatal("no active window");
+    }
+};
+
+inline void drawStroke(DrawingDocument& document) {
+    document.beginStroke({10, 10});
+    document.addPointToStroke({90, 70});
+    document.endStroke();
+}
+
+inline std::size_t strokeCount(const DrawingDocument& document) {
+    std::size_t count = 0;
+    for (const Layer& layer : *document.layers)
+        count += layer.strokes.size();
+    return count;
+}
+
+/// The command with this title in the window's menus.
+inline QAction& command(QWidget& window, const QString& title) {
+    for (QAction* action : window.findChildren<QAction*>())
+        if (action->text() == title) return *action;
+    qFatal("no command %s", qPrintable(title));
+}
+
+template <typename Control>
+Control& control(QWidget& window, const QString& name) {
+    for (auto* candidate : window.findChildren<Control*>())
+        if (candidate->accessibleName() == name) return *candidate;
+    qFatal("no control %s", qPrintable(name));
+}
+
+template <typename Button>
+Button& button(QWidget& window, const QString& text) {
+    for (auto* candidate : window.findChildren<Button*>())
+        if (candidate->text() == text) return *candidate;
+    qFatal("no button %s", qPrintable(text));
+}
+
+}  // namespace marlevo

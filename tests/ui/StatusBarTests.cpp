@@ -1,0 +1,81 @@
+#include "tests/ui/RunningApp.h"
+#include "ui/ZoomRange.h"
+
+#include <QPushButton>
+#include <QTranslator>
+
+using namespace marlevo;
+
+namespace {
+
+/// A catalogue with one entry of its own.
+class OneEntry : public QTranslator {
+public:
+    QString translate(const char*, const char* text, const char*, int) const override {
+        return QLatin1String(text) == "multiple_strokes" ? QString("%1 strokes") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+QStringList texts(RunningApp& s) {
+    QStringList shown;
+    for (const TextLabel* label : s.window.findChild<StatusBar*>()->findChildren<TextLabel*>())
+        if (label->isVisible()) shown << label->text();
+    return shown;
+}
+
+}  // namespace
+
+class StatusBarTests : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itShowsSizeStrokesZoomAndLayer() {
+        OneEntry catalogue;
+        qApp->installTranslator(&catalogue);
+        RunningApp s;
+        QCOMPARE(texts(s), QStringList({"1280×720", "0 strokes", "100%", "Background"}));
+        drawStroke(s.document);
+        s.document.canvasSize = {800.9, 1e30};
+        s.document.zoom = 0.49375;
+        s.document.activeLayerIndex = -1;
+        QCOMPARE(texts(s), QStringList({"800×–", "single_stroke", "49%"}));
+        s.document.addLayer();
+        drawStroke(s.document);
+        s.document.toggleLayerVisibility(1);
+        QVERIFY(texts(s).contains("2 strokes"));
+    }
+
+    void showingTheZoomDoesNotChangeIt() {
+        RunningApp s;
+        s.document.zoom = 0.49375;
+        auto& slider = control<ContinuousSlider>(s.window, "Zoom");
+        QCOMPARE(slider.value(), 0.49375);
+        QCOMPARE(s.document.zoom.get(), 0.49375);
+        slider.moveTo(7);
+        QCOMPARE(s.document.zoom.get(), maxZoom);
+        button<QPushButton>(s.window, "100%").click();
+        QCOMPARE(s.document.zoom.get(), 1.0);
+    }
+
+    void theFittingZoomCountsWithFixedMeasures() {
+        QCOMPARE(fittingZoom({1920, 1080}, {1200, 800}), 0.49375);
+        QCOMPARE(fittingZoom({100, 740}, {1200, 800}), 1.0);
+    }
+
+    void fitTakesTheContentBelowTheMenusAndStaysWithinTheRange() {
+        RunningApp s;
+        const auto fitted = [&](CanvasSize canvas) {
+            s.document.canvasSize = canvas;
+            button<QPushButton>(s.window, "Fit").click();
+            return s.document.zoom.get();
+        };
+        QCOMPARE(fitted({100, 100}), maxZoom);
+        QCOMPARE(fitted({1e6, 1e6}), minZoom);
+        const double height = s.window.height() - s.window.menuBar()->height();
+        QCOMPARE(fitted({10, 2000}), (height - 60) / 2000);
+    }
+};
+
+QTEST_MAIN(StatusBarTests)
+#include "StatusBarTests.moc"
