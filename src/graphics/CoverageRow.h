@@ -22,7 +22,7 @@ struct SumRow {
     /// `dirtyMark` for each block whose cells may not all be 0, or 0.
     std::uint8_t* dirty;
     std::size_t markCount;  ///< whole groups
-    std::int32_t running;  ///< the sum before the first cell
+    std::int32_t running;   ///< the sum before the first cell
 };
 
 /// Blends `color` on `count` pixels by the part of each that the sums say is covered, and sets the
