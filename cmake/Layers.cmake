@@ -2,8 +2,7 @@
 add_library(marlevo_flags INTERFACE)
 target_include_directories(marlevo_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(marlevo_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
-  -Woverloaded-virtual -Wimplicit-fallthrough
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
   # gcc 12 finds overlaps in std::string's own operator+ that are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   # A product must round the same on every machine: no fused multiply-add behind our back.
@@ -40,12 +39,13 @@ function(marlevo_layer folder)
   target_link_libraries(${name} PUBLIC marlevo_flags ${layer_PUBLIC} PRIVATE ${layer_PRIVATE})
   if(folder MATCHES "qt|ui")
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
-    # Qt's own idioms (narrow ints, implicit conversions) are not ours to warn about.
-    target_compile_options(${name} PRIVATE -Wno-conversion)
     # Words such as "slots" stay free for the layers below.
     target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS)
     # Half the time of compiling a window goes into the toolkit's headers.
     target_precompile_headers(${name} PRIVATE <QtWidgets>)
+  else()
+    # Not with Qt, whose idioms are narrow ints and implicit conversions, nor in tests and benchmarks.
+    target_compile_options(${name} PRIVATE -Wconversion -Wno-sign-conversion)
   endif()
 endfunction()
 

@@ -4,7 +4,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev zlib1g-dev qt6-base-dev qt6-svg-dev
-       qt6-image-formats-plugins)
+       qt6-image-formats-plugins qt6-tools-dev qt6-l10n-tools)
 virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
 
 wanted=()

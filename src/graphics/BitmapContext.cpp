@@ -67,6 +67,8 @@ bool isWhole(double value) { return value == std::floor(value); }
 }  // namespace
 
 struct BitmapContext::Rasterizer {
+    Rasterizer(PixelBuffer pixels, DeviceFrame frame) : target(pixels), state{frame} {}
+
     PixelBuffer target;
     State state;
     std::vector<State> saved;
@@ -105,7 +107,7 @@ struct BitmapContext::Rasterizer {
 };
 
 BitmapContext::BitmapContext(PixelBuffer target, DeviceFrame frame)
-    : rasterizer_(std::make_unique<Rasterizer>(target, State{frame, 1.0})) {}
+    : rasterizer_(std::make_unique<Rasterizer>(target, frame)) {}
 
 BitmapContext::~BitmapContext() = default;
 

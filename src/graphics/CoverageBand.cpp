@@ -9,9 +9,6 @@ namespace marlevo {
 
 namespace {
 
-constexpr std::int32_t subpixels = CoverageBand::subpixels;
-constexpr int subpixelBits = CoverageBand::subpixelBits;
-
 /// Slopes carry this many bits behind the point: a slope times a length within ±2³¹ stays in
 /// 64 bits.
 constexpr int slopeBits = 30;

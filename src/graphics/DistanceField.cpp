@@ -20,7 +20,7 @@ void DistanceField::reset(const IntRect& area) {
 
     const std::size_t blocks = static_cast<std::size_t>(stripCount_) * blocksPerStrip_;
     if (blocks_.size() < blocks) {
-        Block allFar;
+        Block allFar{};
         std::fill(std::begin(allFar.squares), std::end(allFar.squares), far);
         blocks_.resize(blocks, allFar);
     }

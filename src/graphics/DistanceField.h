@@ -18,8 +18,9 @@ class DistanceField {
 public:
     static constexpr int blockWidth = 8;
     static constexpr int blockHeight = 2;
+    static constexpr std::size_t blockPixels = std::size_t{blockWidth} * blockHeight;
     struct alignas(64) Block {
-        float squares[blockWidth * blockHeight];  ///< row after row
+        float squares[blockPixels];  ///< row after row
     };
 
     /// Squared; further than any pixel that a pen reaches.

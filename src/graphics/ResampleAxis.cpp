@@ -15,13 +15,13 @@ ResampleAxis::ResampleAxis(int imageSize, double start, double end, int firstPix
     for (int i = 0; i < count; ++i) {
         const double pixel = double(firstPixel) + i;
         const double center = std::clamp((pixel + 0.5 - start) * scale, 0.0, size);
-        const auto weightAt = [&](double index) {
+        const auto weightAt = [&](int index) {
             return std::max(0.0, 1 - std::abs(index + 0.5 - center) / reach);
         };
-        const double first = std::max(0.0, std::floor(center - reach - 0.5) + 1);
-        const double last = std::min(size - 1, std::ceil(center + reach - 0.5) - 1);
+        const auto first = static_cast<int>(std::max(0.0, std::floor(center - reach - 0.5) + 1));
+        const auto last = static_cast<int>(std::min(size, std::ceil(center + reach - 0.5)) - 1);
         double total = 0;
-        for (double at = first; at <= last; ++at)
+        for (int at = first; at <= last; ++at)
             total += weightAt(at);
 
         const double covered = std::min(end, pixel + 1) - std::max(start, pixel);
@@ -32,7 +32,7 @@ ResampleAxis::ResampleAxis(int imageSize, double start, double end, int firstPix
         // Rounding the running total, not each weight, keeps the sum exact.
         double running = 0;
         long done = 0;
-        for (double at = first; at <= last; ++at) {
+        for (int at = first; at <= last; ++at) {
             running += weightAt(at);
             const long next =
                 at == last ? 1L << weightBits : std::lround(running / total * (1 << weightBits));

@@ -17,7 +17,8 @@ struct RoundPen {
     /// The coverage, 0 to 255, of a pixel by its centre's squared distance.
     int coverage(float squaredDistance) const {
         const float inside = edge - std::sqrt(squaredDistance);
-        return static_cast<int>(std::min(std::max(inside, 0.0F), 1.0F) * full + 0.5F);
+        const float roundedUp = std::min(std::max(inside, 0.0F), 1.0F) * full + 0.5F;
+        return static_cast<int>(roundedUp);
     }
 
     double reach;  ///< no pixel whose centre is further away is covered

@@ -28,11 +28,12 @@ using Block = DistanceField::Block;
 /// SegmentInStrip::squaredDistance.
 HWY_INLINE void lowerDistances(Block* blocks, int count, float firstRow,
                                const SegmentInStrip& segment) {
-    const hn::CappedTag<float, blockWidth * blockHeight> d;
+    const hn::CappedTag<float, DistanceField::blockPixels> d;
     const hn::RebindToSigned<decltype(d)> di;
     constexpr int lanes = static_cast<int>(hn::MaxLanes(d));
     constexpr int columns = std::min(lanes, blockWidth);
     constexpr int rows = lanes / columns;
+    constexpr int pixelsPerStep = rows * blockWidth;
 
     const auto index = hn::Iota(di, 0);
     const auto column = hn::ConvertTo(d, hn::And(index, hn::Set(di, columns - 1)));
@@ -54,14 +55,14 @@ HWY_INLINE void lowerDistances(Block* blocks, int count, float firstRow,
             const auto square = hn::Add(hn::Mul(off, off), hn::Mul(past, past));
             hn::Store(hn::Min(square, hn::Load(d, squares)), d, squares);
             y = hn::Add(y, hn::Set(d, static_cast<float>(rows)));
-            squares += rows * blockWidth;
+            squares += pixelsPerStep;
         }
     }
 }
 
 /// Turns a block's distances into coverages, as RoundPen::coverage does, and makes it far again.
 HWY_INLINE void takeCoverage(Block& block, const RoundPen& pen, std::int32_t* coverage) {
-    const hn::CappedTag<float, blockWidth * blockHeight> d;
+    const hn::CappedTag<float, DistanceField::blockPixels> d;
     const hn::RebindToSigned<decltype(d)> di;
     const auto edge = hn::Set(d, pen.edge);
     const auto full = hn::Set(d, pen.full);
@@ -147,12 +148,13 @@ private:
         clip(a.y, b.y, top_, bottom_, first, last);
         if (!(first <= last)) return;
         const double count = std::ceil(length / maxPieceLength);
-        const auto pointAt = [&](double piece) {
+        const auto pointAt = [&](int piece) {
             const double t = piece / count;
             return Point{a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};
         };
-        const double end = std::min(std::floor(last * count) + 2, count);
-        for (double piece = std::max(std::floor(first * count) - 1, 0.0); piece < end; ++piece) {
+        const auto start = static_cast<int>(std::max(std::floor(first * count) - 1, 0.0));
+        const auto end = static_cast<int>(std::min(std::floor(last * count) + 2, count));
+        for (int piece = start; piece < end; ++piece) {
             addPiece(pointAt(piece), pointAt(piece + 1));
         }
     }
@@ -233,18 +235,17 @@ void blendField(DistanceField& field, const RoundPen& pen, const PixelBuffer& ta
         const int right = std::min(x + blockWidth, target.area.right);
         Block* const blocks = field.strip(strip);
         field.takeTouched(strip, [&](int index) {
-            HWY_ALIGN std::int32_t coverage[blockWidth * blockHeight];
+            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
             takeCoverage(blocks[index], pen, coverage);
             for (int row = 0; row < blockHeight; ++row) {
                 const int y = field.top() + index * blockHeight + row;
                 if (y < target.area.top || y >= target.area.bottom) continue;
-                const std::int32_t* const ofRow = coverage + row * blockWidth;
-                std::uint8_t* const pixels = target.pixel(left, y);
+                const std::int32_t* const ofRow = coverage + std::ptrdiff_t{row} * blockWidth;
                 if (right - left == blockWidth) {
-                    blendRow(pixels, ofRow, color);
+                    blendRow(target.pixel(left, y), ofRow, color);
                 } else {
                     for (int i = left; i < right; ++i) {
-                        blendPixel(pixels + 4 * (i - left), color,
+                        blendPixel(target.pixel(i, y), color,
                                    static_cast<std::uint8_t>(ofRow[i - x]));
                     }
                 }

@@ -124,9 +124,7 @@ TEST(StrokeByDistance, AgreesWithSupersampledTruth) {
         int count = 0;
         for (int y = 0; y < size; ++y) {
             for (int x = 0; x < size; ++x) {
-                const double exact = 255 * supersampled(x, y, 8, [&](Point p) {
-                                         return distanceToLines(p, path) <= width / 2;
-                                     });
+                const double exact = 255 * coverageByRoundPen(x, y, path, width / 2);
                 if (exact == 0 && canvas.alpha(x, y) == 0) continue;
                 const double off = std::abs(canvas.alpha(x, y) - exact);
                 // A pixel in a notch between two edges sees only the nearer one.

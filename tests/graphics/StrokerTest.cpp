@@ -28,14 +28,10 @@ void expectTruth(const FlattenedPath& line, double width, int size, const char* 
                 ASSERT_EQ(windingNumber(outline, corner) != 0, beyond < 0)
                     << what << ", width " << width << ", at " << x << ", " << y;
             }
-            const double middle = distanceToLines({x + 0.5, y + 0.5}, line) - width / 2;
-            const double truth =
-                std::abs(middle) > 0.75 ? middle < 0 : supersampled(x, y, 8, [&](Point p) {
-                    return distanceToLines(p, line) <= width / 2;
-                });
+            const double truth = coverageByRoundPen(x, y, line, width / 2);
             const double difference = std::abs(canvas.alpha(x, y) / 255.0 - truth);
             sum += difference;
-            if (std::abs(middle) > 0.75) {
+            if (std::abs(beyond) > 1.5) {
                 ASSERT_EQ(difference, 0)
                     << what << ", width " << width << ", pixel " << x << ", " << y;
             }

@@ -57,13 +57,15 @@ inline int windingNumber(const FlattenedPath& outline, Point p) {
     return winding;
 }
 
-inline double distanceToSegment(Point p, Point a, Point b) {
+inline double squaredDistanceToSegment(Point p, Point a, Point b) {
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
     const double square = dx * dx + dy * dy;
     const double t = square > 0 ? ((p.x - a.x) * dx + (p.y - a.y) * dy) / square : 0;
     const double s = std::clamp(t, 0.0, 1.0);
-    return std::hypot(p.x - a.x - s * dx, p.y - a.y - s * dy);
+    const double x = p.x - a.x - s * dx;
+    const double y = p.y - a.y - s * dy;
+    return x * x + y * y;
 }
 
 inline double distanceToLines(Point p, const FlattenedPath& lines) {
@@ -72,11 +74,19 @@ inline double distanceToLines(Point p, const FlattenedPath& lines) {
         const auto points = lines.pointsOf(part);
         Point a = part.closed ? points.back() : points.front();
         for (const Point b : points) {
-            least = std::min(least, distanceToSegment(p, a, b));
+            least = std::min(least, squaredDistanceToSegment(p, a, b));
             a = b;
         }
     }
-    return least;
+    return std::sqrt(least);
+}
+
+/// The part of the pixel (x, y), 0 to 1, that is within `radius` of the lines.
+inline double coverageByRoundPen(int x, int y, const FlattenedPath& lines, double radius) {
+    const double beyond = distanceToLines({x + 0.5, y + 0.5}, lines) - radius;
+    constexpr double halfDiagonal = 0.75;
+    if (std::abs(beyond) > halfDiagonal) return beyond < 0 ? 1 : 0;
+    return supersampled(x, y, 8, [&](Point p) { return distanceToLines(p, lines) <= radius; });
 }
 
 inline void addPolygon(FlattenedPath& path, const std::vector<Point>& points, bool closed = true) {
