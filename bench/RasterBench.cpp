@@ -1,6 +1,6 @@
 // Draws the same scenes with our rasteriser, cairo and Qt, and prints one table: the time a shape
 // takes each, our lead, the time of only blending the pixels that our drawing covers, and how far
-// each strays from a supersampled truth.
+// each strays from a supersampled truth. Then the time of repainting a small part of a picture.
 
 #include "bench/RasterScenes.h"
 #include "bench/SupersampledTruth.h"
@@ -23,17 +23,21 @@ namespace marlevo::bench {
 
 namespace {
 
+constexpr IntRect wholePicture{0, 0, sceneWidth, sceneHeight};
+
 /// Pixels in the order blue, green, red, alpha, which all three can draw on.
 struct Picture {
     std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(4 * sceneWidth * sceneHeight);
 
-    PixelBuffer buffer() {
-        return {bytes.data(), 4 * sceneWidth, {0, 0, sceneWidth, sceneHeight}, PixelOrder::bgra};
+    PixelBuffer part(const IntRect& area) {
+        const PixelBuffer whole{bytes.data(), 4 * sceneWidth, wholePicture, PixelOrder::bgra};
+        return {whole.pixel(area.left, area.top), whole.stride, area, whole.order};
     }
 };
 
-void drawOurs(const std::vector<Shape>& shapes, Picture& picture) {
-    BitmapContext context(picture.buffer(), DeviceFrame::yDown(1));
+void drawOurs(const std::vector<Shape>& shapes, Picture& picture,
+              const IntRect& area = wholePicture) {
+    BitmapContext context(picture.part(area), DeviceFrame::yDown(1));
     for (const Shape& shape : shapes) {
         context.setAlpha(shape.opacity);
         if (shape.lineWidth == 0) {
@@ -78,10 +82,13 @@ void addToCairo(cairo_t* cairo, const Path& path) {
     }
 }
 
-void drawCairo(const std::vector<Shape>& shapes, Picture& picture) {
+void drawCairo(const std::vector<Shape>& shapes, Picture& picture,
+               const IntRect& area = wholePicture) {
     cairo_surface_t* const surface = cairo_image_surface_create_for_data(
         picture.bytes.data(), CAIRO_FORMAT_ARGB32, sceneWidth, sceneHeight, 4 * sceneWidth);
     cairo_t* const cairo = cairo_create(surface);
+    cairo_rectangle(cairo, area.left, area.top, area.width(), area.height());
+    cairo_clip(cairo);
     cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
     cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
     for (const Shape& shape : shapes) {
@@ -126,11 +133,12 @@ QPainterPath toQt(const Path& path) {
 }
 
 void drawQt(const std::vector<Shape>& shapes, const std::vector<QPainterPath>& paths,
-            Picture& picture) {
+            Picture& picture, const IntRect& area = wholePicture) {
     QImage image(picture.bytes.data(), sceneWidth, sceneHeight, 4 * sceneWidth,
                  QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (area != wholePicture) painter.setClipRect(area.left, area.top, area.width(), area.height());
     for (std::size_t i = 0; i < shapes.size(); ++i) {
         const Shape& shape = shapes[i];
         const QColor color = QColor::fromRgbF(static_cast<float>(shape.color.red),
@@ -275,6 +283,54 @@ void measure(const Scene& scene, int rounds) {
     std::fflush(stdout);
 }
 
+bool reaches(const Shape& shape, const IntRect& area) {
+    double minX = 1e9;
+    double minY = 1e9;
+    double maxX = -1e9;
+    double maxY = -1e9;
+    for (const Path::Element& e : shape.path.elements()) {
+        minX = std::min(minX, e.point.x);
+        minY = std::min(minY, e.point.y);
+        maxX = std::max(maxX, e.point.x);
+        maxY = std::max(maxY, e.point.y);
+    }
+    const double reach = shape.lineWidth / 2 + 1;
+    return minX - reach < area.right && maxX + reach > area.left && minY - reach < area.bottom &&
+           maxY + reach > area.top;
+}
+
+/// Repaints squares with the strokes whose bounds meet them, as all three would be asked to.
+void measureRepaint(const std::vector<Shape>& strokes, int side, int rounds) {
+    double ours = 0;
+    double cairo = 0;
+    double qt = 0;
+    int count = 0;
+    Picture picture;
+    for (int top = 40; top + side <= sceneHeight; top += 200) {
+        for (int left = 100; left + side <= sceneWidth; left += 300) {
+            const IntRect area{left, top, left + side, top + side};
+            std::vector<Shape> near;
+            for (const Shape& stroke : strokes)
+                if (reaches(stroke, area)) near.push_back(stroke);
+            const std::vector<QPainterPath> paths = toQt(near);
+            const auto best = [&](const std::function<void()>& work) {
+                double least = 1e18;
+                for (int i = 0; i < rounds; ++i)
+                    least = std::min(least, microseconds(work));
+                return least;
+            };
+            ours += best([&] { drawOurs(near, picture, area); });
+            cairo += best([&] { drawCairo(near, picture, area); });
+            qt += best([&] { drawQt(near, paths, picture, area); });
+            ++count;
+        }
+    }
+    std::printf("\nrepainting %d x %d among %zu strokes, milliseconds: ours %.2f, cairo %.2f (%.1f "
+                "times), Qt %.2f (%.1f times)\n",
+                side, side, strokes.size(), ours / count / 1000, cairo / count / 1000, cairo / ours,
+                qt / count / 1000, qt / ours);
+}
+
 }  // namespace
 
 }  // namespace marlevo::bench
@@ -299,4 +355,5 @@ int main(int argc, char** argv) {
         if (argc > 2 && std::atoi(argv[2]) != i + 1) continue;
         measure(scenes[i], rounds);
     }
+    if (argc <= 2) measureRepaint(maker.strokes("", 10000, 100, 3, 3, 1).shapes, 64, rounds);
 }
