@@ -17,6 +17,7 @@ namespace {
 constexpr int arrowLength = 9;
 constexpr int halfArrowWidth = 9;
 constexpr int shadowReach = 7;
+constexpr int arrowDepth = 24;  // below the body's top, where there is room for it
 constexpr double radius = 8;
 
 QPainterPath outline(const QRectF& body, double arrowTip, bool arrowOnTheRight) {
@@ -73,7 +74,7 @@ void Popover::place() {
     const int left = isRightToLeft() ? anchor.left() - size.width() + shadowReach
                                      : anchor.right() + 1 - shadowReach;
     const int leastTop = -shadowReach + 2;
-    const int top = std::clamp(anchor.center().y() - size.height() / 3, leastTop,
+    const int top = std::clamp(anchor.center().y() - shadowReach - arrowDepth, leastTop,
                                std::max(leastTop, window()->height() - size.height()));
     setGeometry({{left, top}, size});
     arrowTip_ = anchor.center().y() + 0.5 - top;
