@@ -48,7 +48,11 @@ void MarlevoApp::openDocument() {
 
 void MarlevoApp::showSettings() {
     if (services_.preferences == nullptr) return;
-    if (!settings_) settings_ = new SettingsWindow(*this);
+    if (!settings_) {
+        settings_ = new SettingsWindow(*this);
+        if (const QWidget* const front = QApplication::activeWindow())
+            settings_->move(front->geometry().center() - QRect({}, settings_->sizeHint()).center());
+    }
     settings_->show();
     settings_->raise();
     settings_->activateWindow();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "model/CanvasSize.h"
+#include "ui/ProminentButton.h"
 #include "ui/TextLabel.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <functional>
 #include <optional>
@@ -56,7 +56,7 @@ private:
     QLineEdit customW_;
     QLineEdit customH_;
     TextLabel preview_;
-    QPushButton create_;
+    ProminentButton create_;
 };
 
 }  // namespace marlevo
