@@ -2,10 +2,10 @@
 
 #include "ui/Colors.h"
 #include "ui/ControlPainting.h"
+#include "ui/DesktopLook.h"
 #include "ui/QuickColors.h"
 #include "ui/SemanticColors.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
@@ -35,6 +35,8 @@ ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
     row->addStretch(1);
     addSwatches(*row);
     swatchesFollower_.refresh();
+    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this,
+            [this] { swatchesFollower_.refresh(); });
     connect(&well_, &ColorWell::colorChosen, this,
             [this](const Color& color) { document_.selectedColor = color; });
 }
@@ -72,11 +74,6 @@ void ColorRow::showSwatches() {
         const bool isSelected = swatch->color() == selected && !erases;
         swatch->showStanding(!isSelected ? other : fills ? same : inUse);
     }
-}
-
-void ColorRow::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) swatchesFollower_.refresh();
 }
 
 void ColorRow::paintEvent(QPaintEvent*) {

@@ -20,7 +20,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void addSwatches(QHBoxLayout& row);

@@ -13,6 +13,7 @@ namespace marlevo {
 namespace {
 
 constexpr int gap = 4;
+constexpr int leastHeight = 16;  // a line of small text alone is hard to hit
 constexpr double quarterTurn = 90;
 
 }  // namespace
@@ -22,7 +23,7 @@ DisclosureButton::DisclosureButton(const QString& name, const QList<QWidget*>& h
     : PaintedButton(name, parent), row_(new QHBoxLayout(this)) {
     row_->setContentsMargins(0, 0, 0, 0);
     row_->setSpacing(gap);
-    row_->addSpacing(iconSide(TypeStyle::caption2));
+    row_->addSpacing(iconSide(TypeStyle::caption2) + gap);
     for (QWidget* part : header) {
         part->setAttribute(Qt::WA_TransparentForMouseEvents);
         row_->addWidget(part);
@@ -43,9 +44,11 @@ void DisclosureButton::showOpening(double share) {
     update();
 }
 
-QSize DisclosureButton::sizeHint() const { return row_->sizeHint(); }
+QSize DisclosureButton::sizeHint() const { return row_->sizeHint().expandedTo({0, leastHeight}); }
 
-QSize DisclosureButton::minimumSizeHint() const { return row_->minimumSize(); }
+QSize DisclosureButton::minimumSizeHint() const {
+    return row_->minimumSize().expandedTo({0, leastHeight});
+}
 
 void DisclosureButton::paintContents(QPainter& painter) {
     const double side = iconSide(TypeStyle::caption2);

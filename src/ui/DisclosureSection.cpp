@@ -29,6 +29,9 @@ DisclosureSection::DisclosureSection(const QString& name, const QList<QWidget*>&
     clip_.installEventFilter(this);
     content_->installEventFilter(this);
 
+    (void)isMotionWanted();  // the desktop is asked now, so that the answer is there at the first
+                             // press
+
     const bool open = start == Start::open;
     button_.setOpen(open);
     opening_ = open ? 1 : 0;

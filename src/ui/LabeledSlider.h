@@ -26,9 +26,9 @@ Q_SIGNALS:
 
 private:
     Display display_;
+    ContinuousSlider slider_;
     TextLabel label_;
     TextLabel value_;
-    ContinuousSlider slider_;
 };
 
 }  // namespace marlevo

@@ -58,7 +58,7 @@ LayerRow::LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget
     row->addWidget(&thumbnail_);
     row->addWidget(&name_, 1);
     row->addWidget(&eye_);
-    row->addSpacing(dotSize);
+    row->addSpacing(spacing + dotSize);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(&eye_, &EyeButton::clicked, this, &LayerRow::visibilityToggled);
 }
@@ -74,7 +74,7 @@ void LayerRow::showLayer(const Layer& layer, bool isActive) {
 }
 
 QWidget* LayerRow::followInTabOrder(QWidget* previous) {
-    setTabOrder(previous, this);
+    if (previous) setTabOrder(previous, this);
     setTabOrder(this, &eye_);
     return &eye_;
 }

@@ -37,7 +37,8 @@ public:
 
     void showLayer(const Layer& layer, bool isActive);
 
-    /// Makes the row and its eye follow a widget when the user tabs; returns the last of them.
+    /// Makes the row and its eye follow a widget, if any, when the user tabs; returns the last of
+    /// them.
     QWidget* followInTabOrder(QWidget* previous);
 
     QSize sizeHint() const override;

@@ -15,6 +15,15 @@ constexpr int rowSpacing = 4;
 constexpr int buttonSpacing = 6;
 constexpr int listSpacing = 8;
 
+/// The widget outside `area` that the user tabs from into it; null when there is none.
+QWidget* stopBefore(const QWidget& area) {
+    QWidget* before = area.previousInFocusChain();
+    while (before != &area &&
+           (area.isAncestorOf(before) || !(before->focusPolicy() & Qt::TabFocus)))
+        before = before->previousInFocusChain();
+    return before == &area ? nullptr : before;
+}
+
 }  // namespace
 
 LayersSection::LayersSection(DrawingDocument& document, QWidget* parent)
@@ -97,7 +106,7 @@ LayerRow* LayersSection::makeRow(const Uuid& layerID) {
 }
 
 void LayersSection::putRowsInOrder() {
-    QWidget* previous = &list_;
+    QWidget* previous = stopBefore(list_);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         listLayout_->insertWidget(int(i), rows_[i]);
         previous = rows_[i]->followInTabOrder(previous);

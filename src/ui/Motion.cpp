@@ -1,12 +1,15 @@
 #include "ui/Motion.h"
 
+#include "platform/qt/MotionSetting.h"
+
 #include <QApplication>
 #include <QStyle>
 
 namespace marlevo {
 
 bool isMotionWanted() {
-    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    const int duration = QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration);
+    return duration > 0 && MotionSetting::instance().isMotionWanted();
 }
 
 }  // namespace marlevo

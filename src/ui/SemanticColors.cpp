@@ -20,7 +20,7 @@ constexpr std::array table{
     Row{SemanticColor::gray, 0xff8a8a90, 0xff98989e},
     Row{SemanticColor::primary, 0xff1c1c1e, 0xfff2f2f4},
     Row{SemanticColor::secondary, 0xff5a5a60, 0xffb6b6bc},
-    Row{SemanticColor::tertiary, 0xff65656c, 0xffa2a2a9},
+    Row{SemanticColor::tertiary, 0xff616168, 0xffaeaeb5},
     Row{SemanticColor::quaternaryFill, 0x0f000000, 0x1affffff},
     Row{SemanticColor::separator, 0x1f000000, 0x26ffffff},
     Row{SemanticColor::controlBackground, 0xffffffff, 0xff1e1e20},
@@ -62,7 +62,7 @@ QColor withOpacity(QColor color, double opacity) {
 }
 
 QPalette semanticPalette(SemanticColor background) {
-    QPalette palette = QGuiApplication::palette();
+    QPalette palette;
     const QColor text = semanticColor(SemanticColor::primary);
     palette.setColor(QPalette::Window, semanticColor(background));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text}) {

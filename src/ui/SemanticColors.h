@@ -35,13 +35,14 @@ Appearance appearanceOf(const QPalette& palette);
 QColor semanticColor(SemanticColor color, Appearance appearance);
 
 /// As the desktop's palette is now. To be asked for while painting: widgets are painted anew when
-/// the palette changes.
+/// the palette changes; what is kept must be renewed then (DesktopLook.h).
 QColor semanticColor(SemanticColor color);
 
 /// The colour at a share, from 0 to 1, of its own opacity.
 QColor withOpacity(QColor color, double opacity);
 
-/// The desktop's palette with the table's colours, for the standard controls among our own.
+/// The desktop's palette with the table's colours, for the standard controls among our own; to be
+/// set again when the desktop's changes.
 QPalette semanticPalette(SemanticColor background);
 
 }  // namespace marlevo

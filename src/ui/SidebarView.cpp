@@ -1,6 +1,7 @@
 #include "ui/SidebarView.h"
 
 #include "ui/ActionRow.h"
+#include "ui/DesktopLook.h"
 #include "ui/DisclosureSection.h"
 #include "ui/DrawingSection.h"
 #include "ui/FormsSection.h"
@@ -40,6 +41,7 @@ SidebarView::SidebarView(DrawingDocument& document, QWidget* parent)
     addSections(document);
     setWidget(column_);
     takeColors();
+    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this, &SidebarView::takeColors);
     verticalScrollBar()->installEventFilter(this);
     makeRoomForScrollBar();
 }
@@ -95,7 +97,6 @@ void SidebarView::makeRoomForScrollBar() {
 }
 
 bool SidebarView::event(QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange) takeColors();
     if (event->type() == QEvent::LayoutDirectionChange) makeRoomForScrollBar();
     return QScrollArea::event(event);
 }

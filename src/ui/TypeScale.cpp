@@ -1,7 +1,8 @@
 #include "ui/TypeScale.h"
 
+#include "ui/DesktopLook.h"
+
 #include <QApplication>
-#include <QEvent>
 #include <QFontInfo>
 #include <QWidget>
 
@@ -29,28 +30,6 @@ double sizeInProportion(TypeStyle style) {
     return 1;
 }
 
-/// Lives with a widget and gives it its font anew when the desktop's changes.
-class FontKeeper final : public QObject {
-public:
-    FontKeeper(QWidget& widget, TypeStyle style, QFont::Weight weight)
-        : QObject(&widget), widget_(widget), style_(style), weight_(weight) {
-        widget.installEventFilter(this);
-        apply();
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::ApplicationFontChange) apply();
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    void apply() { widget_.setFont(typeFont(style_, weight_)); }
-
-    QWidget& widget_;
-    TypeStyle style_;
-    QFont::Weight weight_;
-};
-
 }  // namespace
 
 QFont typeFont(TypeStyle style, QFont::Weight weight) {
@@ -65,12 +44,14 @@ QFont typeFont(TypeStyle style, QFont::Weight weight) {
 }
 
 int iconSide(TypeStyle style) {
-    // A sixth more than the text: as high as its tallest letters with their overshoot and air.
+    // A little more than the text, whose letters do not fill its height.
     return int(std::lround(QFontInfo(typeFont(style)).pixelSize() * 1.2));
 }
 
 void setTypeStyle(QWidget& widget, TypeStyle style, QFont::Weight weight) {
-    new FontKeeper(widget, style, weight);
+    const auto apply = [&widget, style, weight] { widget.setFont(typeFont(style, weight)); };
+    apply();
+    QObject::connect(&DesktopLook::instance(), &DesktopLook::fontChanged, &widget, apply);
 }
 
 }  // namespace marlevo

@@ -1,0 +1,110 @@
+#include "ui/RowShares.h"
+#include "ui/SemanticColors.h"
+#include "ui/TextLabel.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <cmath>
+#include <numeric>
+
+using namespace marlevo;
+
+namespace {
+
+double linear(float component) {
+    return component <= 0.04045F ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
+}
+
+/// Relative luminance as in WCAG 2.1.
+double luminance(const QColor& color) {
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor over(const QColor& top, const QColor& bottom) {
+    const auto mix = [&](float a, float b) { return top.alphaF() * a + (1 - top.alphaF()) * b; };
+    return QColor::fromRgbF(mix(top.redF(), bottom.redF()), mix(top.greenF(), bottom.greenF()),
+                            mix(top.blueF(), bottom.blueF()));
+}
+
+}  // namespace
+
+class LookTests : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textStandsOutOnEveryBackground() {
+        using enum SemanticColor;
+        for (const Appearance appearance : {Appearance::light, Appearance::dark}) {
+            const auto color = [&](SemanticColor which) {
+                return semanticColor(which, appearance);
+            };
+            for (const SemanticColor text : {primary, secondary, tertiary}) {
+                for (const SemanticColor background : {controlBackground, windowBackground}) {
+                    const QColor plain = color(background);
+                    QVERIFY(contrast(color(text), plain) >= 4.5);
+                    QVERIFY(contrast(color(text), over(color(quaternaryFill), plain)) >= 4.5);
+                    QVERIFY(contrast(color(text), over(withOpacity(color(gray), 0.06), plain)) >=
+                            4.5);
+                }
+                const QColor chosen =
+                    over(withOpacity(color(blue), 0.15), color(controlBackground));
+                QVERIFY(contrast(color(text), chosen) >= 4.5);
+            }
+            QVERIFY(contrast(Qt::white, color(blue)) >= 4.5);
+            QVERIFY(contrast(color(blue), color(controlBackground)) >= 3);
+        }
+    }
+
+    void aRowIsSharedEquallyUnlessALabelNeedsMore() {
+        const auto shares = [](std::vector<int> needs, int width) {
+            return rowShares(needs, width);
+        };
+        QCOMPARE(shares({10, 20, 30}, 100), (std::vector{33, 33, 34}));
+        QCOMPARE(shares({10, 20, 60}, 120), (std::vector{20, 30, 70}));
+        const auto tight = shares({50, 100, 50}, 101);
+        QCOMPARE(std::accumulate(tight.begin(), tight.end(), 0), 101);
+        QVERIFY(tight[1] > tight[0] && tight[0] >= 25);
+        QCOMPARE(shares({10, 20}, -5), (std::vector{0, 0}));
+    }
+
+    void aLabelIsShortenedOnlyWhenItDoesNotFit() {
+        TextLabel label("A rather long name of a layer", {TypeStyle::callout});
+        const auto inkRight = [&] {
+            const QImage image = label.grab().toImage();
+            int right = -1;
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 0; y < image.height(); ++y)
+                    if (image.pixelColor(x, y).lightness() < 150) right = x;
+            return right;
+        };
+        label.resize(label.sizeHint());
+        const int whole = inkRight();
+        QVERIFY(whole > label.width() - 6);
+        label.resize(label.width() / 2, label.height());
+        QVERIFY(inkRight() < label.width());
+        QVERIFY(label.minimumSizeHint().width() < label.width());
+    }
+
+    void textFollowsTheDesktopsFont() {
+        const QFont before = QApplication::font();
+        QWidget window;
+        TextLabel label("Layer", {TypeStyle::caption}, &window);
+        const double small = label.font().pointSizeF();
+        QVERIFY(small < before.pointSizeF());
+        QFont larger = before;
+        larger.setPointSizeF(before.pointSizeF() * 1.5);
+        QApplication::setFont(larger);
+        QTRY_COMPARE(label.font().pointSizeF(), small * 1.5);
+        QApplication::setFont(before);
+    }
+};
+
+QTEST_MAIN(LookTests)
+#include "LookTests.moc"

@@ -1,0 +1,368 @@
+#include "tests/ui/SidebarSetting.h"
+#include "ui/ColorSwatch.h"
+#include "ui/Colors.h"
+#include "ui/ExportPopover.h"
+#include "ui/LabeledSlider.h"
+#include "ui/LayerRow.h"
+#include "ui/ModeButton.h"
+#include "ui/SemanticColors.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QColorDialog>
+#include <QSignalSpy>
+
+using namespace marlevo;
+
+namespace {
+
+using P = DocumentProperty;
+
+template <typename Button>
+QStringList activeOf(SidebarSetting& s) {
+    QStringList names;
+    for (const Button* button : s.sidebar->findChildren<Button*>())
+        if (button->isActive()) names << button->accessibleName();
+    return names;
+}
+
+/// The names of the layers as listed, from the top.
+QStringList listed(SidebarSetting& s) {
+    QList<LayerRow*> rows = s.sidebar->findChildren<LayerRow*>();
+    rows.removeIf([](const LayerRow* row) { return row->isHidden(); });
+    std::sort(rows.begin(), rows.end(), [](auto* a, auto* b) { return a->y() < b->y(); });
+    QStringList names;
+    for (const LayerRow* row : rows)
+        names << row->accessibleName();
+    return names;
+}
+
+QColor pixel(QWidget& widget, QPoint at) { return widget.grab().toImage().pixelColor(at); }
+
+struct Flags {
+    bool eraser, fill, shape, dropper, select;
+    friend bool operator==(const Flags&, const Flags&) = default;
+};
+
+Flags flagsOf(const DrawingDocument& d) {
+    return {d.isEraser, d.isFillTool, d.isShapeTool, d.isEyeDropper, d.isSelectTool};
+}
+
+}  // namespace
+
+class SidebarTests : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aToolButtonChoosesItsToolAlone_data() {
+        QTest::addColumn<QList<bool>>("flags");
+        QTest::addColumn<int>("firstTold");
+        QTest::newRow("Draw") << QList{false, false, false, false, false} << int(P::isEraser);
+        QTest::newRow("Select") << QList{false, false, false, false, true} << int(P::isSelectTool);
+        QTest::newRow("Eraser") << QList{true, false, false, false, false} << int(P::isEraser);
+        QTest::newRow("Fill") << QList{false, true, false, false, false} << int(P::isFillTool);
+        QTest::newRow("Drop") << QList{false, false, false, true, false} << int(P::isEyeDropper);
+        QTest::newRow("Line") << QList{false, false, true, false, false} << int(P::isShapeTool);
+        QTest::newRow("Rectangle")
+            << QList{false, false, true, false, false} << int(P::isShapeTool);
+        QTest::newRow("Ellipse") << QList{false, false, true, false, false} << int(P::isShapeTool);
+    }
+    void aToolButtonChoosesItsToolAlone() {
+        QFETCH(QList<bool>, flags);
+        QFETCH(int, firstTold);
+        const QString name = QTest::currentDataTag();
+        SidebarSetting s;
+        DrawingDocument& d = s.document;
+        d.selectedLayerID = d.layers->front().id;
+        d.selectedStrokeIndex = 0;
+        // Every flag is set wrongly, so that every assignment is told.
+        d.isEraser = !flags[0];
+        d.isFillTool = !flags[1];
+        d.isShapeTool = !flags[2];
+        d.isEyeDropper = !flags[3];
+        d.isSelectTool = !flags[4];
+        std::vector<P> told;
+        Reader reader(d.changeRegistry(), [&](P property) { told.push_back(property); });
+        reader.observe([&] {
+            (void)flagsOf(d);
+            (void)d.selectedLayerID.get();
+        });
+
+        s.click(name);
+        QVERIFY(flagsOf(d) == (Flags{flags[0], flags[1], flags[2], flags[3], flags[4]}));
+        QCOMPARE(activeOf<ModeButton>(s), QStringList{name});
+        QCOMPARE(int(told.front()), firstTold);
+        const bool keepsSelection = name == "Select";
+        QCOMPARE(d.selectedLayerID->has_value(), keepsSelection);
+        QCOMPARE(d.selectedStrokeIndex->has_value(), keepsSelection);
+        QVERIFY(keepsSelection || told.back() == P::selectedLayerID);
+
+        // Pressed again, as a click and as assistive technology does it, it stays.
+        s.click(name);
+        s.get(name).toggle();
+        QCOMPARE(activeOf<ModeButton>(s), QStringList{name});
+        QCOMPARE(s.window.focusWidget(), s.field);
+    }
+
+    void activePrimaryButtonsAreBlueAndOthersTinted() {
+        SidebarSetting s;
+        const QPoint inside(8, 4);
+        const QColor blue = semanticColor(SemanticColor::blue);
+        QCOMPARE(pixel(s.get("Draw"), inside), blue);
+        s.click("Select");
+        const QColor tint = pixel(s.get("Select"), inside);
+        QVERIFY(pixel(s.get("Draw"), inside).lightness() > 240);
+        QVERIFY(tint != blue && tint.blue() > tint.red() + 20);
+    }
+
+    void swatchesShowHowTheyStandToTheSelectedColor() {
+        SidebarSetting s;
+        const auto inUse = [&] { return activeOf<ColorSwatch>(s); };
+        auto& black = s.get("Color black");
+        const auto edge = [&] { return pixel(black, {black.width() / 2, 1}); };
+        QCOMPARE(inUse(), QStringList{"Color black"});
+        const QColor blueEdge = edge();
+        QVERIFY(blueEdge.blue() > 150 && blueEdge.red() < 100);
+
+        s.click("Eraser");
+        QVERIFY(inUse().isEmpty());
+        const QColor thin = pixel(black, {black.width() / 2, 3});
+        s.document.isEraser = false;
+        s.document.isFillTool = true;
+        QVERIFY(inUse().isEmpty());
+        QVERIFY(edge() != blueEdge);
+        QCOMPARE(thin, QColor(Qt::black));
+
+        s.document.isShapeTool = true;
+        s.click("Color red");
+        QCOMPARE(inUse(), QStringList{"Color red"});
+        QCOMPARE(toQColor(s.document.selectedColor), semanticColor(SemanticColor::systemRed));
+        QVERIFY(!s.document.isFillTool && s.document.isShapeTool);
+        s.document.selectedColor = Color{1, 1, 1, 0.99};
+        QVERIFY(inUse().isEmpty());
+    }
+
+    void theColorWellRestsWhileToolsDoNotUseTheColor() {
+        SidebarSetting s;
+        auto& well = s.get("Color");
+        s.click("Color");
+        auto* panel = s.window.findChild<QColorDialog*>();
+        QVERIFY(panel && panel->isVisible() && !panel->isModal());
+        panel->setCurrentColor(QColor(10, 20, 30));
+        QCOMPARE(toQColor(s.document.selectedColor), QColor(10, 20, 30));
+        s.document.selectedColor = Color{0, 0.2, 1, 1};
+        QCOMPARE(panel->currentColor(), QColor(0, 51, 255));
+
+        s.document.isFillTool = true;
+        QVERIFY(!well.isEnabled());
+        QVERIFY(!panel->isVisible());
+        s.click("Eraser");
+        QVERIFY(!well.isEnabled());
+        s.click("Color green");
+        QVERIFY(well.isEnabled() && !s.document.isEraser);
+    }
+
+    void aSliderShowsItsValueTruncatedAndLeavesItAlone() {
+        SidebarSetting s;
+        auto& size = s.get<ContinuousSlider>("Size");
+        auto& opacity = s.get<ContinuousSlider>("Opacity");
+        s.document.lineWidth = 12.9;
+        s.document.brushOpacity = 0.355;
+        QCOMPARE(size.valueInWords(), "12px");
+        QCOMPARE(opacity.valueInWords(), "35%");
+        s.document.lineWidth = 50;
+        size.grab();
+        QCOMPARE(s.document.lineWidth.get(), 50.0);
+        QCOMPARE(s.document.brushOpacity.get(), 0.355);
+
+        auto* accessible = QAccessible::queryAccessibleInterface(&size);
+        QCOMPARE(accessible->role(), QAccessible::Slider);
+        accessible->valueInterface()->setCurrentValue(7.5);
+        QCOMPARE(s.document.lineWidth.get(), 7.5);
+        QTest::keyClick(&size, Qt::Key_Right);
+        QCOMPARE(s.document.lineWidth.get(), 8.0);
+        QTest::keyClick(&size, Qt::Key_Home);
+        QTest::keyClick(&size, Qt::Key_Left);
+        QCOMPARE(s.document.lineWidth.get(), 1.0);
+
+        s.document.brushOpacity = 1;
+        QStringList steps;
+        for (int i = 0; i < 18; ++i) {
+            QTest::keyClick(&opacity, Qt::Key_Down);
+            steps << opacity.valueInWords();
+        }
+        QCOMPARE(steps.mid(0, 3), (QStringList{"95%", "90%", "85%"}));
+        QCOMPARE(steps.last(), "10%");
+    }
+
+    void theKnobOfASliderFollowsThePointer() {
+        SidebarSetting s;
+        auto& size = s.get<ContinuousSlider>("Size");
+        const int middle = size.height() / 2;
+        QTest::mousePress(&size, Qt::LeftButton, {}, {size.width() / 2, middle});
+        QVERIFY(std::abs(s.document.lineWidth - 10.5) < 0.2);
+        // Grabbed off its centre, it does not jump.
+        QTest::mouseRelease(&size, Qt::LeftButton);
+        const double before = s.document.lineWidth;
+        QTest::mousePress(&size, Qt::LeftButton, {}, {size.width() / 2 + 5, middle});
+        QCOMPARE(s.document.lineWidth.get(), before);
+        QTest::mouseMove(&size, {size.width() + 50, middle});
+        QTRY_COMPARE(s.document.lineWidth.get(), 20.0);
+        QTest::mouseRelease(&size, Qt::LeftButton);
+        QCOMPARE(s.window.focusWidget(), s.field);
+    }
+
+    void theViewSectionFollowsTheDocument() {
+        SidebarSetting s;
+        s.click("Grid");
+        s.click("Transparent background");
+        QVERIFY(s.document.showGrid && s.document.backgroundIsTransparent);
+        s.document.showGrid = false;
+        QVERIFY(!s.get("Grid").isChecked());
+        s.click("Background color");
+        s.window.findChild<QColorDialog*>()->setCurrentColor(QColor(255, 0, 0, 51));
+        QVERIFY(s.document.backgroundColor == (Color{1, 0, 0, 0.2}));
+    }
+
+    void layersAreListedFromTheTopAndButtonsStopAtTheEnds() {
+        SidebarSetting s;
+        QVERIFY(!s.get("Add layer").isVisible());
+        s.openLayers();
+        const auto enabled = [&](const QString& name) { return s.get(name).isEnabled(); };
+        QVERIFY(!enabled("Delete layer") && !enabled("Move layer up") &&
+                !enabled("Move layer down"));
+        s.click("Add layer");
+        s.click("Add layer");
+        QTRY_COMPARE(listed(s), (QStringList{"Layer 3", "Layer 2", "Background"}));
+        QCOMPARE(activeOf<LayerRow>(s), QStringList{"Layer 3"});
+        QVERIFY(!enabled("Move layer up") && enabled("Move layer down") && enabled("Delete layer"));
+
+        s.click("Move layer down");
+        QTRY_COMPARE(listed(s), (QStringList{"Layer 2", "Layer 3", "Background"}));
+        QTest::mouseClick(&s.get<LayerRow>("Background"), Qt::LeftButton);
+        QCOMPARE(s.document.activeLayerIndex.get(), 0);
+        QVERIFY(enabled("Move layer up") && !enabled("Move layer down"));
+        s.click("Move layer up");
+        QTRY_COMPARE(listed(s), (QStringList{"Layer 2", "Background", "Layer 3"}));
+        s.click("Delete layer");
+        QTRY_COMPARE(listed(s), (QStringList{"Layer 2", "Layer 3"}));
+        QTRY_COMPARE(activeOf<LayerRow>(s), QStringList{"Layer 2"});
+
+        s.click("Hide layer: Layer 3");
+        QVERIFY(!s.document.layers->front().isVisible);
+        QCOMPARE(s.document.activeLayerIndex.get(), 1);
+        QCOMPARE(s.get("Show layer: Layer 3").toolTip(), "Show layer");
+        s.document.activeLayerIndex = 7;
+        QVERIFY(activeOf<LayerRow>(s).isEmpty());
+    }
+
+    void thumbnailsAreRenderedWhenTheyAreSeen() {
+        SidebarSetting s;
+        QCOMPARE(s.backgroundQueue.size(), std::size_t{0});
+        s.openLayers();
+        auto& thumbnail = s.get<LayerThumbnailView>("Background");
+        const QPoint middle(22, 16);
+        QVERIFY(pixel(thumbnail, middle) != QColor(Qt::white));
+        const auto render = [&] {
+            while (s.backgroundQueue.run() || s.mainQueue.run()) {
+            }
+        };
+        render();
+        QCOMPARE(pixel(thumbnail, middle), QColor(Qt::white));
+
+        s.document.lineWidth = 400;
+        s.document.beginStroke({0, 360});
+        s.document.addPointToStroke({1280, 360});
+        s.document.endStroke();
+        render();
+        QCOMPARE(pixel(thumbnail, middle), QColor(Qt::black));
+    }
+
+    void theExportPopoverClosesBeforeThePanelShows() {
+        SidebarSetting s;
+        s.click("Export");
+        QVERIFY(s.find<ExportPopover>("Export as"));
+        bool wasOpen = true;
+        connect(s.find<ExportPopover>("Export as"), &ExportPopover::formatChosen, this,
+                [&] { wasOpen = s.find<ExportPopover>("Export as")->isVisible(); });
+        s.click("TIFF");
+        QVERIFY(!wasOpen);
+        QVERIFY(s.panels.save.has_value());
+        QCOMPARE(s.panels.save->proposedName, std::string("Drawing-1280x720.tiff"));
+    }
+
+    void theExportPopoverGoesAtAPressElsewhereAndAtEscape() {
+        SidebarSetting s;
+        const auto isOpen = [&] { return s.find<ExportPopover>("Export as") != nullptr; };
+        s.click("Export");
+        auto& popover = s.get<ExportPopover>("Export as");
+        QVERIFY(popover.geometry().right() > s.get("Export").mapTo(&s.window, QPoint(28, 0)).x());
+        s.click("Eraser");
+        QTRY_VERIFY(!isOpen());
+        QVERIFY(!s.document.isEraser);
+
+        s.click("Export");
+        QTest::keyClick(s.window.focusWidget(), Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), "PNG");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!isOpen());
+        QCOMPARE(QApplication::focusWidget(), s.field);
+    }
+
+    void historyButtonsFollowTheHistoryAndSaveAsksForAFile() {
+        SidebarSetting s;
+        QVERIFY(!s.get("Undo").isEnabled() && !s.get("Redo").isEnabled());
+        s.document.addLayer();
+        s.click("Undo");
+        QVERIFY(!s.get("Undo").isEnabled() && s.get("Redo").isEnabled());
+        s.click("Redo");
+        QCOMPARE(s.document.layers->size(), std::size_t{2});
+        s.click("Save");
+        QVERIFY(s.panels.save.has_value());
+    }
+
+    void everyControlIsReachedByTab() {
+        SidebarSetting s;
+        s.openLayers();
+        s.document.addLayer();
+        QTRY_VERIFY(s.get("Layer 2").isVisible());
+        QStringList reached;
+        for (int i = 0; i < 60; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            const QString name = QApplication::focusWidget()->accessibleName();
+            if (reached.contains(name)) break;
+            if (!name.isEmpty()) reached << name;
+        }
+        const QStringList end{"Layers",
+                              "Layer 2",
+                              "Hide layer: Layer 2",
+                              "Background",
+                              "Hide layer: Background",
+                              "Add layer",
+                              "Delete layer",
+                              "Move layer down"};
+        QCOMPARE(reached.first(), "Undo");
+        QVERIFY(reached.contains("Size") && reached.contains("Color purple"));
+        QCOMPARE(reached.mid(reached.indexOf("Layers")), end);
+    }
+
+    void aDarkPaletteIsFollowedWhileTheProgramRuns() {
+        SidebarSetting s;
+        const QPalette before = QApplication::palette();
+        const QPoint corner(3, s.sidebar->height() - 3);
+        QCOMPARE(pixel(*s.sidebar, corner), QColor(Qt::white));
+        s.click("Color red");
+        QPalette dark = before;
+        dark.setColor(QPalette::Window, QColor(40, 40, 40));
+        QApplication::setPalette(dark);
+        QTRY_COMPARE(pixel(*s.sidebar, corner),
+                     semanticColor(SemanticColor::controlBackground, Appearance::dark));
+        // The drawing keeps its colour, which is none of the swatches' any more.
+        QVERIFY(activeOf<ColorSwatch>(s).isEmpty());
+        QApplication::setPalette(before);
+        QTRY_COMPARE(activeOf<ColorSwatch>(s), QStringList{"Color red"});
+    }
+};
+
+QTEST_MAIN(SidebarTests)
+#include "SidebarTests.moc"
