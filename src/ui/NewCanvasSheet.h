@@ -1,10 +1,10 @@
 #pragma once
 
 #include "model/CanvasSize.h"
+#include "ui/CheckBox.h"
 #include "ui/ProminentButton.h"
 #include "ui/TextLabel.h"
 
-#include <QCheckBox>
 #include <QLineEdit>
 
 #include <functional>
@@ -52,7 +52,7 @@ private:
     std::function<void()> dismiss_;
     std::optional<Uuid> selectedPresetID_;
     std::vector<PresetRow*> rows_;
-    QCheckBox useCustom_;
+    CheckBox useCustom_;
     QLineEdit customW_;
     QLineEdit customH_;
     TextLabel preview_;

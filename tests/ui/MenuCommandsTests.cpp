@@ -160,6 +160,12 @@ private Q_SLOTS:
         panel.open();
         RunningApp::activate(panel);
         QCOMPARE(s.app.focusedDocument().get(), &s.document);
+        QWidget completions(nullptr, Qt::Popup);
+        completions.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&completions));
+        QVERIFY(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() != nullptr; }));
+        QCOMPARE(s.app.focusedDocument().get(), &s.document);
+        completions.close();
         panel.close();
 
         s.app.showSettings();
