@@ -1,8 +1,6 @@
 #include "ui/ContentView.h"
 
-#include "ui/KeptPalette.h"
 #include "ui/NewCanvasSheet.h"
-#include "ui/SemanticColors.h"
 #include "ui/ZoomRange.h"
 
 #include <QApplication>
@@ -78,7 +76,6 @@ void ContentView::firstShown() {
 
 void ContentView::layOut() {
     setAutoFillBackground(true);
-    keepPalette(*this, [] { return semanticPalette(SemanticColor::windowBackground); });
 
     auto* drawing = new QWidget;
     auto* column = new QVBoxLayout(drawing);

@@ -3,6 +3,8 @@
 #include "ui/ContinuousSlider.h"
 #include "ui/DisclosureButton.h"
 #include "ui/LayerThumbnailView.h"
+#include "ui/NewCanvasSheet.h"
+#include "ui/StatusBar.h"
 
 #include <QAccessibleWidget>
 
@@ -69,6 +71,10 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
         return new AccessibleDisclosure(button);
     if (auto* thumbnail = qobject_cast<LayerThumbnailView*>(object))
         return new QAccessibleWidget(thumbnail, QAccessible::Graphic);
+    if (auto* sheet = qobject_cast<NewCanvasSheet*>(object))
+        return new QAccessibleWidget(sheet, QAccessible::Dialog);
+    if (auto* bar = qobject_cast<StatusBar*>(object))
+        return new QAccessibleWidget(bar, QAccessible::StatusBar);
     return nullptr;
 }
 

@@ -1,6 +1,8 @@
 #include "ui/DocumentWindow.h"
 
+#include "ui/KeptPalette.h"
 #include "ui/MarlevoApp.h"
+#include "ui/SemanticColors.h"
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -25,6 +27,7 @@ Services withPanels(Services services, FilePanels& panels) {
 DocumentWindow::DocumentWindow(MarlevoApp& app)
     : filePanels_(*this), content_(withPanels(app.services(), filePanels_), app.notifications()),
       menus_(app, this) {
+    keepPalette(*this, [] { return semanticPalette(SemanticColor::windowBackground); });
     setMenuBar(&menus_);
     setCentralWidget(&content_);
     setContextMenuPolicy(Qt::NoContextMenu);

@@ -48,7 +48,11 @@ void MarlevoApp::openDocument() {
 
 void MarlevoApp::showSettings() {
     if (services_.preferences == nullptr) return;
-    if (!settings_) settings_ = new SettingsWindow(*this);
+    if (!settings_) {
+        settings_ = new SettingsWindow(*this);
+        if (const QWidget* const front = QApplication::activeWindow())
+            settings_->move(front->geometry().center() - QRect({}, settings_->sizeHint()).center());
+    }
     settings_->show();
     settings_->raise();
     settings_->activateWindow();
@@ -59,9 +63,10 @@ void MarlevoApp::quit() {
     closeNextWindow();
 }
 
-/// A window's panels count as the window; the focus of another program changes nothing.
+/// A window's panels count as the window. The focus of another program changes nothing, nor does a
+/// popup, such as a field's list of completions, which need not know its window.
 void MarlevoApp::focusFollows(const QWindow* focused) {
-    if (focused == nullptr) return;
+    if (focused == nullptr || focused->type() == Qt::Popup) return;
     for (const QWindow* ancestor = focused; ancestor; ancestor = ancestor->transientParent())
         for (DocumentWindow* const window : documentWindows())
             if (window->windowHandle() == ancestor)

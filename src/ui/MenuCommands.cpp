@@ -28,8 +28,7 @@ void MenuCommands::addFileMenu() {
     QMenu& file = *addMenu(tr("&File"));
     addCommand(file, tr("New Window"), Qt::CTRL | Qt::SHIFT | Qt::Key_N,
                [this] { app_.openWindow(); });
-    newCanvas_ = &addCommand(file, tr("New Canvas…"), Qt::CTRL | Qt::Key_N,
-                             [this] { app_.notifications().post(notification::newCanvas); });
+    addNewCanvas(file);
     addCommand(file, tr("Open…"), Qt::CTRL | Qt::Key_O, [this] { app_.openDocument(); });
     file.addSeparator();
     addCommand(file, tr("Close"), Qt::CTRL | Qt::Key_W, [this] { window()->close(); });
@@ -76,8 +75,8 @@ void MenuCommands::addEditMenu() {
 
 void MenuCommands::addCanvasMenu() {
     QMenu& canvas = *addMenu(tr("&Canvas"));
-    // The same command at two places: two with one shortcut would be ambiguous, and neither ran.
-    canvas.addAction(newCanvas_);
+    // Both items show the shortcut and one has it: with two it would be ambiguous, and neither ran.
+    addNewCanvas(canvas).setShortcutContext(Qt::WidgetShortcut);
     canvas.addSeparator();
     addDocumentCommand(canvas, tr("Clear Active Layer"), Qt::CTRL | Qt::Key_K,
                        &DrawingDocument::clearActiveLayer);
@@ -96,6 +95,11 @@ void MenuCommands::addLayersMenu(QMenu& canvas) {
     addDocumentCommand(layers, tr("Delete Active Layer"), {}, deleteActiveLayer);
     addDocumentCommand(layers, tr("Move Layer Up"), {}, moveActiveLayerUp);
     addDocumentCommand(layers, tr("Move Layer Down"), {}, moveActiveLayerDown);
+}
+
+QAction& MenuCommands::addNewCanvas(QMenu& menu) {
+    return addCommand(menu, tr("New Canvas…"), Qt::CTRL | Qt::Key_N,
+                      [this] { app_.notifications().post(notification::newCanvas); });
 }
 
 QAction& MenuCommands::addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,

@@ -29,6 +29,7 @@ private:
     void addEditMenu();
     void addCanvasMenu();
     void addLayersMenu(QMenu& canvas);
+    QAction& addNewCanvas(QMenu& menu);
 
     /// A key held down runs a command once.
     QAction& addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
@@ -40,7 +41,6 @@ private:
     void followFocusedDocument();
 
     MarlevoApp& app_;
-    QAction* newCanvas_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     std::vector<QAction*> documentActions_;

@@ -136,8 +136,7 @@ QLayout* NewCanvasSheet::makeCustomSection() {
     const auto addField = [&](QLineEdit& field, const QString& name) {
         field.setPlaceholderText(name);
         field.setAccessibleName(name);
-        field.setMinimumWidth(fieldWidth);
-        field.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        field.setFixedWidth(fieldWidth);
         connect(&field, &QLineEdit::textChanged, this, &NewCanvasSheet::showState);
         fields->addWidget(&field);
     };
@@ -160,7 +159,6 @@ QLayout* NewCanvasSheet::makeFooter() {
     cancel->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Escape));
     cancel->setAutoDefault(true);
     connect(cancel, &QPushButton::clicked, this, [this] { dismiss_(); });
-    makeProminent(create_);
     create_.setAutoDefault(true);
     connect(&create_, &QPushButton::clicked, this, &NewCanvasSheet::createCanvas);
 

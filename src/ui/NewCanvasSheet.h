@@ -1,11 +1,11 @@
 #pragma once
 
 #include "model/CanvasSize.h"
+#include "ui/CheckBox.h"
+#include "ui/ProminentButton.h"
 #include "ui/TextLabel.h"
 
-#include <QCheckBox>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <functional>
 #include <optional>
@@ -52,11 +52,11 @@ private:
     std::function<void()> dismiss_;
     std::optional<Uuid> selectedPresetID_;
     std::vector<PresetRow*> rows_;
-    QCheckBox useCustom_;
+    CheckBox useCustom_;
     QLineEdit customW_;
     QLineEdit customH_;
     TextLabel preview_;
-    QPushButton create_;
+    ProminentButton create_;
 };
 
 }  // namespace marlevo

@@ -53,8 +53,7 @@ QSize PreferencesView::sizeHint() const { return leastSize.expandedTo(QWidget::s
 
 QLayout* PreferencesView::makeSizeRow() {
     for (NumberField* const field : {&width_, &height_}) {
-        field->setMinimumWidth(fieldWidth);
-        field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        field->setFixedWidth(fieldWidth);
     }
     auto* row = new QHBoxLayout;
     row->setSpacing(itemSpacing);

@@ -42,6 +42,8 @@ PresetRow::PresetRow(const CanvasSize::Preset& preset, QWidget* parent)
     // The sheet decides: choosing another way of giving the size leaves no row chosen.
     setAutoExclusive(false);
     setAttribute(Qt::WA_Hover);
+    // A click leaves the keys where they are.
+    setFocusPolicy(Qt::TabFocus);
     setTypeStyle(*this, TypeStyle::body);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

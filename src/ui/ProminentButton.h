@@ -1,10 +1,21 @@
 #pragma once
 
-class QPushButton;
+#include <QPushButton>
 
 namespace marlevo {
 
-/// Gives a button the look of the one that carries on: white on blue while it is enabled.
-void makeProminent(QPushButton& button);
+/// The button that carries on: white on blue while it is enabled.
+class ProminentButton final : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit ProminentButton(const QString& title, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
 
 }  // namespace marlevo

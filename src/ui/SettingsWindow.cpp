@@ -29,7 +29,6 @@ SettingsWindow::SettingsWindow(MarlevoApp& app) : preferences_(*app.services().p
         addAction(action);
     };
     addKey(Qt::CTRL | Qt::Key_W, [this] { close(); });
-    addKey(Qt::Key_Escape, [this] { close(); });
     addKey(Qt::CTRL | Qt::Key_Q, [&app] { app.quit(); });
 }
 

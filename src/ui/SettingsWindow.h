@@ -2,14 +2,14 @@
 
 #include "ui/PreferencesView.h"
 
-#include <QWidget>
+#include <QDialog>
 
 namespace marlevo {
 
 class MarlevoApp;
 
 /// The window of the user's settings. It does not keep the program from ending.
-class SettingsWindow final : public QWidget {
+class SettingsWindow final : public QDialog {
     Q_OBJECT
 
 public:

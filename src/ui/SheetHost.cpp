@@ -37,7 +37,6 @@ void SheetHost::setSheet(QWidget* sheet) {
     layOut();
     show();
     raise();
-    sheet->setFocus();
 }
 
 void SheetHost::dismiss() {
@@ -58,6 +57,11 @@ void SheetHost::layOut() {
     const QSize sheet = frame_.widget()->sizeHint().boundedTo(room);
     frame_.setGeometry(
         QRect(QPoint((width() - sheet.width()) / 2, (height() - sheet.height()) / 2), sheet));
+}
+
+// Not before: a window under construction forgets who has the keyboard.
+void SheetHost::showEvent(QShowEvent*) {
+    if (QWidget* const sheet = frame_.widget()) sheet->setFocus();
 }
 
 void SheetHost::paintEvent(QPaintEvent* event) {

@@ -1,11 +1,11 @@
 #include "ui/StatusBar.h"
 
 #include "ui/SemanticColors.h"
+#include "ui/SmallButton.h"
 #include "ui/ZoomRange.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPushButton>
 
 #include <numeric>
 #include <utility>
@@ -34,13 +34,6 @@ constexpr TextLabel::Look zoomNumber{TypeStyle::caption, QFont::Medium, Semantic
 constexpr TextLabel::Look layerName{TypeStyle::caption, QFont::Normal, SemanticColor::tertiary,
                                     TextLabel::Digits::proportional};
 
-QPushButton* smallButton(const QString& title) {
-    auto* button = new QPushButton(title);
-    button->setFocusPolicy(Qt::TabFocus);
-    setTypeStyle(*button, TypeStyle::caption);
-    return button;
-}
-
 qint64 strokeCount(const DrawingDocument& document) {
     return std::accumulate(document.layers->begin(), document.layers->end(), qint64{0},
                            [](qint64 sum, const Layer& layer) {
@@ -65,15 +58,15 @@ StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindo
     : QWidget(parent), document_(document), canvasSize_({}, numbers), strokeCount_({}, caption),
       zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}), zoomText_({}, zoomNumber),
       activeLayer_({}, layerName), follower_(document, [this] { showDocument(); }) {
-    QPushButton* const actualSize = smallButton(tr("100%"));
-    QPushButton* const fit = smallButton(tr("Fit"));
+    auto* const actualSize = new SmallButton(tr("100%"));
+    auto* const fit = new SmallButton(tr("Fit"));
     connect(&zoom_, &ContinuousSlider::moved, this, [this](double zoom) { document_.zoom = zoom; });
-    connect(actualSize, &QPushButton::clicked, this, [this] { document_.zoom = 1.0; });
-    connect(fit, &QPushButton::clicked, this, std::move(fitToWindow));
+    connect(actualSize, &SmallButton::clicked, this, [this] { document_.zoom = 1.0; });
+    connect(fit, &SmallButton::clicked, this, std::move(fitToWindow));
     layOut(actualSize, fit);
 }
 
-void StatusBar::layOut(QPushButton* actualSize, QPushButton* fit) {
+void StatusBar::layOut(QWidget* actualSize, QWidget* fit) {
     zoom_.setFixedWidth(sliderWidth);
     zoomText_.setMinimumWidth(zoomTextWidth);
     activeLayer_.setContentsMargins(nameIndent, 0, 0, 0);

@@ -9,8 +9,6 @@
 
 #include <functional>
 
-class QPushButton;
-
 namespace marlevo {
 
 /// What the catalogue says for a number of strokes: its entry "single_stroke" for exactly 1, else
@@ -35,7 +33,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void layOut(QPushButton* actualSize, QPushButton* fit);
+    void layOut(QWidget* actualSize, QWidget* fit);
     void showDocument();
 
     DrawingDocument& document_;

@@ -6,8 +6,10 @@ using namespace marlevo;
 
 namespace {
 
-/// A press and release as a keyboard sends them, through the window.
+/// A press and release as a keyboard sends them, through the window. A press at the very time of
+/// the last release would be a repeat.
 void type(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::qWait(2);
     QTest::keyClick(window.windowHandle(), key, modifiers);
 }
 

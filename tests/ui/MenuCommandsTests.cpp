@@ -63,6 +63,7 @@ private Q_SLOTS:
             const QString keys = action->shortcut().toString();
             if (keys.isEmpty()) continue;
             QVERIFY2(!action->autoRepeat(), qPrintable(action->text()));
+            if (action->shortcutContext() == Qt::WidgetShortcut) continue;
             QVERIFY2(!commandOf.contains(keys), qPrintable(keys));
             commandOf[keys] = action->text();
         }
@@ -159,6 +160,12 @@ private Q_SLOTS:
         panel.open();
         RunningApp::activate(panel);
         QCOMPARE(s.app.focusedDocument().get(), &s.document);
+        QWidget completions(nullptr, Qt::Popup);
+        completions.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&completions));
+        QVERIFY(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() != nullptr; }));
+        QCOMPARE(s.app.focusedDocument().get(), &s.document);
+        completions.close();
         panel.close();
 
         s.app.showSettings();

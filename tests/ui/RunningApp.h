@@ -26,6 +26,7 @@ struct RunningApp {
     DocumentWindow& openWindow() {
         DocumentWindow& opened = app.openWindow();
         opened.content().setShowNewCanvas(false);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         activate(opened);
         return opened;
     }

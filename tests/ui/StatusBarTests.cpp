@@ -1,7 +1,7 @@
 #include "tests/ui/RunningApp.h"
+#include "ui/SmallButton.h"
 #include "ui/ZoomRange.h"
 
-#include <QPushButton>
 #include <QTranslator>
 
 using namespace marlevo;
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(s.document.zoom.get(), 0.49375);
         slider.moveTo(7);
         QCOMPARE(s.document.zoom.get(), maxZoom);
-        button<QPushButton>(s.window, "100%").click();
+        button<SmallButton>(s.window, "100%").click();
         QCOMPARE(s.document.zoom.get(), 1.0);
     }
 
@@ -67,7 +67,7 @@ private Q_SLOTS:
         RunningApp s;
         const auto fitted = [&](CanvasSize canvas) {
             s.document.canvasSize = canvas;
-            button<QPushButton>(s.window, "Fit").click();
+            button<SmallButton>(s.window, "Fit").click();
             return s.document.zoom.get();
         };
         QCOMPARE(fitted({100, 100}), maxZoom);
