@@ -25,7 +25,7 @@ void HelpMenu::showShortcuts(const QMenuBar& menus) {
 }
 
 void HelpMenu::showAbout() {
-    auto* about = new QMessageBox(window());
+    auto* about = new QMessageBox(parentWidget()->window());
     about->setAttribute(Qt::WA_DeleteOnClose);
     about->setWindowTitle(tr("About Marlevo"));
     about->setIconPixmap(applicationIcon().pixmap(64));
