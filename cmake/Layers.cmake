@@ -3,7 +3,7 @@ add_library(marlevo_flags INTERFACE)
 target_include_directories(marlevo_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(marlevo_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
-  # gcc 12 finds overlaps in std::string's own operator+ that are none.
+  # gcc 12 finds overlaps and overflows in std::string's own operators that are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   # A product must round the same on every machine: no fused multiply-add behind our back.
   -ffp-contract=off

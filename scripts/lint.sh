@@ -4,7 +4,7 @@ set -euo pipefail
 "$(dirname "$0")/setup.sh" build test lint
 . "$(dirname "$0")/common.sh"
 
-mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'fuzz/*.cpp')
+mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'fuzz/*.cpp' 'pictures/*.cpp')
 clang-format --dry-run --Werror "${sources[@]}"
 
 # A folder may include its own headers and those of the floors below it.
