@@ -4,7 +4,7 @@ target_include_directories(marlevo_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(marlevo_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
   # gcc 12 finds overlaps and overflows in std::string's own operators that are none.
-  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-stringop-overflow>
   # A product must round the same on every machine: no fused multiply-add behind our back.
   -ffp-contract=off
   $<$<BOOL:${MARLEVO_WERROR}>:-Werror>)
@@ -12,7 +12,7 @@ if(MARLEVO_SANITIZE)
   target_compile_options(marlevo_flags INTERFACE
     -fsanitize=${MARLEVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
     # gcc's flow analysis loses its way in instrumented code and finds uses of what is not there.
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized -Wno-stringop-overflow>)
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(marlevo_flags INTERFACE -fsanitize=${MARLEVO_SANITIZE})
 endif()
 
