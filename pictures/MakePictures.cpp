@@ -7,6 +7,7 @@
 #include "tests/ui/Pointer.h"
 #include "ui/DocumentWindow.h"
 #include "ui/MarlevoApp.h"
+#include "ui/Translations.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -71,7 +72,7 @@ public:
         pen({0.55, 0.69, 0.88, 1}, 3);
         click({640, 405});
         pen({0.44, 0.72, 0.56, 1}, 3);
-        click({640, 520});
+        click({640, 480});
         pen({0.26, 0.54, 0.38, 1}, 3);
         click({640, 680});
         pen({0.99, 0.91, 0.78, 1}, 3);
@@ -130,6 +131,7 @@ QPalette darkPalette() {
 int main(int argc, char* argv[]) {
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
+    const Translations translations;
     const QDir folder(application.arguments().value(1, QStringLiteral(".")));
 
     QtMainQueue mainQueue;

@@ -47,7 +47,7 @@ std::vector<std::uint8_t> DeflateStream::finish() {
 }
 
 void DeflateStream::run(std::span<const std::uint8_t> bytes, int flush) {
-    std::array<std::uint8_t, std::size_t{1} << 15> chunk;
+    std::array<std::uint8_t, std::size_t{1} << 15> chunk{};
     z_stream& stream = compressor_->stream;
     // zlib does not write through its input pointer.
     stream.next_in = const_cast<Bytef*>(bytes.data());

@@ -73,8 +73,8 @@ private:
         JsonText text;
     };
 
-    static constexpr std::size_t partLength = 512 * 1024;
-    static constexpr std::size_t pieceLength = 64 * 1024;
+    static constexpr std::size_t partLength = std::size_t{512} * 1024;
+    static constexpr std::size_t pieceLength = std::size_t{64} * 1024;
 
     void add(std::size_t length, Piece piece) {
         if (parts_.empty() || parts_.back().length >= partLength) parts_.emplace_back();

@@ -64,7 +64,7 @@ Decimal shortestDecimal(double number) {
         return static_cast<std::uint64_t>(product >> shift) | (remainder != 0 ? 1 : 0);
     };
     const uint128 scale = powersOfTen[decimals];
-    const uint128 product = 4 * significand * scale;
+    const uint128 product = uint128{4} * significand * scale;
     const std::uint64_t value = quarters(product);
     // An odd significand loses a tie against its even neighbour, so its bounds are not its own.
     const std::uint64_t margin = significand & 1;

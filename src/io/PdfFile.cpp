@@ -36,7 +36,7 @@ std::vector<std::uint8_t> PdfFile::finish(Object catalog) {
     const std::string count = std::to_string(offsets_.size() + 1);
     append("xref\n0 " + count + "\n0000000000 65535 f \n");
     for (const std::size_t offset : offsets_) {
-        std::array<char, 32> line;
+        std::array<char, 32> line{};
         std::snprintf(line.data(), line.size(), "%010zu 00000 n \n", offset);
         append(line.data());
     }
@@ -57,7 +57,7 @@ void PdfFile::append(std::string_view text) {
 }
 
 void appendPdfNumber(std::string& text, double value) {
-    std::array<char, 32> digits;
+    std::array<char, 32> digits{};
     char* end = digits.data();
     auto thousandths = static_cast<std::int64_t>(value * 1000 + (value < 0 ? -0.5 : 0.5));
     if (thousandths < 0) {
@@ -77,7 +77,7 @@ void appendPdfNumber(std::string& text, double value) {
 
 void appendExactPdfNumber(std::string& text, double value) {
     // The longest are the smallest: 324 zeros and 17 digits.
-    std::array<char, 400> digits;
+    std::array<char, 400> digits{};
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value,
                                       std::chars_format::fixed);
     text.append(digits.data(), result.ptr);
