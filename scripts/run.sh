@@ -28,5 +28,5 @@ run_and_picture() {
     fi
 }
 export picture
-export -f run_and_picture
-with_display bash -ec run_and_picture
+# By its text: the shell between here and the virtual screen does not hand functions on.
+with_display bash -ec "$(declare -f run_and_picture); run_and_picture"
