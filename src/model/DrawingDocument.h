@@ -27,6 +27,8 @@ struct StrokeData;
 /// Used on the user-interface thread only. Operations never report errors: an invalid index, an
 /// absent selection or an empty history changes nothing. Each property publishes its own changes to
 /// the readers that read it (Property.h).
+/// A reader that is told in the middle of an operation must not change `layers`: operations do not
+/// look at them again after each step.
 ///
 /// Declared here as a whole; an operation is defined in the folder of its subsystem, as the group
 /// comments say.
