@@ -55,7 +55,6 @@ CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     installCanvasAccessibility();
     setAcceptDrops(true);
     setAccessibleName(tr("Canvas"));
-    setAccessibleDescription(tr("The drawing. Press and drag to draw with the chosen tool."));
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
