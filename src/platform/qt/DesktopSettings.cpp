@@ -4,7 +4,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QPointer>
 
 #include <utility>
@@ -53,7 +53,7 @@ DesktopSettings::DesktopSettings(QObject* parent) : QObject(parent) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return;
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
+                SLOT(settingChanged(QDBusMessage)));
     ask(motion.group, motion.key);
     ask(scheme.group, scheme.key);
 }
@@ -64,15 +64,19 @@ void DesktopSettings::ask(const QString& group, const QString& key) {
     read << group << key;
     auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(read), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, group, key] {
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (!reply.isError()) settingChanged(group, key, reply.value());
+        const QDBusMessage reply = answer->reply();
+        if (!answer->isError()) take(group, key, reply.arguments().value(0));
         answer->deleteLater();
     });
 }
 
-void DesktopSettings::settingChanged(const QString& group, const QString& key,
-                                     const QDBusVariant& value) {
-    const QVariant wanted = unwrapped(value.variant());
+void DesktopSettings::settingChanged(const QDBusMessage& message) {
+    const QVariantList arguments = message.arguments();
+    if (arguments.size() == 3) take(arguments[0].toString(), arguments[1].toString(), arguments[2]);
+}
+
+void DesktopSettings::take(const QString& group, const QString& key, const QVariant& value) {
+    const QVariant wanted = unwrapped(value);
     if (Setting{group, key} == motion && wanted.typeId() == QMetaType::Bool)
         isMotionWanted_ = wanted.toBool();
     if (Setting{group, key} == scheme && wanted.typeId() == QMetaType::UInt) {

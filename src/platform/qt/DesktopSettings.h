@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 
 namespace marlevo {
@@ -26,11 +26,12 @@ Q_SIGNALS:
     void colorSchemeChanged();
 
 private Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void settingChanged(const QDBusMessage& message);
 
 private:
     explicit DesktopSettings(QObject* parent);
     void ask(const QString& group, const QString& key);
+    void take(const QString& group, const QString& key, const QVariant& value);
 
     bool isMotionWanted_ = true;
     ColorScheme colorScheme_ = ColorScheme::any;
