@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|fuzz|pictures]...
+# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|sanitize|pictures]...
 # Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
 set -euo pipefail
 
@@ -17,7 +17,7 @@ for purpose in "${@:-build}"; do
         bench) wanted+=("${build[@]}" libbenchmark-dev) ;;
         pictures) wanted+=("${virtual_display[@]}") ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
-        fuzz)  wanted+=(cmake ninja-build libhwy-dev libsimdjson-dev libcairo2-dev pkg-config clang) ;;
+        sanitize) wanted+=("${build[@]}" libgtest-dev libgmock-dev clang libclang-rt-dev) ;;
         *) echo "setup.sh: no purpose named '$purpose'" >&2; exit 2 ;;
     esac
 done
