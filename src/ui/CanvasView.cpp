@@ -89,6 +89,9 @@ void CanvasView::updateWhatChanged() {
             update();
         }
         updateOverlay();
+        // Spares painting all that lies below, where the canvas does not end within a point.
+        setAttribute(Qt::WA_OpaquePaintEvent,
+                     displaySize(document_.canvasSize, document_.zoom) == QSizeF(size()));
     });
 }
 
@@ -136,8 +139,11 @@ void CanvasView::updateDevicePixels(const QRectF& area) {
 
 void CanvasView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    for (const QRect& exposed : event->region())
+    const bool hasDesk = testAttribute(Qt::WA_OpaquePaintEvent);
+    for (const QRect& exposed : event->region()) {
+        if (hasDesk) painter.fillRect(exposed, palette().window());
         paintPicture(painter, exposed);
+    }
     if (document_.isEyeDropper)
         paintIcon(painter, Icon::eyedropper, eyeDropperPlace(),
                   withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
