@@ -19,7 +19,8 @@ Translations::Translations() {
     const bool isLoaded = program_.load(user, program, separator, folder) ||
                           program_.load(program + QLatin1String("_en"), folder);
     if (isLoaded) QCoreApplication::installTranslator(&program_);
-    if (toolkit_.load(user, QStringLiteral("qtbase"), separator,
+    // Not in the user's language: windows in two languages are worse than windows in a foreign one.
+    if (toolkit_.load(QLocale(program_.language()), QStringLiteral("qtbase"), separator,
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&toolkit_);
 }
