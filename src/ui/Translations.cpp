@@ -11,6 +11,21 @@ namespace {
 constexpr auto separator = "_";
 constexpr auto folder = ":/translations";
 
+// What the toolkit's dialogs say and its own catalogues lack in some of our languages.
+[[maybe_unused]] constexpr const char* textsOfTheToolkit[] = {
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Drive"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Folder"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Double Sided Printing"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Long side binding"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Off"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Pages"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Short side binding"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput",
+                      "Specify pages or ranges separated by commas. Ranges are specified by two "
+                      "numbers separated "
+                      "by a hyphen. E.g: 3,5-7,9 prints pages 3, 5, 6, 7 and 9."),
+};
+
 }  // namespace
 
 Translations::Translations() {
