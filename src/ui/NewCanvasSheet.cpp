@@ -146,7 +146,9 @@ QLayout* NewCanvasSheet::makeCustomSection() {
     fields->addStretch(1);
 
     auto* section = new QVBoxLayout;
-    section->setContentsMargins(padding, padding, padding, padding);
+    // The fields stand below the box itself.
+    fields->setContentsMargins(CheckBox::focusRoom, 0, 0, 0);
+    section->setContentsMargins(padding - CheckBox::focusRoom, padding, padding, padding);
     section->setSpacing(itemSpacing);
     section->addWidget(&useCustom_);
     section->addLayout(fields);
