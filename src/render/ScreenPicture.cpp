@@ -52,7 +52,7 @@ std::optional<std::vector<IntRect>> ScreenPicture::takeChanges(const DrawingDocu
                                                                double scale) {
     follow(document, scale);
     std::vector<IntRect> changes;
-    tiles_.forEachKnownTile([&](TileCache::Tile& tile) {
+    tiles_.forEachKnownTile([&](Tile& tile) {
         const IntRect changed = std::exchange(tile.changed, {});
         if (!changed.isEmpty()) changes.push_back(changed);
     });
@@ -64,8 +64,8 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
                           const PixelBuffer& target) {
     follow(document, scale);
     if (!canBeShown(scale) || target.area.isEmpty()) return;
-    tiles_.forEachTile(target.area, [&](TileCache::Tile& tile) {
-        const PixelBuffer pixels = tile.buffer();
+    tiles_.forEachTile(target.area, [&](Tile& tile) {
+        const PixelBuffer pixels = tile.pixels();
         if (!tile.stale.isEmpty()) render(document, partOf(pixels, std::exchange(tile.stale, {})));
         copyPixels(pixels, target, tile.area.intersectedWith(target.area));
     });
@@ -73,7 +73,7 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
 }
 
 void ScreenPicture::limitMemory(const IntRect& inSight) {
-    if (tiles_.bytes() > maxCachedBytes) tiles_.dropTilesOutside(inSight);
+    if (tiles_.size() * tileBytes > maxCachedBytes) tiles_.dropTilesOutside(inSight);
 }
 
 void ScreenPicture::releaseMemory() {
@@ -106,32 +106,34 @@ void ScreenPicture::showDifference(const LayerList& after, const DrawingDocument
         markChanged(area);
     }
     for (const Stroke* stroke : difference.drawnOver) {
-        drawOver(*stroke);
-        if (!isJoining) markChanged(paintedArea(*stroke, contents_.scale));
+        const IntRect area = paintedArea(*stroke, contents_.scale);
+        paintOver(area, [&](const PixelBuffer& part) {
+            if (isJoining) return strokeInProgress_.paint(part);
+            BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+            drawOnScreen(context, *stroke);
+        });
+        if (!isJoining) markChanged(area);
     }
     const IntRect area = strokeInProgress_.update(inProgress, contents_.scale);
     if (!isJoining) markChanged(area);
 }
 
 void ScreenPicture::markStale(const IntRect& area) {
-    tiles_.forEachKnownTile(area, [&](TileCache::Tile& tile) {
+    tiles_.forEachKnownTile(area, [&](Tile& tile) {
         tile.stale = tile.stale.unitedWith(area.intersectedWith(tile.area));
     });
 }
 
 void ScreenPicture::markChanged(const IntRect& area) {
-    tiles_.forEachKnownTile(area, [&](TileCache::Tile& tile) {
+    tiles_.forEachKnownTile(area, [&](Tile& tile) {
         tile.changed = tile.changed.unitedWith(area.intersectedWith(tile.area));
     });
 }
 
-void ScreenPicture::drawOver(const Stroke& stroke) {
-    const IntRect area = paintedArea(stroke, contents_.scale);
-    tiles_.forEachKnownTile(area, [&](TileCache::Tile& tile) {
-        const PixelBuffer part = partOf(tile.buffer(), area.intersectedWith(tile.area));
-        BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-        drawOnScreen(context, stroke);
-    });
+template <typename Paint>
+void ScreenPicture::paintOver(const IntRect& area, Paint paint) {
+    tiles_.forEachKnownTile(
+        area, [&](Tile& tile) { paint(partOf(tile.pixels(), area.intersectedWith(tile.area))); });
 }
 
 void ScreenPicture::render(const DrawingDocument& document, const PixelBuffer& part) const {

@@ -2,10 +2,12 @@
 
 #include "graphics/Color.h"
 #include "graphics/PixelBuffer.h"
+#include "graphics/TileMap.h"
 #include "model/DrawingDocument.h"
 #include "render/StrokeInProgress.h"
-#include "render/TileCache.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -54,16 +56,33 @@ private:
         bool isSameView(const Contents& other) const;
     };
 
+    struct Tile {
+        explicit Tile(const IntRect& place) : area(place), stale(place), bytes(tileBytes) {}
+
+        PixelBuffer pixels() {
+            return {bytes.data(), std::ptrdiff_t{tileSide} * 4, area, PixelOrder::bgra};
+        }
+
+        IntRect area;
+        IntRect stale;    ///< the part that must be painted before it is used; all at first
+        IntRect changed;  ///< the part to be reported as looking other than before
+        std::vector<std::uint8_t> bytes;
+    };
+
+    static constexpr int tileSide = 256;
+    static constexpr std::size_t tileBytes = std::size_t{tileSide} * tileSide * 4;
+
     void follow(const DrawingDocument& document, double scale);
     void showDifference(const LayerList& after, const DrawingDocument& document);
     void markStale(const IntRect& area);
     void markChanged(const IntRect& area);
-    void drawOver(const Stroke& stroke);
+    template <typename Paint>
+    void paintOver(const IntRect& area, Paint paint);
     void render(const DrawingDocument& document, const PixelBuffer& part) const;
 
     Color gridColor_;
     Contents contents_;
-    TileCache tiles_;
+    TileMap<Tile, tileSide> tiles_;
     StrokeInProgress strokeInProgress_;
     bool isAllChanged_ = true;
 };
