@@ -2,11 +2,14 @@
 
 #include "graphics/BitmapContext.h"
 #include "model/DecodedImages.h"
+#include "platform/ParallelFor.h"
 #include "render/DrawOnScreen.h"
 #include "render/Grid.h"
+#include "render/LayerRun.h"
 #include "render/PaintedArea.h"
 #include "render/PictureDifference.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <utility>
@@ -14,11 +17,6 @@
 namespace marlevo {
 
 namespace {
-
-/// The same pixels, of which only the part `area` may be touched.
-PixelBuffer partOf(const PixelBuffer& whole, const IntRect& area) {
-    return {whole.pixel(area.left, area.top), whole.stride, area, whole.order};
-}
 
 void copyPixels(const PixelBuffer& from, const PixelBuffer& to, const IntRect& area) {
     const std::size_t rowBytes = static_cast<std::size_t>(area.width()) * 4;
@@ -32,6 +30,34 @@ void clearPixels(const PixelBuffer& part) {
         std::memset(part.pixel(part.area.left, y), 0,
                     static_cast<std::size_t>(part.area.width()) * 4);
     }
+}
+
+Rect onCanvas(const IntRect& area, double scale) {
+    return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
+}
+
+/// Areas of fewer pixels are painted faster than another thread wakes up.
+constexpr int leastPixelsToShare = 1 << 14;
+
+/// Takes few areas apart so that each core gets some of them; not many, since strokes that lie in
+/// two pieces are prepared twice.
+std::vector<PixelBuffer> cutForAllCores(const std::vector<PixelBuffer>& areas) {
+    constexpr int enough = 4;
+    constexpr int leastRows = 32;
+    int pixels = 0;
+    for (const PixelBuffer& part : areas)
+        pixels += part.area.width() * part.area.height();
+    if (std::ssize(areas) >= enough || pixels < leastPixelsToShare) return areas;
+    std::vector<PixelBuffer> pieces;
+    const int pixelsOfPiece = pixels / enough;
+    for (const PixelBuffer& part : areas) {
+        const int rows = std::max(pixelsOfPiece / part.area.width(), leastRows);
+        for (IntRect piece = part.area; piece.top < part.area.bottom; piece.top = piece.bottom) {
+            piece.bottom = std::min(piece.top + rows, part.area.bottom);
+            pieces.push_back(part.part(piece));
+        }
+    }
+    return pieces;
 }
 
 bool canBeShown(double scale) { return scale > 0 && std::isfinite(scale); }
@@ -64,10 +90,9 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
                           const PixelBuffer& target) {
     follow(document, scale);
     if (!canBeShown(scale) || target.area.isEmpty()) return;
-    tiles_.forEachTile(target.area, [&](Tile& tile) {
-        const PixelBuffer pixels = tile.pixels();
-        if (!tile.stale.isEmpty()) render(document, partOf(pixels, std::exchange(tile.stale, {})));
-        copyPixels(pixels, target, tile.area.intersectedWith(target.area));
+    renderStaleTiles(document, target.area);
+    tiles_.forEachKnownTile(target.area, [&](Tile& tile) {
+        copyPixels(tile.pixels(), target, tile.area.intersectedWith(target.area));
     });
     strokeInProgress_.paint(target);
 }
@@ -133,30 +158,48 @@ void ScreenPicture::markChanged(const IntRect& area) {
 template <typename Paint>
 void ScreenPicture::paintOver(const IntRect& area, Paint paint) {
     tiles_.forEachKnownTile(
-        area, [&](Tile& tile) { paint(partOf(tile.pixels(), area.intersectedWith(tile.area))); });
+        area, [&](Tile& tile) { paint(tile.pixels().part(area.intersectedWith(tile.area))); });
 }
 
-void ScreenPicture::render(const DrawingDocument& document, const PixelBuffer& part) const {
+void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntRect& area) {
+    std::vector<PixelBuffer> stale;
+    tiles_.forEachTile(area, [&](Tile& tile) {
+        if (!tile.stale.isEmpty()) stale.push_back(tile.pixels().part(tile.stale));
+        tile.stale = {};
+    });
+    if (stale.empty()) return;
+
+    const std::vector<PixelBuffer> parts = cutForAllCores(stale);
+    const auto paint = [&](const auto& paintPart) {
+        parallelFor(parts.size(), [&](std::size_t i) { paintPart(parts[i]); });
+    };
+    paint([&](const PixelBuffer& part) { renderBackground(part); });
+    const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
+    forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
+        paint([&](const PixelBuffer& part) { renderLayers(run, part); });
+    });
+}
+
+void ScreenPicture::renderBackground(const PixelBuffer& part) const {
     clearPixels(part);
-    const double scale = contents_.scale;
-    const CanvasSize canvas = contents_.canvasSize;
-    const Rect canvasRect{{0, 0}, {canvas.width, canvas.height}};
-    const Rect visible{{part.area.left / scale, part.area.top / scale},
-                       {part.area.width() / scale, part.area.height() / scale}};
-    BitmapContext context(part, DeviceFrame::yDown(scale));
-    context.fillRect(canvasRect, contents_.background);
+    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    context.fillRect(contents_.canvasRect(), contents_.background);
     if (contents_.hasGrid) {
-        context.fillPath(gridPath(canvas, visible), gridColor_);
+        context.fillPath(gridPath(contents_.canvasSize, onCanvas(part.area, contents_.scale)),
+                         gridColor_);
     }
-    for (const Layer& layer : contents_.layers) {
-        if (!layer.isVisible) continue;
-        if (layer.imageData) {
-            if (const auto image = document.decodedImages().image(*layer.imageData)) {
-                context.setAlpha(layer.opacity);
-                context.drawImage(*image, canvasRect);
-            }
-        }
-        layer.strokes.visit(
+}
+
+void ScreenPicture::renderLayers(const LayerRun& run, const PixelBuffer& part) const {
+    const double scale = contents_.scale;
+    const Rect visible = onCanvas(part.area, scale);
+    BitmapContext context(part, DeviceFrame::yDown(scale));
+    if (run.image) {
+        context.setAlpha(run.layers.front()->opacity);
+        context.drawImage(*run.image, contents_.canvasRect());
+    }
+    for (const Layer* layer : run.layers) {
+        layer->strokes.visit(
             [&](const StrokeSummary& strokes) {
                 return strokes.reaches(visible, strokes.maxLineWidth / 2 + penFringe / scale);
             },

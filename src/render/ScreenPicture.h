@@ -8,10 +8,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace marlevo {
+
+struct LayerRun;
 
 /// The document's picture as its window shows it: background, grid, layers and the stroke in
 /// progress, at device resolution.
@@ -54,19 +57,22 @@ private:
 
         static Contents of(const DrawingDocument& document, double scale);
         bool isSameView(const Contents& other) const;
+        Rect canvasRect() const { return {{0, 0}, {canvasSize.width, canvasSize.height}}; }
     };
 
     struct Tile {
-        explicit Tile(const IntRect& place) : area(place), stale(place), bytes(tileBytes) {}
+        explicit Tile(const IntRect& place)
+            : area(place), stale(place),
+              bytes(std::make_unique_for_overwrite<std::uint8_t[]>(tileBytes)) {}
 
         PixelBuffer pixels() {
-            return {bytes.data(), std::ptrdiff_t{tileSide} * 4, area, PixelOrder::bgra};
+            return {bytes.get(), std::ptrdiff_t{tileSide} * 4, area, PixelOrder::bgra};
         }
 
         IntRect area;
         IntRect stale;    ///< the part that must be painted before it is used; all at first
         IntRect changed;  ///< the part to be reported as looking other than before
-        std::vector<std::uint8_t> bytes;
+        std::unique_ptr<std::uint8_t[]> bytes;
     };
 
     static constexpr int tileSide = 256;
@@ -78,7 +84,9 @@ private:
     void markChanged(const IntRect& area);
     template <typename Paint>
     void paintOver(const IntRect& area, Paint paint);
-    void render(const DrawingDocument& document, const PixelBuffer& part) const;
+    void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
+    void renderBackground(const PixelBuffer& part) const;
+    void renderLayers(const LayerRun& run, const PixelBuffer& part) const;
 
     Color gridColor_;
     Contents contents_;
