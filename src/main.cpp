@@ -11,6 +11,7 @@
 #include "platform/qt/QtStrings.h"
 #include "ui/Icons.h"
 #include "ui/MarlevoApp.h"
+#include "ui/MarlevoStyle.h"
 #include "ui/Translations.h"
 
 #include <QApplication>
@@ -42,8 +43,8 @@ int main(int argc, char* argv[]) {
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
 
-    QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
+    QApplication::setStyle(new marlevo::MarlevoStyle);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
     QApplication::setApplicationVersion(QStringLiteral(MARLEVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("marlevo"));
