@@ -9,6 +9,7 @@ target_compile_options(marlevo_flags INTERFACE
   -ffp-contract=off
   $<$<BOOL:${MARLEVO_WERROR}>:-Werror>)
 if(MARLEVO_SANITIZE)
+  target_compile_definitions(marlevo_flags INTERFACE MARLEVO_SANITIZED)
   target_compile_options(marlevo_flags INTERFACE
     -fsanitize=${MARLEVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
     # gcc's flow analysis loses its way in instrumented code and finds uses of what is not there.
