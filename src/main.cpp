@@ -14,8 +14,23 @@
 #include "ui/Translations.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include <csignal>
+#include <filesystem>
+#include <vector>
+
+namespace {
+
+/// The files named on the command line, from a desktop's file manager for example.
+std::vector<std::filesystem::path> drawingsToOpen() {
+    std::vector<std::filesystem::path> files;
+    for (const QString& argument : QApplication::arguments().mid(1))
+        files.emplace_back(QFileInfo(argument).absoluteFilePath().toStdU16String());
+    return files;
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     // A closed output and a limit on file size are errors of the write that meets them, not ends of
@@ -31,6 +46,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
     QApplication::setApplicationVersion(QStringLiteral(MARLEVO_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("marlevo"));
     QApplication::setWindowIcon(marlevo::applicationIcon());
     const marlevo::Translations translations;
     marlevo::KeyRepeatFilter keyRepeatFilter;
@@ -57,6 +73,6 @@ int main(int argc, char* argv[]) {
                              .printer = &printer,
                              .pasteboard = &pasteboard,
                              .strings = &strings});
-    app.openWindow();
+    app.openWindows(drawingsToOpen());
     return QApplication::exec();
 }

@@ -21,18 +21,20 @@ Result<DocumentData> readDocument(const std::filesystem::path& file) {
     return data;
 }
 
-void load(const std::filesystem::path& file, DrawingDocument& document) {
-    const auto data = readDocument(file);
-    if (!data) {
-        if (Console* const console = document.services().console)
-            console->writeLine("Load failed: " + data.error());
-        return;
-    }
-    document.applyDocumentData(*data);
-    document.currentFileURL = file;
+}  // namespace
+
+std::optional<DocumentData> loadDrawing(const std::filesystem::path& file, Console* console) {
+    auto data = readDocument(file);
+    if (data) return *std::move(data);
+    if (console) console->writeLine("Load failed: " + data.error());
+    return std::nullopt;
 }
 
-}  // namespace
+void replacePicture(DrawingDocument& document, const DocumentData& drawing,
+                    const std::filesystem::path& file) {
+    document.applyDocumentData(drawing);
+    document.currentFileURL = file;
+}
 
 void openDocument(const Services& services, FrontmostDocument frontmostDocument) {
     if (services.filePanels == nullptr) return;
@@ -41,7 +43,10 @@ void openDocument(const Services& services, FrontmostDocument frontmostDocument)
         [frontmostDocument =
              std::move(frontmostDocument)](const std::optional<std::filesystem::path>& file) {
             if (!file) return;
-            if (DrawingDocument* const document = frontmostDocument()) load(*file, *document);
+            DrawingDocument* const document = frontmostDocument();
+            if (document == nullptr) return;
+            if (const auto drawing = loadDrawing(*file, document->services().console))
+                replacePicture(*document, *drawing, *file);
         });
 }
 

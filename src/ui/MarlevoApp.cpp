@@ -33,6 +33,17 @@ DocumentWindow& MarlevoApp::openWindow() {
     return *window;
 }
 
+void MarlevoApp::openWindows(std::span<const std::filesystem::path> drawings) {
+    for (const std::filesystem::path& file : drawings) {
+        const auto drawing = loadDrawing(file, services_.console);
+        if (!drawing) continue;
+        DocumentWindow& window = openWindow();
+        window.content().setShowNewCanvas(false);
+        replacePicture(window.document(), *drawing, file);
+    }
+    if (windows_.empty()) openWindow();
+}
+
 std::vector<DocumentWindow*> MarlevoApp::documentWindows() const {
     std::vector<DocumentWindow*> open;
     for (const QPointer<DocumentWindow>& window : windows_)

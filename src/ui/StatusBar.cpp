@@ -91,7 +91,7 @@ void StatusBar::showDocument() {
     canvasSize_.setText(wholePixels(size.width) + QChar(0x00D7) + wholePixels(size.height));
     strokeCount_.setText(localizedStrokeCount(strokeCount(document_)));
 
-    const QString percent = QStringLiteral("%1%").arg(static_cast<qint64>(document_.zoom * 100));
+    const QString percent = tr("%1%").arg(static_cast<qint64>(document_.zoom * 100));
     zoom_.showValue(document_.zoom, percent);
     zoomText_.setText(percent);
 

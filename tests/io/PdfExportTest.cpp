@@ -1,4 +1,3 @@
-#include "io/PdfContext.h"
 #include "model/DrawingDocument.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/PageReaders.h"
@@ -170,7 +169,7 @@ TEST_P(PdfInReaders, ImagesAreUprightWithTheirAlphaAndOpacity) {
 }
 
 TEST_P(PdfInReaders, PhotosAreTurnedUpright) {
-    addImage(jpegWithOrientation(1));
+    addImage(jpegWithOrientation(1), 0.75);
     for (std::uint8_t orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(int{orientation});
         document.layers.modify([&](LayerList& layers) {
@@ -183,9 +182,9 @@ TEST_P(PdfInReaders, PhotosAreTurnedUpright) {
 }
 
 TEST_F(PdfExport, TheMediaBoxIsTheCanvasToTheLastDigit) {
-    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [0 0 200 120 ]"));
+    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [ 0 0 200 120 ]"));
     document.canvasSize = CanvasSize{800.7, 600.2};
-    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [0 0 800.7 600.2 ]"));
+    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [ 0 0 800.7 600.2 ]"));
 }
 
 TEST_F(PdfExport, CanvasesThatNoPageCanHaveGiveNothing) {
