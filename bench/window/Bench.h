@@ -23,7 +23,7 @@ struct Bench {
 
 /// The costs of the events of one kind as members of a result: the processor time of the process
 /// (median and mean), that of the user-interface thread (median and 99th percentile) and the wall
-/// time from the event to the painted window, all in milliseconds.
+/// time from the event to the painted window if anything was, all in milliseconds.
 QJsonObject summary(const std::vector<EventCost>& costs, QEvent::Type type);
 
 /// Both objects' members.

@@ -11,10 +11,10 @@ using namespace marlevo;
 int main(int argc, char* argv[]) {
     // Before the application, which has threads.
     Hand hand;
-    // As the program has it.
-    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QApplication::setStyle(QStringLiteral("fusion"));
     Meter meter(argc, argv);
+    // As the program has it.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QApplication::setQuitOnLastWindowClosed(false);
 
     const std::map<QString, void (*)(Bench&)> measurements{

@@ -49,11 +49,9 @@ bool Meter::notify(QObject* receiver, QEvent* event) {
     if (!paints) return QApplication::notify(receiver, event);
 
     isWatchedPainted_ = false;
-    const double begin = milliseconds(CLOCK_MONOTONIC);
     const bool result = QApplication::notify(receiver, event);
     const double end = milliseconds(CLOCK_MONOTONIC);
     if (watched_ != nullptr && !isWatchedPainted_) return result;
-    lastPaint_ = end - begin;
     ++paints_;
     for (auto arrival = arrivals_.rbegin(); arrival != arrivals_.rend() && arrival->painted < 0;
          ++arrival)

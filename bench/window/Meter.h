@@ -28,9 +28,6 @@ public:
     void start();
     std::vector<EventCost> stop();
 
-    /// The wall time that the last paint took, in milliseconds, with all else in its window.
-    double lastPaint() const { return lastPaint_; }
-
     /// How many paints there were so far.
     std::size_t paints() const { return paints_; }
 
@@ -55,7 +52,6 @@ private:
     bool isRunning_ = false;
     bool isWatchedPainted_ = false;
     std::size_t paints_ = 0;
-    double lastPaint_ = 0;
 };
 
 /// The middle value and that below which 99 of 100 lie.

@@ -7,14 +7,14 @@
 
 namespace marlevo {
 
-RealWindow::RealWindow(Sheet sheet, FilePanels* panels)
-    : app_(std::make_unique<MarlevoApp>(Services{.mainQueue = &mainQueue_,
-                                                 .filePanels = panels,
-                                                 .imageCodec = &imageCodec_,
-                                                 .flushQueue = &flushQueue_,
-                                                 .backgroundQueue = &backgroundQueue_,
-                                                 .strings = &strings_})),
-      window_(&app_->openWindow()) {
+RealWindow::RealWindow(Sheet sheet, const std::vector<std::filesystem::path>& drawings)
+    : app_({.mainQueue = &mainQueue_,
+            .imageCodec = &imageCodec_,
+            .flushQueue = &flushQueue_,
+            .backgroundQueue = &backgroundQueue_,
+            .strings = &strings_}) {
+    app_.openWindows(drawings);
+    window_ = app_.documentWindows().front();
     if (sheet == Sheet::showing) return;
     static_cast<Meter*>(qApp)->watch(&window_->canvasView());
     if (!QTest::qWaitForWindowActive(window_)) qFatal("the window was not shown");

@@ -11,7 +11,8 @@
 #include "ui/MarlevoApp.h"
 #include "ui/Translations.h"
 
-#include <memory>
+#include <filesystem>
+#include <vector>
 
 namespace marlevo {
 
@@ -20,12 +21,11 @@ class RealWindow {
 public:
     enum class Sheet : bool { dismissed, showing };
 
-    /// The files that the window opens are not asked for: it is always `panels` that answers.
-    explicit RealWindow(Sheet sheet, FilePanels* panels = nullptr);
+    /// Started with a drawing there is no sheet to begin with.
+    explicit RealWindow(Sheet sheet, const std::vector<std::filesystem::path>& drawings = {});
 
     DocumentWindow& window() { return *window_; }
     DrawingDocument& document() { return window_->document(); }
-    MarlevoApp& app() { return *app_; }
 
     /// Shows a picture at actual size in a window that has room for it, as far as the screen has.
     void show(LayerList layers, const CanvasSize& canvas);
@@ -46,7 +46,7 @@ private:
     const QtStrings strings_;
     WorkQueue flushQueue_;
     BackgroundThread backgroundQueue_;
-    std::unique_ptr<MarlevoApp> app_;
+    MarlevoApp app_;
     DocumentWindow* window_;
 };
 

@@ -5,7 +5,6 @@
 #include "bench/window/Meter.h"
 #include "bench/window/ProcessMemory.h"
 #include "bench/window/RealWindow.h"
-#include "platform/FilePanels.h"
 
 #include <QMainWindow>
 
@@ -15,19 +14,6 @@
 using namespace marlevo;
 
 namespace {
-
-/// A user who has chosen the file before he was asked.
-class ChosenFile final : public FilePanels {
-public:
-    void showSavePanel(const SavePanelRequest& /*request*/, Completion /*completion*/) override {}
-    void showOpenPanel(const OpenPanelRequest& /*request*/, Completion completion) override {
-        completion_ = std::move(completion);
-    }
-    void choose(const std::filesystem::path& file) { completion_(file); }
-
-private:
-    Completion completion_;
-};
 
 double milliseconds() {
     timespec time{};
@@ -44,18 +30,15 @@ int main(int argc, char* argv[]) {
     const double started = arguments.value(1).toDouble();
     const QString what = arguments.value(2);
 
-    ChosenFile panels;
     std::optional<RealWindow> real;
     QMainWindow empty;
     if (what == "empty") {
         empty.resize(1500, 900);
         empty.show();
     } else {
-        real.emplace(RealWindow::Sheet::showing, &panels);
-        if (what == "open") {
-            real->app().openDocument();
-            panels.choose(arguments.value(3).toStdString());
-        }
+        std::vector<std::filesystem::path> drawings;
+        if (what == "open") drawings.emplace_back(arguments.value(3).toStdString());
+        real.emplace(RealWindow::Sheet::showing, drawings);
     }
     while (meter.paints() == 0)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
