@@ -2,6 +2,7 @@
 
 #include "graphics/IntRect.h"
 #include "graphics/Rect.h"
+#include "model/Stroke.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +27,10 @@ inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {
         return device < farthest ? static_cast<int>(std::max(device, -farthest)) : 1 << 30;
     };
     return {low(bounds.minX()), low(bounds.minY()), high(bounds.maxX()), high(bounds.maxY())};
+}
+
+inline IntRect paintedArea(const Stroke& stroke, double scale) {
+    return paintedArea(stroke.boundingRect(), stroke.lineWidth, scale);
 }
 
 }  // namespace marlevo

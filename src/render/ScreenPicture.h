@@ -1,33 +1,50 @@
 #pragma once
 
-#include "graphics/BitmapContext.h"
+#include "graphics/Color.h"
+#include "graphics/PixelBuffer.h"
+#include "graphics/TileMap.h"
 #include "model/DrawingDocument.h"
+#include "render/StrokeInProgress.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <unordered_map>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace marlevo {
+
+struct LayerRun;
 
 /// The document's picture as its window shows it: background, grid, layers and the stroke in
 /// progress, at device resolution.
 ///
 /// The finished picture is kept as tiles for one scale, a pure function of the document's values;
-/// a change of the layers repaints only what differs. Used on the user-interface thread.
+/// a change repaints only what differs. Areas and pixels lie on a device plane whose origin is the
+/// canvas's top left corner. Used on the user-interface thread.
 class ScreenPicture {
 public:
-    /// Tiles beyond the painted area are dropped when all of them take more than this.
+    /// What all tiles together may take beyond those in sight.
     static constexpr std::size_t maxCachedBytes = std::size_t{96} << 20;
 
     explicit ScreenPicture(Color gridColor = {0.56, 0.56, 0.58, 0.2}) : gridColor_(gridColor) {}
 
-    /// Paints target.area, a part of the device plane whose origin is the canvas's top left corner,
-    /// with `scale` device pixels for a canvas pixel. What the area held before is replaced. Counts
-    /// as reading all that it shows. A scale that is not a positive number paints nothing.
+    /// Follows the document, seen with `scale` device pixels for a canvas pixel, and gives the
+    /// areas of what was painted that would be painted otherwise now, each of them once; nothing
+    /// when that is everything. Counts as reading all that the picture shows.
+    std::optional<std::vector<IntRect>> takeChanges(const DrawingDocument& document, double scale);
+
+    /// Paints the pixels of `target`, which are in the order of the screen's; what they held before
+    /// is replaced. Follows the document too, and keeps what that changes to be taken later. A
+    /// scale that is not a positive number paints nothing.
     void paint(const DrawingDocument& document, double scale, const PixelBuffer& target);
 
-    /// Forgets the tiles; the next paint renders them anew.
-    void releaseMemory() { tiles_.clear(); }
+    /// Drops what is out of sight if all tiles take more than maxCachedBytes. What was painted and
+    /// is not in `area` must be painted again before it is shown.
+    void limitMemory(const IntRect& inSight);
+
+    /// Drops all tiles; everything counts as changed.
+    void releaseMemory();
 
 private:
     /// The values that the finished picture is made of.
@@ -37,24 +54,45 @@ private:
         CanvasSize canvasSize;
         double scale = 0;
         bool hasGrid = false;
-        PixelOrder order = PixelOrder::bgra;
 
-        static Contents of(const DrawingDocument& document, double scale, PixelOrder order);
+        static Contents of(const DrawingDocument& document, double scale);
+        bool isSameView(const Contents& other) const;
+        Rect canvasRect() const { return {{0, 0}, {canvasSize.width, canvasSize.height}}; }
     };
 
     struct Tile {
-        std::vector<std::uint8_t> pixels;
-        IntRect stale;  ///< the part to be rendered again, in device pixels
+        explicit Tile(const IntRect& place)
+            : area(place), stale(place),
+              bytes(std::make_unique_for_overwrite<std::uint8_t[]>(tileBytes)) {}
+
+        PixelBuffer pixels() {
+            return {bytes.get(), std::ptrdiff_t{tileSide} * 4, area, PixelOrder::bgra};
+        }
+
+        IntRect area;
+        IntRect stale;    ///< the part that must be painted before it is used; all at first
+        IntRect changed;  ///< the part to be reported as looking other than before
+        std::unique_ptr<std::uint8_t[]> bytes;
     };
 
-    void update(Contents next);
-    void invalidate(const IntRect& area);
-    void render(const DrawingDocument& document, const PixelBuffer& part) const;
-    void dropTilesOutside(const IntRect& area);
+    static constexpr int tileSide = 256;
+    static constexpr std::size_t tileBytes = std::size_t{tileSide} * tileSide * 4;
+
+    void follow(const DrawingDocument& document, double scale);
+    void showDifference(const LayerList& after, const DrawingDocument& document);
+    void markStale(const IntRect& area);
+    void markChanged(const IntRect& area);
+    template <typename Paint>
+    void paintOver(const IntRect& area, Paint paint);
+    void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
+    void renderBackground(const PixelBuffer& part) const;
+    void renderLayers(const LayerRun& run, const PixelBuffer& part) const;
 
     Color gridColor_;
     Contents contents_;
-    std::unordered_map<std::uint64_t, Tile> tiles_;  ///< by column and row
+    TileMap<Tile, tileSide> tiles_;
+    StrokeInProgress strokeInProgress_;
+    bool isAllChanged_ = true;
 };
 
 }  // namespace marlevo

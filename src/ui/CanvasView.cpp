@@ -40,6 +40,10 @@ PixelBuffer pixelsOf(QImage& image, QPoint origin) {
             PixelOrder::bgra};
 }
 
+QRectF toQRect(const IntRect& rect) {
+    return QRectF(rect.left, rect.top, rect.width(), rect.height());
+}
+
 /// Never a move, which would make a file manager take its file away.
 void acceptCopy(QDropEvent& event) {
     event.setDropAction(Qt::CopyAction);
@@ -48,22 +52,102 @@ void acceptCopy(QDropEvent& event) {
 
 }  // namespace
 
+CanvasView::Overlay CanvasView::Overlay::of(const DrawingDocument& document) {
+    Overlay overlay;
+    if (const auto rect = document.selectedStrokeBoundingRect())
+        overlay.outline = Outline{*rect, selectionOutlineOpacity(document)};
+    overlay.hasEyeDropper = document.isEyeDropper;
+    return overlay;
+}
+
 CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document), imageDrop_(document),
-      reader_(document.changeRegistry(), [this](DocumentProperty) { update(); }),
+      reader_(document.changeRegistry(), [this](DocumentProperty property) { follow(property); }),
       pointerShape_(document, [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
     setAcceptDrops(true);
     setAccessibleName(tr("Canvas"));
-    setAccessibleDescription(tr("The drawing. Press and drag to draw with the chosen tool."));
+    updateWhatChanged();
+}
+
+/// Looks at what changed once the current event is over: until then a stroke that joins its layer
+/// is there twice, or the picture of a file still has the old size. Only a stroke that grows does
+/// not wait: it changes with each event, and alone.
+void CanvasView::follow(DocumentProperty property) {
+    if (isChangeAnnounced_) return;
+    if (property == DocumentProperty::currentStroke) return updateWhatChanged();
+    isChangeAnnounced_ = true;
+    QMetaObject::invokeMethod(this, &CanvasView::updateWhatChanged, Qt::QueuedConnection);
+}
+
+void CanvasView::updateWhatChanged() {
+    isChangeAnnounced_ = false;
+    reader_.observe([&] {
+        if (const auto changes = picture_.takeChanges(document_, deviceScale())) {
+            for (const IntRect& area : *changes)
+                updateDevicePixels(toQRect(area));
+        } else {
+            update();
+        }
+        updateOverlay();
+        // Spares painting all that lies below, where the canvas does not end within a point.
+        setAttribute(Qt::WA_OpaquePaintEvent,
+                     displaySize(document_.canvasSize, document_.zoom) == QSizeF(size()));
+    });
+}
+
+void CanvasView::updateOverlay() {
+    const Overlay overlay = Overlay::of(document_);
+    if (overlay.outline != shownOverlay_.outline) {
+        updateOutline(shownOverlay_.outline);
+        updateOutline(overlay.outline);
+    }
+    if (overlay.hasEyeDropper != shownOverlay_.hasEyeDropper)
+        update(eyeDropperPlace().toAlignedRect());
+    shownOverlay_ = overlay;
+}
+
+/// Its four sides, since there may be much between them.
+void CanvasView::updateOutline(const std::optional<Outline>& outline) {
+    if (!outline) return;
+    const double scale = deviceScale();
+    const double reach = outlineWidth / 2 * scale + 1;  // and what anti-aliasing touches
+    const double corner = std::max(outlineRadius * scale, reach);
+    const Rect& rect = outline->rect;
+    const QRectF line(rect.origin.x * scale, rect.origin.y * scale, rect.size.width * scale,
+                      rect.size.height * scale);
+    const QRectF outside = line.adjusted(-reach, -reach, reach, reach);
+    const QRectF inside = line.adjusted(corner, corner, -corner, -corner);
+    if (!inside.isValid()) return updateDevicePixels(outside);
+    updateDevicePixels(QRectF(outside.topLeft(), QPointF(outside.right(), inside.top())));
+    updateDevicePixels(QRectF(QPointF(outside.left(), inside.bottom()), outside.bottomRight()));
+    updateDevicePixels(QRectF(QPointF(outside.left(), inside.top()), inside.bottomLeft()));
+    updateDevicePixels(QRectF(inside.topRight(), QPointF(outside.right(), inside.bottom())));
+}
+
+/// `area` counts from the canvas's top left corner.
+void CanvasView::updateDevicePixels(const QRectF& area) {
+    const double ratio = devicePixelRatioF();
+    const QRectF seen = area & QRectF(QPointF(0, 0), QSizeF(size()) * ratio);
+    if (seen.isEmpty()) return;
+    const bool isFractional = ratio != std::floor(ratio);
+    // There the canvas's corner may be up to half a pixel beside the device pixel it is drawn at.
+    const double doubt = isFractional ? 1 : 0;
+    update(QRectF((seen.x() - doubt) / ratio, (seen.y() - doubt) / ratio,
+                  (seen.width() + 2 * doubt) / ratio, (seen.height() + 2 * doubt) / ratio)
+               .toAlignedRect());
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    reader_.observe([&] {
-        paintPicture(painter, event->rect());
-        if (document_.isEyeDropper) paintEyeDropper(painter);
-    });
+    const bool hasDesk = testAttribute(Qt::WA_OpaquePaintEvent);
+    for (const QRect& exposed : event->region()) {
+        if (hasDesk) painter.fillRect(exposed, palette().window());
+        paintPicture(painter, exposed);
+    }
+    if (document_.isEyeDropper)
+        paintIcon(painter, Icon::eyedropper, eyeDropperPlace(),
+                  withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
 }
 
 void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
@@ -75,43 +159,41 @@ void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
     const DevicePixels pixels(painter, QPointF(0, 0));
     const QRect part = pixels.touchedBy(exposed) & whole;
     if (part.isEmpty()) return;
-    if (frame_.size() != part.size())
-        frame_ = QImage(part.size(), QImage::Format_ARGB32_Premultiplied);
-    if (frame_.isNull()) return;
+    frame_.resize(static_cast<std::size_t>(part.width()) * part.height() * 4);
+    QImage frame(frame_.data(), part.width(), part.height(), part.width() * 4,
+                 QImage::Format_ARGB32_Premultiplied);
 
-    picture_.paint(document_, document_.zoom * ratio, pixelsOf(frame_, part.topLeft()));
-    paintSelectionOutline(part.topLeft());
-    clipToRoundedRect(frame_, part.topLeft(), size, cornerRadius * ratio);
-    pixels.drawImage(part.topLeft(), frame_);
+    picture_.paint(document_, deviceScale(), pixelsOf(frame, part.topLeft()));
+    if (const auto outline = Overlay::of(document_).outline)
+        paintOutline(frame, part.topLeft(), *outline);
+    clipToRoundedRect(frame, part.topLeft(), size, cornerRadius * ratio);
+    pixels.drawImage(part.topLeft(), frame);
 }
 
 /// `origin` is the frame's top left corner in device pixels of the canvas.
-void CanvasView::paintSelectionOutline(QPoint origin) {
-    const auto outline = document_.selectedStrokeBoundingRect();
-    if (!outline) return;
-    const double scale = document_.zoom * devicePixelRatioF();
-    QPainter painter(&frame_);
+void CanvasView::paintOutline(QImage& frame, QPoint origin, const Outline& outline) const {
+    const double scale = deviceScale();
+    QPainter painter(&frame);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(-origin);
     painter.scale(scale, scale);
-    painter.setOpacity(selectionOutlineOpacity(document_));
+    painter.setOpacity(outline.opacity);
     QPen pen(semanticColor(SemanticColor::blue), outlineWidth, Qt::CustomDashLine, Qt::FlatCap,
              Qt::MiterJoin);
     pen.setMiterLimit(10);
     // Dashes are counted in widths of the pen.
     pen.setDashPattern({outlineDash / outlineWidth, outlineGap / outlineWidth});
     painter.setPen(pen);
-    painter.drawRoundedRect(
-        QRectF(outline->origin.x, outline->origin.y, outline->size.width, outline->size.height),
-        outlineRadius, outlineRadius);
+    const Rect& rect = outline.rect;
+    painter.drawRoundedRect(QRectF(rect.origin.x, rect.origin.y, rect.size.width, rect.size.height),
+                            outlineRadius, outlineRadius);
 }
 
-void CanvasView::paintEyeDropper(QPainter& painter) const {
+QRectF CanvasView::eyeDropperPlace() const {
     const int side = iconSide(TypeStyle::largeTitle);
     QRectF place(0, 0, side, side);
     place.moveCenter(QRectF(rect()).center());
-    paintIcon(painter, Icon::eyedropper, place,
-              withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
+    return place;
 }
 
 void CanvasView::showPointerOfTool() {
@@ -148,6 +230,7 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
 
 void CanvasView::hideEvent(QHideEvent* event) {
     endInterruptedDrag();
+    picture_.releaseMemory();
     QWidget::hideEvent(event);
 }
 

@@ -19,66 +19,188 @@ std::vector<std::uint8_t> paint(ScreenPicture& picture, const DrawingDocument& d
     return pixels;
 }
 
-TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
-    std::mt19937 random(11);
-    const auto below = [&](int end) { return std::uniform_int_distribution(0, end - 1)(random); };
+/// A view of the picture that paints again only what it is told has changed.
+class View {
+public:
+    explicit View(const IntRect& area)
+        : area_(area), pixels_(static_cast<std::size_t>(area.width()) * area.height() * 4) {}
+
+    void showChanges(const DrawingDocument& document, double scale) {
+        if (const auto changes = picture_.takeChanges(document, scale)) {
+            for (const IntRect& change : *changes)
+                paintPart(document, scale, change.intersectedWith(area_));
+        } else {
+            paintPart(document, scale, area_);
+        }
+    }
+
+    void paintPart(const DrawingDocument& document, double scale, const IntRect& part) {
+        if (part.isEmpty()) return;
+        const PixelBuffer whole{pixels_.data(), std::ptrdiff_t{area_.width()} * 4, area_,
+                                PixelOrder::bgra};
+        picture_.paint(document, scale,
+                       {whole.pixel(part.left, part.top), whole.stride, part, whole.order});
+    }
+
+    ScreenPicture& picture() { return picture_; }
+    const std::vector<std::uint8_t>& pixels() const { return pixels_; }
+
+private:
+    IntRect area_;
+    std::vector<std::uint8_t> pixels_;
+    ScreenPicture picture_;
+};
+
+/// Changes a document in all ways that its picture may change.
+class RandomEditor {
+public:
+    explicit RandomEditor(unsigned seed) : random_(seed) {
+        document.canvasSize = CanvasSize{700, 500};
+        document.ensureLayers();
+    }
+
     DrawingDocument document;
-    document.canvasSize = CanvasSize{700, 500};
-    document.ensureLayers();
-    ScreenPicture kept;
-    for (int step = 0; step < 300; ++step) {
+
+    int below(int end) { return std::uniform_int_distribution(0, end - 1)(random_); }
+
+    void change() {
         const int layer = below(static_cast<int>(document.layers->size()));
-        switch (below(12)) {
+        switch (below(20)) {
         case 0:
-            document.addLayer();
-            break;
+            return document.addLayer();
         case 1:
-            document.deleteLayer(layer);
-            break;
+            return document.deleteLayer(layer);
         case 2:
-            document.moveLayer(layer, below(static_cast<int>(document.layers->size())));
-            break;
+            return document.moveLayer(layer, below(static_cast<int>(document.layers->size())));
         case 3:
-            document.toggleLayerVisibility(layer);
-            break;
+            return document.toggleLayerVisibility(layer);
         case 4:
-            document.undo();
-            break;
+            return document.undo();
         case 5:
-            document.redo();
-            break;
+            return document.redo();
         case 6:
             document.showGrid = !document.showGrid;
-            break;
+            return;
         case 7:
             if (below(10) == 0) document.clearActiveLayer();
-            break;
-        default: {
-            document.saveState();
-            std::vector<Point> points;
-            for (int n = 2 + below(5); n > 0; --n)
-                points.push_back({below(7200) / 10.0 - 10, below(5200) / 10.0 - 10});
-            Stroke stroke = makeStroke(PointList(std::move(points)), below(40),
-                                       Stroke::allShapeTypes[below(4)]);
-            stroke.opacity = 0.6;
-            stroke.isFill = below(4) == 0;
-            document.layers.modify([&](LayerList& all) {
-                StrokeList& strokes = all[layer].strokes;
-                const int at = below(static_cast<int>(strokes.size()) + 3);
-                if (at >= static_cast<int>(strokes.size()))
-                    strokes.append(stroke);
-                else if (below(2) == 0)
-                    strokes.replace(at, stroke);
-                else
-                    strokes.erase(at);
-            });
+            return;
+        case 8:
+            document.activeLayerIndex = layer;
+            return;
+        case 9:
+        case 10:
+        case 11:
+        case 12:
+            return draw();
+        default:
+            return changeStrokes(layer);
         }
-        }
-        const double scale = step < 200 ? 1 : 1.5;
-        const IntRect area{below(300), below(200), 350 + below(350), 250 + below(250)};
-        ScreenPicture fresh;
-        ASSERT_EQ(paint(kept, document, scale, area), paint(fresh, document, scale, area)) << step;
     }
+
+private:
+    Point anywhere() { return {below(7200) / 10.0 - 10, below(5200) / 10.0 - 10}; }
+
+    void draw() {
+        if (!document.currentStroke->has_value()) {
+            document.lineWidth = 1 + below(40);
+            document.brushOpacity = below(2) == 0 ? 1 : 0.5;
+            document.isEraser = below(3) == 0;
+            document.isShapeTool = below(4) == 0;
+            document.currentShapeType = Stroke::allShapeTypes[below(4)];
+            document.beginStroke(anywhere());
+        }
+        for (int n = below(4); n > 0; --n)
+            document.addPointToStroke(anywhere());
+        if (below(3) == 0) document.endStroke();
+    }
+
+    void changeStrokes(int layer) {
+        document.saveState();
+        std::vector<Point> points;
+        for (int n = 2 + below(5); n > 0; --n)
+            points.push_back(anywhere());
+        Stroke stroke =
+            makeStroke(PointList(std::move(points)), below(40), Stroke::allShapeTypes[below(4)]);
+        stroke.opacity = 0.6;
+        stroke.isFill = below(4) == 0;
+        document.layers.modify([&](LayerList& all) {
+            StrokeList& strokes = all[layer].strokes;
+            const int at = below(static_cast<int>(strokes.size()) + 3);
+            if (at >= static_cast<int>(strokes.size()))
+                strokes.append(stroke);
+            else if (below(2) == 0)
+                strokes.replace(at, stroke);
+            else
+                strokes.erase(at);
+        });
+    }
+
+    std::mt19937 random_;
+};
+
+TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
+    RandomEditor editor(11);
+    ScreenPicture kept;
+    for (int step = 0; step < 300; ++step) {
+        editor.change();
+        const double scale = step < 200 ? 1 : 1.5;
+        const IntRect area{editor.below(300), editor.below(200), 350 + editor.below(350),
+                           250 + editor.below(250)};
+        ScreenPicture fresh;
+        ASSERT_EQ(paint(kept, editor.document, scale, area),
+                  paint(fresh, editor.document, scale, area))
+            << step;
+    }
+}
+
+TEST(ScreenPicture, PaintingOnlyWhatIsSaidToHaveChangedShowsThePicture) {
+    RandomEditor editor(12);
+    const IntRect area{0, 0, 700, 500};
+    View view(area);
+    for (int step = 0; step < 400; ++step) {
+        for (int changes = editor.below(3); changes >= 0; --changes)
+            editor.change();
+        const double scale = step < 300 ? 1 : 0.7;
+        // The window system may ask for a part before the changes are looked at.
+        if (editor.below(4) == 0) view.paintPart(editor.document, scale, {100, 100, 300, 200});
+        if (editor.below(50) == 0) view.picture().releaseMemory();
+        view.showChanges(editor.document, scale);
+        ScreenPicture fresh;
+        ASSERT_EQ(view.pixels(), paint(fresh, editor.document, scale, area)) << step;
+    }
+}
+
+TEST(ScreenPicture, SaysThatLittleChangedWhenLittleDid) {
+    DrawingDocument document;
+    document.canvasSize = CanvasSize{2000, 1000};
+    document.ensureLayers();
+    ScreenPicture picture;
+    paint(picture, document, 1, {0, 0, 2000, 1000});
+    picture.takeChanges(document, 1);
+    const auto changedPixels = [&] {
+        int sum = 0;
+        if (const auto changes = picture.takeChanges(document, 1)) {
+            for (const IntRect& change : *changes)
+                sum += change.width() * change.height();
+        } else {
+            ADD_FAILURE() << "everything changed";
+        }
+        return sum;
+    };
+
+    document.lineWidth = 3;
+    document.beginStroke({100, 100});
+    for (int i = 1; i < 50; ++i)
+        document.addPointToStroke({100.0 + 30 * i, 100.0 + 15 * i});
+    changedPixels();
+    document.addPointToStroke({1610, 850});
+    EXPECT_LT(changedPixels(), 80 * 60);
+    document.endStroke();
+    EXPECT_EQ(changedPixels(), 0);  // the stroke looks as before
+    document.lineWidth = 9;
+    EXPECT_EQ(changedPixels(), 0);
+    document.undo();
+    EXPECT_GT(changedPixels(), 0);
 }
 
 }  // namespace
