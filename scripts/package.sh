@@ -20,7 +20,7 @@ package=$(echo build/package/*.deb)
 validate desktop-file-validate packaging/marlevo.desktop
 # There is no homepage to name: newer versions warn of that, older ones do not know the warning.
 metainfo=packaging/marlevo.metainfo.xml
-validate appstreamcli validate --no-net --override=url-homepage-missing=info "$metainfo" 2>/dev/null ||
+validate appstreamcli validate --no-net --override=url-homepage-missing=info "$metainfo" >/dev/null 2>&1 ||
     validate appstreamcli validate --no-net "$metainfo"
 validate lintian --fail-on error --tag-display-limit 0 "$package"
 echo "$package"
