@@ -136,6 +136,13 @@
     </message>
 </context>
 <context>
+    <name>marlevo::CanvasScrollArea</name>
+    <message>
+        <source>Drawing area</source>
+        <translation>Área de dibujo</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::CanvasView</name>
     <message>
         <source>Canvas</source>

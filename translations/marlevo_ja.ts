@@ -136,6 +136,13 @@
     </message>
 </context>
 <context>
+    <name>marlevo::CanvasScrollArea</name>
+    <message>
+        <source>Drawing area</source>
+        <translation>描画領域</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::CanvasView</name>
     <message>
         <source>Canvas</source>

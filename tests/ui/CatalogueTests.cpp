@@ -95,7 +95,7 @@ QStringList textsOf(QWidget& control) {
     return texts;
 }
 
-/// Names of formats and layers, numbers and codes of colors are the same in every language.
+/// Names of formats and layers, numbers and codes of colours are the same in every language.
 bool isSameEverywhere(const QString& text) {
     static const QRegularExpression letter("\\p{L}");
     static const QStringList names{"PNG", "JPEG", "TIFF", "BMP", "PDF", "Background", "1280×720"};
