@@ -11,6 +11,7 @@
 #include "platform/qt/QtStrings.h"
 #include "ui/Icons.h"
 #include "ui/MarlevoApp.h"
+#include "ui/MarlevoStyle.h"
 #include "ui/Translations.h"
 
 #include <QApplication>
@@ -38,8 +39,8 @@ int main(int argc, char* argv[]) {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 
-    QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
+    QApplication::setStyle(new marlevo::MarlevoStyle);
     // Every position of the pointer becomes a point of the stroke: none may be merged away. After
     // the application, which asks for merging when it is made on X11.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);

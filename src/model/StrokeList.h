@@ -67,16 +67,6 @@ public:
                (!tail_ || stroke_tree::visit(*tail_, tailSize_, treeSize(), matters, visitor));
     }
 
-    /// Calls `visitor(index, stroke)` in order for each stroke that may paint in `area`.
-    template <typename Visitor>
-    void forEachTouching(const Rect& area, Visitor&& visitor) const {
-        visit([&](const StrokeSummary& summary) { return summary.paintsIn(area); },
-              [&](std::size_t index, const Stroke& stroke) {
-                  visitor(index, stroke);
-                  return true;
-              });
-    }
-
     /// True when both share all their strokes: a cheap "known equal".
     bool sharesWith(const StrokeList& other) const {
         return tree_ == other.tree_ && tailSize_ == other.tailSize_ &&

@@ -1,5 +1,6 @@
 #include "render/LayerPainting.h"
 
+#include "graphics/BitmapContext.h"
 #include "render/MakeRaster.h"
 #include "render/StrokeGeometry.h"
 
@@ -77,7 +78,8 @@ std::optional<RasterImage> renderLayer(const Layer& layer, CanvasSize canvas, Si
     const auto raster = RasterSize::truncating(size.width, size.height);
     if (!raster) return std::nullopt;
     constexpr std::uint8_t opaqueWhite = 255;
-    return makeRaster(*raster, opaqueWhite, [&](GraphicsContext& context) {
+    return makeRaster(*raster, opaqueWhite, [&](const PixelBuffer& pixels) {
+        BitmapContext context(pixels, DeviceFrame::yUp(raster->height));
         context.scale(size.width / canvas.width, size.height / canvas.height);
         drawLayer(context, layer, canvas, canvas.height, decode);
     });

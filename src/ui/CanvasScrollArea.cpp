@@ -38,7 +38,7 @@ int start(int length, int room, const QScrollBar& bar) {
 
 CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, QWidget* parent)
     : QAbstractScrollArea(parent), document_(document), view_(document, viewport()),
-      layoutFollower_(document, [this] { layOut(); }) {
+      layoutFollower_(document, [this] { layOut(); }), descriptionChanges_(document, view_) {
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::Window);
     viewport()->setAutoFillBackground(true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/CanvasAccessibility.h"
 #include "ui/CanvasView.h"
 #include "ui/Follower.h"
 
@@ -37,6 +38,7 @@ private:
     DrawingDocument& document_;
     CanvasView view_;
     Follower layoutFollower_;
+    CanvasDescriptionChanges descriptionChanges_;
 };
 
 }  // namespace marlevo

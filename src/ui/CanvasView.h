@@ -26,6 +26,8 @@ public:
     /// The document must outlive the view.
     explicit CanvasView(DrawingDocument& document, QWidget* parent = nullptr);
 
+    const DrawingDocument& document() const { return document_; }
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -53,7 +55,7 @@ private:
         static Overlay of(const DrawingDocument& document);
     };
 
-    void announceChange();
+    void follow(DocumentProperty property);
     void updateWhatChanged();
     void updateOverlay();
     void updateOutline(const std::optional<Outline>& outline);

@@ -87,7 +87,9 @@ void MarlevoApp::focusFollows(const QWindow* focused) {
 
 void MarlevoApp::forget(DocumentWindow& window) {
     std::erase(windows_, &window);
-    if (focusedDocument_.get() == &window.document()) focusedDocument_.set(nullptr);
+    // The desktop may take its time to give another window the focus, or not do it at all.
+    if (focusedDocument_.get() == &window.document())
+        focusedDocument_.set(windows_.empty() ? nullptr : &windows_.back()->document());
     if (isQuitting_) closeNextWindow();
     if (windows_.empty()) delete settings_;
 }

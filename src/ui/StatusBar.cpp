@@ -34,14 +34,14 @@ constexpr TextLabel::Look zoomNumber{TypeStyle::caption, QFont::Medium, Semantic
 constexpr TextLabel::Look layerName{TypeStyle::caption, QFont::Normal, SemanticColor::tertiary,
                                     TextLabel::Digits::proportional};
 
+}  // namespace
+
 qint64 strokeCount(const DrawingDocument& document) {
     return std::accumulate(document.layers->begin(), document.layers->end(), qint64{0},
                            [](qint64 sum, const Layer& layer) {
                                return sum + static_cast<qint64>(layer.strokes.size());
                            });
 }
-
-}  // namespace
 
 QString localizedStrokeCount(qint64 count) {
     const QString format =

@@ -11,6 +11,9 @@
 
 namespace marlevo {
 
+/// Of all layers, hidden ones too.
+qint64 strokeCount(const DrawingDocument& document);
+
 /// What the catalogue says for a number of strokes: its entry "single_stroke" for exactly 1, else
 /// "multiple_strokes", with the count for "%1". Without an entry the key itself.
 QString localizedStrokeCount(qint64 count);
