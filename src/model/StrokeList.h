@@ -64,7 +64,7 @@ public:
     template <typename Predicate, typename Visitor>
     bool visit(const Predicate& matters, Visitor&& visitor) const {
         return (!tree_ || stroke_tree::visit(*tree_, 0, matters, visitor)) &&
-               stroke_tree::visit(tail(), treeSize(), matters, visitor);
+               (!tail_ || stroke_tree::visit(*tail_, tailSize_, treeSize(), matters, visitor));
     }
 
     /// True when both share all their strokes: a cheap "known equal".
