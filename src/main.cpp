@@ -39,12 +39,12 @@ int main(int argc, char* argv[]) {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 
-    // Every position of the pointer becomes a point of the stroke: none may be merged away.
-    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
-    QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
-
     QApplication application(argc, argv);
     QApplication::setStyle(new marlevo::MarlevoStyle);
+    // Every position of the pointer becomes a point of the stroke: none may be merged away. After
+    // the application, which asks for merging when it is made on X11.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+    QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
     QApplication::setApplicationVersion(QStringLiteral(MARLEVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("marlevo"));

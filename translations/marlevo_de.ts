@@ -5,7 +5,7 @@
     <name>CanvasAccessibility</name>
     <message>
         <source>%1 × %2 px, %3, %4</source>
-        <translation>%1 × %2 px, %3, %4</translation>
+        <translation>%1 × %2&#xa0;px, %3, %4</translation>
     </message>
 </context>
 <context>
@@ -198,26 +198,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>%1px</source>
-        <translation>%1&#xa0;px</translation>
-    </message>
-    <message>
-        <source>Opacity</source>
-        <translation>Deckkraft</translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation>%1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Drawing</source>
-        <translation>Zeichnen</translation>
-    </message>
-    <message>
         <source>Draw</source>
         <translation>Zeichnen</translation>
     </message>
@@ -236,6 +216,26 @@
     <message>
         <source>Drop</source>
         <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>%1px</source>
+        <translation>%1&#xa0;px</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnen</translation>
     </message>
 </context>
 <context>
@@ -267,10 +267,6 @@
 <context>
     <name>marlevo::FormsSection</name>
     <message>
-        <source>Forms</source>
-        <translation>Formen</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Linie</translation>
     </message>
@@ -281,6 +277,10 @@
     <message>
         <source>Ellipse</source>
         <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation>Formen</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@
     <name>marlevo::LayerThumbnailView</name>
     <message>
         <source>Thumbnail: %1</source>
-        <translation>Vorschau: %1</translation>
+        <translation>Miniatur: %1</translation>
     </message>
 </context>
 <context>

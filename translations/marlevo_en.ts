@@ -198,26 +198,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Size</source>
-        <translation>Size</translation>
-    </message>
-    <message>
-        <source>%1px</source>
-        <translation>%1px</translation>
-    </message>
-    <message>
-        <source>Opacity</source>
-        <translation>Opacity</translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation>%1%</translation>
-    </message>
-    <message>
-        <source>Drawing</source>
-        <translation>Drawing</translation>
-    </message>
-    <message>
         <source>Draw</source>
         <translation>Draw</translation>
     </message>
@@ -236,6 +216,26 @@
     <message>
         <source>Drop</source>
         <translation>Drop</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>%1px</source>
+        <translation>%1px</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacity</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Drawing</translation>
     </message>
 </context>
 <context>
@@ -267,10 +267,6 @@
 <context>
     <name>marlevo::FormsSection</name>
     <message>
-        <source>Forms</source>
-        <translation>Forms</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Line</translation>
     </message>
@@ -281,6 +277,10 @@
     <message>
         <source>Ellipse</source>
         <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation>Forms</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@
     <name>CanvasAccessibility</name>
     <message>
         <source>%1 × %2 px, %3, %4</source>
-        <translation>%1 × %2 px, %3, %4</translation>
+        <translation>%1 × %2&#xa0;px, %3, %4</translation>
     </message>
 </context>
 <context>
@@ -198,26 +198,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Size</source>
-        <translation>Tamaño</translation>
-    </message>
-    <message>
-        <source>%1px</source>
-        <translation>%1&#xa0;px</translation>
-    </message>
-    <message>
-        <source>Opacity</source>
-        <translation>Opacidad</translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation>%1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Drawing</source>
-        <translation>Dibujo</translation>
-    </message>
-    <message>
         <source>Draw</source>
         <translation>Dibujar</translation>
     </message>
@@ -236,6 +216,26 @@
     <message>
         <source>Drop</source>
         <translation>Cuentagotas</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>%1px</source>
+        <translation>%1&#xa0;px</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dibujo</translation>
     </message>
 </context>
 <context>
@@ -267,10 +267,6 @@
 <context>
     <name>marlevo::FormsSection</name>
     <message>
-        <source>Forms</source>
-        <translation>Formas</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Línea</translation>
     </message>
@@ -281,6 +277,10 @@
     <message>
         <source>Ellipse</source>
         <translation>Elipse</translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation>Formas</translation>
     </message>
 </context>
 <context>

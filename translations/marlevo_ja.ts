@@ -198,26 +198,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Size</source>
-        <translation>サイズ</translation>
-    </message>
-    <message>
-        <source>%1px</source>
-        <translation>%1px</translation>
-    </message>
-    <message>
-        <source>Opacity</source>
-        <translation>不透明度</translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation>%1%</translation>
-    </message>
-    <message>
-        <source>Drawing</source>
-        <translation>描画</translation>
-    </message>
-    <message>
         <source>Draw</source>
         <translation>描く</translation>
     </message>
@@ -236,6 +216,26 @@
     <message>
         <source>Drop</source>
         <translation>スポイト</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>%1px</source>
+        <translation>%1px</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>描画</translation>
     </message>
 </context>
 <context>
@@ -267,10 +267,6 @@
 <context>
     <name>marlevo::FormsSection</name>
     <message>
-        <source>Forms</source>
-        <translation>図形</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>直線</translation>
     </message>
@@ -281,6 +277,10 @@
     <message>
         <source>Ellipse</source>
         <translation>楕円</translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation>図形</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@
     <name>marlevo::LayerThumbnailView</name>
     <message>
         <source>Thumbnail: %1</source>
-        <translation>サムネイル：%1</translation>
+        <translation>サムネイル: %1</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace marlevo {
 
@@ -198,6 +199,34 @@ void CoverageBand::blendInto(const PixelBuffer& target, PackedColor color) {
                           std::exchange(leftCover_[row], 0)},
                          target.pixel(area_.left, y), width, color);
     }
+}
+
+std::int32_t CoverageBand::rowSum(int y) const { return sumOfCells(y, rowCells_); }
+
+std::int32_t CoverageBand::sumOfCells(int y, std::size_t count) const {
+    const std::int32_t* const cells = &cells_[static_cast<std::size_t>(y - area_.top) * rowCells_];
+    std::uint32_t sum = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        sum += static_cast<std::uint32_t>(cells[i]);
+    return static_cast<std::int32_t>(sum);
+}
+
+void CoverageBand::blendRow(int y, int left, int right, std::int32_t before, std::uint8_t* pixels,
+                            PackedColor color) const {
+    // A copy, which blending clears.
+    thread_local std::vector<std::int32_t> copy;
+    thread_local std::vector<std::uint8_t> dirty;
+    const std::size_t first = static_cast<std::size_t>(left - area_.left);
+    const std::size_t count = static_cast<std::size_t>(right - left);
+    const std::size_t blocks = (count + sumBlockWidth) / sumBlockWidth;  // and a cell behind
+    const std::size_t marks = (blocks + markGroup - 1) / markGroup * markGroup;
+    if (copy.size() < blocks * sumBlockWidth) copy.resize(blocks * sumBlockWidth);
+    if (dirty.size() < marks) dirty.resize(marks);
+    const std::int32_t* const cells = &cells_[static_cast<std::size_t>(y - area_.top) * rowCells_];
+    std::copy_n(cells + first, count, copy.begin());
+    std::fill_n(dirty.begin(), blocks, dirtyMark);
+    addWrapping(before, sumOfCells(y, first));
+    blendCoverageRow({copy.data(), dirty.data(), marks, before}, pixels, count, color);
 }
 
 }  // namespace marlevo

@@ -38,6 +38,15 @@ public:
     /// collected, and leaves the band empty as after reset().
     void blendInto(const PixelBuffer& target, PackedColor color);
 
+    /// What the edges within the area add to all columns behind it in row `y`.
+    std::int32_t rowSum(int y) const;
+
+    /// Blends `color` on the pixels (left … right − 1) of row `y`, which lie in the area, and keeps
+    /// what was collected. `before` is the row's sum left of the area, where edges that were added
+    /// do not count.
+    void blendRow(int y, int left, int right, std::int32_t before, std::uint8_t* pixels,
+                  PackedColor color) const;
+
 private:
     struct EdgeLine;
     struct EdgePiece;
@@ -46,6 +55,7 @@ private:
 
     static void addPair(RowStart row, const EdgePiece& piece, const EdgeLine& line);
     void addPiece(std::size_t row, EdgePiece piece, EdgeLine line);
+    std::int32_t sumOfCells(int y, std::size_t count) const;
 
     IntRect area_;
     std::size_t rowCells_ = 0;  ///< whole blocks, with room for the cell behind the last column

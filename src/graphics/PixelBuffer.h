@@ -24,6 +24,11 @@ struct PixelBuffer {
     std::uint8_t* pixel(int x, int y) const {
         return bytes + (y - area.top) * stride + std::ptrdiff_t{4} * (x - area.left);
     }
+
+    /// The same pixels, of which only those in `within`, a part of the area, may be touched.
+    PixelBuffer part(const IntRect& within) const {
+        return {pixel(within.left, within.top), stride, within, order};
+    }
 };
 
 }  // namespace marlevo

@@ -227,6 +227,55 @@ void addSegments(DistanceField& field, const FlattenedPath& path, double reach) 
     }
 }
 
+/// Adds the pixels that the field covers wholly, and makes it far again. False when it touches no
+/// block that was not covered already.
+bool addCovered(DistanceField& field, const RoundPen& pen, CoveredPixels& covered) {
+    bool touchesOpen = false;
+    for (int strip = 0; strip < field.stripCount(); ++strip) {
+        const int left = field.left() + strip * blockWidth;
+        Block* const blocks = field.strip(strip);
+        field.takeTouched(strip, [&](int index) {
+            const int top = field.top() + index * blockHeight;
+            if (!covered.isOpen(left, top)) {
+                std::fill(std::begin(blocks[index].squares), std::end(blocks[index].squares),
+                          DistanceField::far);
+                return;
+            }
+            touchesOpen = true;
+            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
+            takeCoverage(blocks[index], pen, coverage);
+            std::uint32_t bits = 0;
+            for (std::size_t i = 0; i < DistanceField::blockPixels; ++i)
+                bits |= (coverage[i] == 255 ? 1U : 0U) << i;
+            if (bits != 0) covered.addBlock(left, top, bits);
+        });
+    }
+    return touchesOpen;
+}
+
+/// Raises the mask's coverages to those of the field, and makes the field far again.
+void raiseToField(DistanceField& field, const RoundPen& pen, const CoverageMask& mask) {
+    for (int strip = 0; strip < field.stripCount(); ++strip) {
+        const int x = field.left() + strip * blockWidth;
+        const int left = std::max(x, mask.area.left);
+        const int right = std::min(x + blockWidth, mask.area.right);
+        Block* const blocks = field.strip(strip);
+        field.takeTouched(strip, [&](int index) {
+            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
+            takeCoverage(blocks[index], pen, coverage);
+            for (int row = 0; row < blockHeight; ++row) {
+                const int y = field.top() + index * blockHeight + row;
+                if (y < mask.area.top || y >= mask.area.bottom) continue;
+                const std::int32_t* const ofRow = coverage + std::ptrdiff_t{row} * blockWidth - x;
+                for (int i = left; i < right; ++i) {
+                    std::uint8_t& known = *mask.pixel(i, y);
+                    known = std::max(known, static_cast<std::uint8_t>(ofRow[i]));
+                }
+            }
+        });
+    }
+}
+
 void blendField(DistanceField& field, const RoundPen& pen, const PixelBuffer& target,
                 PackedColor color) {
     for (int strip = 0; strip < field.stripCount(); ++strip) {
@@ -261,7 +310,9 @@ HWY_AFTER_NAMESPACE();
 namespace marlevo {
 
 HWY_EXPORT(addSegments);
+HWY_EXPORT(addCovered);
 HWY_EXPORT(blendField);
+HWY_EXPORT(raiseToField);
 
 namespace {
 
@@ -288,27 +339,60 @@ IntRect touchedArea(const FlattenedPath& path, double reach, const IntRect& area
             toPixel(std::ceil(maxY + reach), area.top, area.bottom)};
 }
 
-}  // namespace
-
-void strokeByDistance(const FlattenedPath& path, double deviceWidth, const PixelBuffer& target,
-                      PackedColor color) {
-    if (!(deviceWidth > 0) || color.alpha == 0 || target.area.isEmpty()) return;
+/// Calls take(field, pen, band) with the distances in each band of `area` that the pen touches.
+template <typename Take>
+void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& area, Take take) {
+    if (!(deviceWidth > 0) || area.isEmpty()) return;
     const RoundPen pen(deviceWidth);
-    const IntRect touched = touchedArea(path, pen.reach, target.area);
+    const IntRect touched = touchedArea(path, pen.reach, area);
     if (touched.isEmpty()) return;
 
     thread_local DistanceField field;
     const int bandHeight = std::max(maxFieldPixels / touched.width(), 2);
     for (int top = touched.top; top < touched.bottom; top += bandHeight) {
-        const int bottom = std::min(top + bandHeight, touched.bottom);
-        const IntRect band{touched.left, top, touched.right, bottom};
+        const IntRect band{touched.left, top, touched.right,
+                           std::min(top + bandHeight, touched.bottom)};
         field.reset(band);
         HWY_DYNAMIC_DISPATCH(addSegments)(field, path, pen.reach);
-        PixelBuffer pixels = target;
-        pixels.area = band;
-        pixels.bytes = target.pixel(band.left, band.top);
-        HWY_DYNAMIC_DISPATCH(blendField)(field, pen, pixels, color);
+        take(field, pen, band);
     }
+}
+
+}  // namespace
+
+void strokeByDistance(const FlattenedPath& path, double deviceWidth, const PixelBuffer& target,
+                      PackedColor color) {
+    if (color.alpha == 0) return;
+    forEachBand(path, deviceWidth, target.area,
+                [&](DistanceField& field, const RoundPen& pen, const IntRect& band) {
+                    PixelBuffer pixels = target;
+                    pixels.area = band;
+                    pixels.bytes = target.pixel(band.left, band.top);
+                    HWY_DYNAMIC_DISPATCH(blendField)(field, pen, pixels, color);
+                });
+}
+
+void coverByDistance(const FlattenedPath& path, double deviceWidth, const CoverageMask& mask) {
+    forEachBand(path, deviceWidth, mask.area,
+                [&](DistanceField& field, const RoundPen& pen, const IntRect& band) {
+                    const CoverageMask part{mask.pixel(band.left, band.top), mask.stride, band};
+                    HWY_DYNAMIC_DISPATCH(raiseToField)(field, pen, part);
+                });
+}
+
+bool addCoveredByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                          CoveredPixels& covered) {
+    bool touchesOpen = false;
+    forEachBand(path, deviceWidth, area,
+                [&](DistanceField& field, const RoundPen& pen, const IntRect&) {
+                    if (HWY_DYNAMIC_DISPATCH(addCovered)(field, pen, covered)) touchesOpen = true;
+                });
+    return touchesOpen;
+}
+
+IntRect areaByDistance(const FlattenedPath& path, double deviceWidth) {
+    constexpr int limit = static_cast<int>(FlattenedPath::maxCoordinate) * 2;
+    return touchedArea(path, RoundPen(deviceWidth).reach, {-limit, -limit, limit, limit});
 }
 
 }  // namespace marlevo

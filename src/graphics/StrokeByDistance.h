@@ -1,6 +1,8 @@
 #pragma once
 
 #include "graphics/Blend.h"
+#include "graphics/CoverageMask.h"
+#include "graphics/CoveredPixels.h"
 #include "graphics/PixelBuffer.h"
 #include "graphics/Polyline.h"
 
@@ -19,6 +21,17 @@ namespace marlevo {
 /// nothing.
 void strokeByDistance(const FlattenedPath& path, double deviceWidth, const PixelBuffer& target,
                       PackedColor color);
+
+/// Raises the coverages of `mask` to those with which strokeByDistance() would draw the polyline.
+void coverByDistance(const FlattenedPath& path, double deviceWidth, const CoverageMask& mask);
+
+/// Adds the pixels of `area` that strokeByDistance() would cover wholly; false when it would touch
+/// none there that is not covered already.
+bool addCoveredByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                          CoveredPixels& covered);
+
+/// The pixels that strokeByDistance() may touch.
+IntRect areaByDistance(const FlattenedPath& path, double deviceWidth);
 
 /// Above this width, in device pixels, filling the outline of the stroke is faster: measured, curvy
 /// strokes change sides at 36 and straight ones at 18.

@@ -11,7 +11,7 @@ namespace marlevo {
 namespace {
 
 /// Points of the line nearer together than this part of the tolerance are one.
-constexpr double joinedDistance = 0.125;
+constexpr double joinedPart = 0.125;
 
 /// No arc is finer than this part of its radius, or a vast pen would need endless corners.
 constexpr double finestArc = 1e-6;
@@ -31,13 +31,15 @@ struct Segment {
     Point normal() const { return {-direction.y, direction.x}; }
 };
 
+double toleranceOf(double radius) { return std::max(flatteningTolerance, finestArc * radius); }
+
 double dot(Point a, Point b) { return a.x * b.x + a.y * b.y; }
 double cross(Point a, Point b) { return a.x * b.y - a.y * b.x; }
 
 class Stroker {
 public:
-    Stroker(double radius, double tolerance, FlattenedPath& out)
-        : radius_(radius), tolerance_(std::max(tolerance, finestArc * radius)), out_(out) {
+    Stroker(double radius, FlattenedPath& out)
+        : radius_(radius), tolerance_(toleranceOf(radius)), out_(out) {
         // The corner that bisectors leave on a joint stands out by radius · tangent² / 2.
         slightTurn_ = std::sqrt(2 * tolerance_ / radius);
         // The middle of a chord lies radius · (1 − cosine of half the angle) within the arc.
@@ -111,7 +113,7 @@ private:
 
 void Stroker::collect(std::span<const Point> points, bool closed) {
     segments_.clear();
-    const double shortest = joinedDistance * tolerance_;
+    const double shortest = joinedPart * tolerance_;
     const auto addSegment = [&](Point from, Point to) {
         const double dx = to.x - from.x;
         const double dy = to.y - from.y;
@@ -262,7 +264,7 @@ void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double sca
     // The wider side of the pen is the measure: in a plane stretched until the narrower side is as
     // wide, the pen is a circle.
     const double width = std::max(widthX, widthY);
-    Stroker stroker(width / 2, flatteningTolerance, out);
+    Stroker stroker(width / 2, out);
     if (widthX == widthY) {
         addSubPaths(centerLine, stroker);
         return;
@@ -276,5 +278,7 @@ void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double sca
     for (Point& p : out.points)
         p = {p.x / stretchX, p.y / stretchY};
 }
+
+double joinedDistance(double deviceWidth) { return joinedPart * toleranceOf(deviceWidth / 2); }
 
 }  // namespace marlevo

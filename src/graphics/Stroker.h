@@ -26,4 +26,8 @@ namespace marlevo {
 void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double scaleX, double scaleY,
                    FlattenedPath& out);
 
+/// Points of the line at most this far apart, one after the other, are drawn as one, in pixels of
+/// a pen as wide on the device.
+double joinedDistance(double deviceWidth);
+
 }  // namespace marlevo

@@ -1,5 +1,6 @@
 #include "render/LayerPainting.h"
 
+#include "graphics/BitmapContext.h"
 #include "render/MakeRaster.h"
 #include "render/StrokeGeometry.h"
 
@@ -18,6 +19,28 @@ Rect flippedCGRect(std::span<const Point> points, double height) {
     const Point b = points[1];
     return {{std::min(a.x, b.x), height - std::max(a.y, b.y)},
             {std::abs(b.x - a.x), std::abs(b.y - a.y)}};
+}
+
+Path pathOfStroke(const Stroke& stroke, double height) {
+    const auto flip = [height](Point p) { return Point{p.x, height - p.y}; };
+    const auto points = stroke.points.span();
+    Path path;
+    switch (stroke.shapeType) {
+    case Stroke::ShapeType::freehand:
+        addFreehandCurve(path, points, flip);
+        break;
+    case Stroke::ShapeType::line:
+        path.move(flip(points[0]));
+        path.addLine(flip(points[1]));
+        break;
+    case Stroke::ShapeType::rect:
+        path.addRect(flippedCGRect(points, height));
+        break;
+    case Stroke::ShapeType::ellipse:
+        path.addEllipse(flippedCGRect(points, height));
+        break;
+    }
+    return path;
 }
 
 }  // namespace
@@ -45,24 +68,7 @@ void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, Canva
 }
 
 void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) {
-    const auto flip = [height](Point p) { return Point{p.x, height - p.y}; };
-    const auto points = stroke.points.span();
-    Path path;
-    switch (stroke.shapeType) {
-    case Stroke::ShapeType::freehand:
-        addFreehandCurve(path, points, flip);
-        break;
-    case Stroke::ShapeType::line:
-        path.move(flip(points[0]));
-        path.addLine(flip(points[1]));
-        break;
-    case Stroke::ShapeType::rect:
-        path.addRect(flippedCGRect(points, height));
-        break;
-    case Stroke::ShapeType::ellipse:
-        path.addEllipse(flippedCGRect(points, height));
-        break;
-    }
+    const Path path = pathOfStroke(stroke, height);
     context.setAlpha(stroke.opacity);
     if (stroke.isFill) {
         context.fillPath(path, stroke.color);
@@ -72,12 +78,23 @@ void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) {
     context.setAlpha(1);
 }
 
+bool coverByStroke(BitmapContext& context, const Stroke& stroke, double height,
+                   CoveredPixels& covered) {
+    if (stroke.isFill) return true;
+    context.setAlpha(stroke.opacity);
+    const bool isSeen =
+        context.addCovered(pathOfStroke(stroke, height), stroke.color, stroke.lineWidth, covered);
+    context.setAlpha(1);
+    return isSeen;
+}
+
 std::optional<RasterImage> renderLayer(const Layer& layer, CanvasSize canvas, Size size,
                                        const ImageDecoder& decode) {
     const auto raster = RasterSize::truncating(size.width, size.height);
     if (!raster) return std::nullopt;
     constexpr std::uint8_t opaqueWhite = 255;
-    return makeRaster(*raster, opaqueWhite, [&](GraphicsContext& context) {
+    return makeRaster(*raster, opaqueWhite, [&](const PixelBuffer& pixels) {
+        BitmapContext context(pixels, DeviceFrame::yUp(raster->height));
         context.scale(size.width / canvas.width, size.height / canvas.height);
         drawLayer(context, layer, canvas, canvas.height, decode);
     });

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "graphics/BitmapContext.h"
+#include "graphics/PixelBuffer.h"
+#include "graphics/RasterImage.h"
 #include "render/RasterSize.h"
 
 #include <cstdint>
@@ -10,8 +11,8 @@
 
 namespace marlevo {
 
-/// Allocates a raster filled with one byte value and lets `draw` paint on it, in a frame with its
-/// origin at the bottom left and y upwards; nothing when there is not enough memory.
+/// Allocates a raster filled with one byte value and lets `draw` paint on its pixels; nothing when
+/// there is not enough memory.
 template <typename Draw>
 std::optional<RasterImage> makeRaster(RasterSize size, std::uint8_t fill, Draw draw) {
     const std::ptrdiff_t stride = std::ptrdiff_t{size.width} * 4;
@@ -22,9 +23,7 @@ std::optional<RasterImage> makeRaster(RasterSize size, std::uint8_t fill, Draw d
     } catch (const std::bad_alloc&) {
         return std::nullopt;
     }
-    BitmapContext context({bytes.data(), stride, {0, 0, size.width, size.height}},
-                          DeviceFrame::yUp(size.height));
-    draw(context);
+    draw(PixelBuffer{bytes.data(), stride, {0, 0, size.width, size.height}});
     return RasterImage(size.width, size.height, std::move(bytes));
 }
 

@@ -1,18 +1,60 @@
+#include "graphics/BitmapContext.h"
 #include "model/DrawingDocument.h"
+#include "platform/ParallelFor.h"
 #include "render/LayerPainting.h"
+#include "render/LayerRun.h"
 #include "render/MakeRaster.h"
+#include "render/VisibleStrokes.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
 
 namespace marlevo {
+
+namespace {
+
+constexpr int leastRowsOfBand = 64;
+constexpr int maxBands = 8;
+
+/// The picture in bands, which threads may paint.
+std::vector<IntRect> bandsOf(const IntRect& picture) {
+    const int rows = std::max((picture.height() + maxBands - 1) / maxBands, leastRowsOfBand);
+    std::vector<IntRect> bands;
+    for (int top = 0; top < picture.bottom; top += rows)
+        bands.push_back({0, top, picture.right, std::min(top + rows, picture.bottom)});
+    return bands;
+}
+
+}  // namespace
 
 std::optional<RasterImage> DrawingDocument::renderCGImage() const {
     const auto size = RasterSize::truncating(canvasSize->width, canvasSize->height);
     if (!size) return std::nullopt;
-    return makeRaster(*size, 0, [&](GraphicsContext& context) {
-        const double height = size->height;
+    const double height = size->height;
+    return makeRaster(*size, 0, [&](const PixelBuffer& picture) {
         if (!backgroundIsTransparent) {
-            context.fillRect({{0, 0}, {static_cast<double>(size->width), height}}, backgroundColor);
+            const Rect whole{{0, 0}, {static_cast<double>(size->width), height}};
+            BitmapContext(picture, DeviceFrame::yUp(height)).fillRect(whole, backgroundColor);
         }
-        drawLayers(context, height);
+        // Workers see values only, never the document.
+        const CanvasSize canvas = canvasSize;
+        const auto decode = [this](const Bytes& file) { return decodedImages_.image(file); };
+        const std::vector<IntRect> bands = bandsOf(picture.area);
+        forEachRun(layers, decode, [&](const LayerRun& run) {
+            auto strokes = strokesInSight(run, bands, 1);
+            parallelFor(bands.size(), [&](std::size_t i) {
+                BitmapContext context(picture.part(bands[i]), DeviceFrame::yUp(height));
+                drawLayerImageIfPresent(context, *run.layers.front(), canvas, height,
+                                        [&](const Bytes&) { return run.image; });
+                const auto cover = [&](const Stroke& stroke, CoveredPixels& covered) {
+                    return coverByStroke(context, stroke, height, covered);
+                };
+                for (const StrokeInSight& seen :
+                     withoutHidden(std::move(strokes[i]), bands[i], cover))
+                    drawStroke(context, *seen.stroke, height);
+            });
+        });
     });
 }
 

@@ -2,11 +2,15 @@
 
 #include "graphics/BitmapContext.h"
 #include "model/DecodedImages.h"
+#include "platform/ParallelFor.h"
 #include "render/DrawOnScreen.h"
 #include "render/Grid.h"
+#include "render/LayerRun.h"
 #include "render/PaintedArea.h"
 #include "render/PictureDifference.h"
+#include "render/VisibleStrokes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <utility>
@@ -14,11 +18,6 @@
 namespace marlevo {
 
 namespace {
-
-/// The same pixels, of which only the part `area` may be touched.
-PixelBuffer partOf(const PixelBuffer& whole, const IntRect& area) {
-    return {whole.pixel(area.left, area.top), whole.stride, area, whole.order};
-}
 
 void copyPixels(const PixelBuffer& from, const PixelBuffer& to, const IntRect& area) {
     const std::size_t rowBytes = static_cast<std::size_t>(area.width()) * 4;
@@ -32,6 +31,34 @@ void clearPixels(const PixelBuffer& part) {
         std::memset(part.pixel(part.area.left, y), 0,
                     static_cast<std::size_t>(part.area.width()) * 4);
     }
+}
+
+Rect onCanvas(const IntRect& area, double scale) {
+    return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
+}
+
+/// Areas of fewer pixels are painted faster than another thread wakes up.
+constexpr int leastPixelsToShare = 1 << 14;
+
+/// Takes few areas apart so that each core gets some of them; not many, since strokes that lie in
+/// two pieces are prepared twice.
+std::vector<PixelBuffer> cutForAllCores(const std::vector<PixelBuffer>& areas) {
+    constexpr int enough = 4;
+    constexpr int leastRows = 32;
+    int pixels = 0;
+    for (const PixelBuffer& part : areas)
+        pixels += part.area.width() * part.area.height();
+    if (std::ssize(areas) >= enough || pixels < leastPixelsToShare) return areas;
+    std::vector<PixelBuffer> pieces;
+    const int pixelsOfPiece = pixels / 2;
+    for (const PixelBuffer& part : areas) {
+        const int rows = std::max(pixelsOfPiece / part.area.width(), leastRows);
+        for (IntRect piece = part.area; piece.top < part.area.bottom; piece.top = piece.bottom) {
+            piece.bottom = std::min(piece.top + rows, part.area.bottom);
+            pieces.push_back(part.part(piece));
+        }
+    }
+    return pieces;
 }
 
 bool canBeShown(double scale) { return scale > 0 && std::isfinite(scale); }
@@ -52,7 +79,7 @@ std::optional<std::vector<IntRect>> ScreenPicture::takeChanges(const DrawingDocu
                                                                double scale) {
     follow(document, scale);
     std::vector<IntRect> changes;
-    tiles_.forEachKnownTile([&](TileCache::Tile& tile) {
+    tiles_.forEachKnownTile([&](Tile& tile) {
         const IntRect changed = std::exchange(tile.changed, {});
         if (!changed.isEmpty()) changes.push_back(changed);
     });
@@ -64,16 +91,15 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
                           const PixelBuffer& target) {
     follow(document, scale);
     if (!canBeShown(scale) || target.area.isEmpty()) return;
-    tiles_.forEachTile(target.area, [&](TileCache::Tile& tile) {
-        const PixelBuffer pixels = tile.buffer();
-        if (!tile.stale.isEmpty()) render(document, partOf(pixels, std::exchange(tile.stale, {})));
-        copyPixels(pixels, target, tile.area.intersectedWith(target.area));
+    renderStaleTiles(document, target.area);
+    tiles_.forEachKnownTile(target.area, [&](Tile& tile) {
+        copyPixels(tile.pixels(), target, tile.area.intersectedWith(target.area));
     });
     strokeInProgress_.paint(target);
 }
 
 void ScreenPicture::limitMemory(const IntRect& inSight) {
-    if (tiles_.bytes() > maxCachedBytes) tiles_.dropTilesOutside(inSight);
+    if (tiles_.size() * tileBytes > maxCachedBytes) tiles_.dropTilesOutside(inSight);
 }
 
 void ScreenPicture::releaseMemory() {
@@ -106,63 +132,83 @@ void ScreenPicture::showDifference(const LayerList& after, const DrawingDocument
         markChanged(area);
     }
     for (const Stroke* stroke : difference.drawnOver) {
-        drawOver(*stroke);
-        if (!isJoining) markChanged(paintedArea(*stroke, contents_.scale));
+        const IntRect area = paintedArea(*stroke, contents_.scale);
+        paintOver(area, [&](const PixelBuffer& part) {
+            if (isJoining) return strokeInProgress_.paint(part);
+            BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+            drawOnScreen(context, *stroke);
+        });
+        if (!isJoining) markChanged(area);
     }
     const IntRect area = strokeInProgress_.update(inProgress, contents_.scale);
     if (!isJoining) markChanged(area);
 }
 
 void ScreenPicture::markStale(const IntRect& area) {
-    tiles_.forEachKnownTile(area, [&](TileCache::Tile& tile) {
+    tiles_.forEachKnownTile(area, [&](Tile& tile) {
         tile.stale = tile.stale.unitedWith(area.intersectedWith(tile.area));
     });
 }
 
 void ScreenPicture::markChanged(const IntRect& area) {
-    tiles_.forEachKnownTile(area, [&](TileCache::Tile& tile) {
+    tiles_.forEachKnownTile(area, [&](Tile& tile) {
         tile.changed = tile.changed.unitedWith(area.intersectedWith(tile.area));
     });
 }
 
-void ScreenPicture::drawOver(const Stroke& stroke) {
-    const IntRect area = paintedArea(stroke, contents_.scale);
-    tiles_.forEachKnownTile(area, [&](TileCache::Tile& tile) {
-        const PixelBuffer part = partOf(tile.buffer(), area.intersectedWith(tile.area));
-        BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-        drawOnScreen(context, stroke);
+template <typename Paint>
+void ScreenPicture::paintOver(const IntRect& area, Paint paint) {
+    tiles_.forEachKnownTile(
+        area, [&](Tile& tile) { paint(tile.pixels().part(area.intersectedWith(tile.area))); });
+}
+
+void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntRect& area) {
+    std::vector<PixelBuffer> stale;
+    tiles_.forEachTile(area, [&](Tile& tile) {
+        if (!tile.stale.isEmpty()) stale.push_back(tile.pixels().part(tile.stale));
+        tile.stale = {};
+    });
+    if (stale.empty()) return;
+
+    const std::vector<PixelBuffer> parts = cutForAllCores(stale);
+    std::vector<IntRect> areas;
+    for (const PixelBuffer& part : parts)
+        areas.push_back(part.area);
+    parallelFor(parts.size(), [&](std::size_t i) { renderBackground(parts[i]); });
+    const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
+    forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
+        auto strokes = strokesInSight(run, areas, contents_.scale);
+        parallelFor(parts.size(), [&](std::size_t i) {
+            if (run.image) renderImage(run, parts[i]);
+            renderStrokes(std::move(strokes[i]), parts[i]);
+        });
     });
 }
 
-void ScreenPicture::render(const DrawingDocument& document, const PixelBuffer& part) const {
+void ScreenPicture::renderBackground(const PixelBuffer& part) const {
     clearPixels(part);
-    const double scale = contents_.scale;
-    const CanvasSize canvas = contents_.canvasSize;
-    const Rect canvasRect{{0, 0}, {canvas.width, canvas.height}};
-    const Rect visible{{part.area.left / scale, part.area.top / scale},
-                       {part.area.width() / scale, part.area.height() / scale}};
-    BitmapContext context(part, DeviceFrame::yDown(scale));
-    context.fillRect(canvasRect, contents_.background);
+    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    context.fillRect(contents_.canvasRect(), contents_.background);
     if (contents_.hasGrid) {
-        context.fillPath(gridPath(canvas, visible), gridColor_);
+        context.fillPath(gridPath(contents_.canvasSize, onCanvas(part.area, contents_.scale)),
+                         gridColor_);
     }
-    for (const Layer& layer : contents_.layers) {
-        if (!layer.isVisible) continue;
-        if (layer.imageData) {
-            if (const auto image = document.decodedImages().image(*layer.imageData)) {
-                context.setAlpha(layer.opacity);
-                context.drawImage(*image, canvasRect);
-            }
-        }
-        layer.strokes.visit(
-            [&](const StrokeSummary& strokes) {
-                return strokes.reaches(visible, strokes.maxLineWidth / 2 + penFringe / scale);
-            },
-            [&](std::size_t, const Stroke& stroke) {
-                drawOnScreen(context, stroke);
-                return true;
-            });
-    }
+}
+
+void ScreenPicture::renderImage(const LayerRun& run, const PixelBuffer& part) const {
+    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    context.setAlpha(run.layers.front()->opacity);
+    context.drawImage(*run.image, contents_.canvasRect());
+}
+
+void ScreenPicture::renderStrokes(std::vector<StrokeInSight> strokes,
+                                  const PixelBuffer& part) const {
+    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    const auto cover = [&](const Stroke& stroke, CoveredPixels& covered) {
+        return coverOnScreen(context, stroke, covered);
+    };
+    for (const StrokeInSight& seen : withoutHidden(std::move(strokes), part.area, cover))
+        drawOnScreen(context, *seen.stroke);
 }
 
 }  // namespace marlevo

@@ -2,14 +2,20 @@
 
 #include "graphics/Color.h"
 #include "graphics/PixelBuffer.h"
+#include "graphics/TileMap.h"
 #include "model/DrawingDocument.h"
 #include "render/StrokeInProgress.h"
-#include "render/TileCache.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace marlevo {
+
+struct LayerRun;
+struct StrokeInSight;
 
 /// The document's picture as its window shows it: background, grid, layers and the stroke in
 /// progress, at device resolution.
@@ -52,18 +58,41 @@ private:
 
         static Contents of(const DrawingDocument& document, double scale);
         bool isSameView(const Contents& other) const;
+        Rect canvasRect() const { return {{0, 0}, {canvasSize.width, canvasSize.height}}; }
     };
+
+    struct Tile {
+        explicit Tile(const IntRect& place)
+            : area(place), stale(place),
+              bytes(std::make_unique_for_overwrite<std::uint8_t[]>(tileBytes)) {}
+
+        PixelBuffer pixels() {
+            return {bytes.get(), std::ptrdiff_t{tileSide} * 4, area, PixelOrder::bgra};
+        }
+
+        IntRect area;
+        IntRect stale;    ///< the part that must be painted before it is used; all at first
+        IntRect changed;  ///< the part to be reported as looking other than before
+        std::unique_ptr<std::uint8_t[]> bytes;
+    };
+
+    static constexpr int tileSide = 256;
+    static constexpr std::size_t tileBytes = std::size_t{tileSide} * tileSide * 4;
 
     void follow(const DrawingDocument& document, double scale);
     void showDifference(const LayerList& after, const DrawingDocument& document);
     void markStale(const IntRect& area);
     void markChanged(const IntRect& area);
-    void drawOver(const Stroke& stroke);
-    void render(const DrawingDocument& document, const PixelBuffer& part) const;
+    template <typename Paint>
+    void paintOver(const IntRect& area, Paint paint);
+    void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
+    void renderBackground(const PixelBuffer& part) const;
+    void renderImage(const LayerRun& run, const PixelBuffer& part) const;
+    void renderStrokes(std::vector<StrokeInSight> strokes, const PixelBuffer& part) const;
 
     Color gridColor_;
     Contents contents_;
-    TileCache tiles_;
+    TileMap<Tile, tileSide> tiles_;
     StrokeInProgress strokeInProgress_;
     bool isAllChanged_ = true;
 };

@@ -1,11 +1,13 @@
 #include "render/StrokeInProgress.h"
 
 #include "graphics/BitmapContext.h"
+#include "graphics/Flatten.h"
 #include "render/DrawOnScreen.h"
 #include "render/PaintedArea.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
+#include <span>
 
 namespace marlevo {
 
@@ -27,21 +29,23 @@ IntRect StrokeInProgress::update(const std::optional<Stroke>& stroke, double sca
         const IntRect before = areaFrom(0);
         style_.reset();
         points_.clear();
+        growing_.reset();
         return before;
     }
     const auto points = stroke->points.span();
     if (isContinuedBy(*stroke, scale)) {
         const std::size_t known = points_.size();
-        if (known == points.size()) return {};
-        points_.insert(points_.end(), points.begin() + known, points.end());
-        // What was the straight end is now a curve that begins between the last two points.
-        return areaFrom(known < 2 ? 0 : known - 2);
+        points_.insert(points_.end(), points.begin() + static_cast<std::ptrdiff_t>(known),
+                       points.end());
+        return points_.size() > known ? grow(known) : IntRect{};
     }
     const IntRect before = areaFrom(0);
     style_ = *stroke;
     style_->points = {};
     points_.assign(points.begin(), points.end());
     scale_ = scale;
+    startGrowing();
+    grow(0);
     return before.unitedWith(areaFrom(0));
 }
 
@@ -57,6 +61,48 @@ bool StrokeInProgress::isContinuedBy(const Stroke& stroke, double scale) const {
            std::equal(points_.begin(), points_.end(), stroke.points.begin());
 }
 
+void StrokeInProgress::startGrowing() {
+    const double width = style_->lineWidth * scale_;
+    const bool canGrow = style_->shapeType == Stroke::ShapeType::freehand && !style_->isFill &&
+                         width > 0 && std::isfinite(width);
+    growing_ = canGrow ? GrowingStroke::make(width) : nullptr;
+    curvesDrawn_ = 0;
+}
+
+/// Draws what comes with the points behind the first `known`. The curve towards a point is fixed
+/// when the next point is there.
+IntRect StrokeInProgress::grow(std::size_t known) {
+    const std::size_t count = points_.size();
+    if (count < 2) return {};
+    const bool isPlain = std::all_of(
+        points_.begin() + static_cast<std::ptrdiff_t>(known), points_.end(), [&](Point p) {
+            constexpr double limit = GrowingStroke::maxCoordinate;
+            return std::abs(p.x * scale_) <= limit && std::abs(p.y * scale_) <= limit;
+        });
+    if (!isPlain || (growing_ && growing_->bytes() > maxGrowingBytes)) growing_.reset();
+    if (!growing_) return areaFrom(known < 2 ? 0 : known - 2);
+
+    const auto middle = [&](std::size_t i) {
+        return Point{(points_[i].x + points_[i + 1].x) * 0.5,
+                     (points_[i].y + points_[i + 1].y) * 0.5};
+    };
+    Path path;
+    path.move(curvesDrawn_ == 0 ? points_[0] : middle(curvesDrawn_ - 1));
+    if (count > 2) {
+        for (std::size_t i = curvesDrawn_; i + 1 < count; ++i)
+            path.addQuadCurve(middle(i), points_[i]);
+    }
+    path.addLine(points_.back());
+    FlattenedPath line;
+    flatten(path, DeviceFrame::yDown(scale_), flatteningTolerance, line);
+
+    // The line begins with a point that is there already, but at first.
+    const std::size_t first = known < 2 ? 0 : 1;
+    const auto fixed = std::span(line.points).subspan(first, line.points.size() - 1 - first);
+    if (count > 2) curvesDrawn_ = count - 1;
+    return growing_->extend(fixed, line.points.back());
+}
+
 IntRect StrokeInProgress::areaFrom(std::size_t firstPoint) const {
     if (!style_ || points_.size() < 2) return {};
     return paintedArea(boundsOf(std::span(points_).subspan(firstPoint)), style_->lineWidth, scale_);
@@ -64,6 +110,10 @@ IntRect StrokeInProgress::areaFrom(std::size_t firstPoint) const {
 
 void StrokeInProgress::paint(const PixelBuffer& target) const {
     if (!style_ || points_.size() < 2) return;
+    if (growing_) {
+        growing_->blendInto(target, packColor(style_->color, style_->opacity, target.order));
+        return;
+    }
     BitmapContext context(target, DeviceFrame::yDown(scale_));
     Stroke stroke = *style_;
     stroke.points = PointList(points_);

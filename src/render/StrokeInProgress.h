@@ -1,15 +1,20 @@
 #pragma once
 
+#include "graphics/GrowingStroke.h"
 #include "graphics/IntRect.h"
 #include "graphics/PixelBuffer.h"
 #include "model/Stroke.h"
 
+#include <cstddef>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace marlevo {
 
-/// The stroke that is being drawn, as the screen shows it over the finished picture.
+/// The stroke that is being drawn, as the screen shows it over the finished picture: in the very
+/// bytes that drawing it whole would give. A freehand one is kept as what it covers, so that an
+/// event costs no more the longer it gets.
 class StrokeInProgress {
 public:
     /// Takes the stroke as it is now, if there is one, seen at `scale` device pixels a canvas
@@ -22,13 +27,20 @@ public:
     void paint(const PixelBuffer& target) const;
 
 private:
+    /// What a stroke that grows may keep for its pixels; one that needs more is drawn whole.
+    static constexpr std::size_t maxGrowingBytes = std::size_t{64} << 20;
+
     bool isContinuedBy(const Stroke& stroke, double scale) const;
+    void startGrowing();
+    IntRect grow(std::size_t known);
     IntRect areaFrom(std::size_t firstPoint) const;
 
     /// Points apart, since holding on to a list that grows would make it move.
     std::optional<Stroke> style_;
     std::vector<Point> points_;
     double scale_ = 0;
+    std::unique_ptr<GrowingStroke> growing_;  ///< of a stroke that is drawn piece by piece
+    std::size_t curvesDrawn_ = 0;             ///< for good
 };
 
 }  // namespace marlevo

@@ -62,7 +62,7 @@ CanvasView::Overlay CanvasView::Overlay::of(const DrawingDocument& document) {
 
 CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document), imageDrop_(document),
-      reader_(document.changeRegistry(), [this](DocumentProperty) { announceChange(); }),
+      reader_(document.changeRegistry(), [this](DocumentProperty property) { follow(property); }),
       pointerShape_(document, [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
     setAcceptDrops(true);
@@ -71,9 +71,11 @@ CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
 }
 
 /// Looks at what changed once the current event is over: until then a stroke that joins its layer
-/// is there twice, or the picture of a file still has the old size.
-void CanvasView::announceChange() {
+/// is there twice, or the picture of a file still has the old size. Only a stroke that grows does
+/// not wait: it changes with each event, and alone.
+void CanvasView::follow(DocumentProperty property) {
     if (isChangeAnnounced_) return;
+    if (property == DocumentProperty::currentStroke) return updateWhatChanged();
     isChangeAnnounced_ = true;
     QMetaObject::invokeMethod(this, &CanvasView::updateWhatChanged, Qt::QueuedConnection);
 }

@@ -55,7 +55,7 @@ private:
         static Overlay of(const DrawingDocument& document);
     };
 
-    void announceChange();
+    void follow(DocumentProperty property);
     void updateWhatChanged();
     void updateOverlay();
     void updateOutline(const std::optional<Outline>& outline);

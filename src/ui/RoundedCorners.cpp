@@ -26,6 +26,10 @@ void clipToRoundedRect(QImage& image, QPoint imageOrigin, QSizeF size, double ra
     const double width = size.width();
     const double height = size.height();
     const QRectF area(imageOrigin, image.size());
+    // Most of what is painted lies well inside.
+    if (QRectF(QPointF(0, r), QPointF(width, height - r)).contains(area) ||
+        QRectF(QPointF(r, 0), QPointF(width - r, height)).contains(area))
+        return;
 
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -1,4 +1,6 @@
+#include "graphics/BitmapContext.h"
 #include "model/DrawingDocument.h"
+#include "render/LayerPainting.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/Strokes.h"
 
@@ -8,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <random>
 
 namespace marlevo {
 namespace {
@@ -172,6 +175,37 @@ TEST_F(RasterCompositing, SingleLayersAreStretchedOverWhite) {
 
     document.canvasSize = CanvasSize{0, 0};
     EXPECT_TRUE(document.renderSingleLayer(document.layers->front(), {88, 64}));
+}
+
+TEST_F(RasterCompositing, PaintedInPartsThePictureHasTheBytesOfOnePaintedAtOnce) {
+    std::mt19937 random(5);
+    const auto below = [&](int end) { return std::uniform_int_distribution(0, end - 1)(random); };
+    document.canvasSize = CanvasSize{330.5, 700.25};
+    for (std::size_t layer = 0; layer < 4; ++layer) {
+        if (layer == 2)
+            addImage(40, 60, {128, 64, 0, 0}, {255, 0, 128, 255}, 0.7);
+        else if (layer > 0)
+            document.addLayer();
+        for (int i = 0; i < 60; ++i) {
+            std::vector<Point> points;
+            for (int n = 2 + below(5); n > 0; --n)
+                points.push_back({below(4000) / 10.0 - 30, below(8000) / 10.0 - 50});
+            Stroke stroke = makeStroke(PointList(std::move(points)), below(3) == 0 ? 40 : 1,
+                                       Stroke::allShapeTypes[below(4)]);
+            stroke.opacity = 0.6;
+            stroke.isFill = below(5) == 0;
+            add(stroke, layer);
+        }
+    }
+    const double height = 700;
+    std::vector<std::uint8_t> bytes(330 * 700 * 4);
+    BitmapContext atOnce({bytes.data(), 330 * 4, {0, 0, 330, 700}}, DeviceFrame::yUp(height));
+    atOnce.fillRect({{0, 0}, {330, 700}}, document.backgroundColor);
+    for (const Layer& layer : *document.layers) {
+        drawLayer(atOnce, layer, document.canvasSize, height,
+                  [&](const Bytes& file) { return codec.decode(file.span()); });
+    }
+    EXPECT_EQ(document.renderCGImage(), RasterImage(330, 700, bytes));
 }
 
 }  // namespace

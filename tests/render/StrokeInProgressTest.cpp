@@ -1,0 +1,148 @@
+#include "render/StrokeInProgress.h"
+
+#include "graphics/BitmapContext.h"
+#include "render/DrawOnScreen.h"
+#include "tests/support/Strokes.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace marlevo {
+namespace {
+
+constexpr IntRect sight{-30, -20, 300, 240};
+
+class Picture {
+public:
+    Picture() : bytes_(static_cast<std::size_t>(sight.width()) * sight.height() * 4, 0x5A) {}
+
+    PixelBuffer part(const IntRect& area) {
+        const PixelBuffer whole{bytes_.data(), std::ptrdiff_t{sight.width()} * 4, sight,
+                                PixelOrder::bgra};
+        return {whole.pixel(area.left, area.top), whole.stride, area, whole.order};
+    }
+
+    /// As it was before anything was drawn in the area.
+    void clean(const IntRect& area) {
+        const PixelBuffer pixels = part(area);
+        for (int y = area.top; y < area.bottom; ++y)
+            std::fill_n(pixels.pixel(area.left, y), std::ptrdiff_t{area.width()} * 4, 0x5A);
+    }
+
+    friend bool operator==(const Picture&, const Picture&) = default;
+
+private:
+    std::vector<std::uint8_t> bytes_;
+};
+
+Picture drawnWhole(const Stroke& stroke, double scale) {
+    Picture picture;
+    BitmapContext context(picture.part(sight), DeviceFrame::yDown(scale));
+    drawOnScreen(context, stroke);
+    return picture;
+}
+
+/// A pointer that turns, hesitates, jitters, goes back on its way and jumps.
+class Pointer {
+public:
+    explicit Pointer(unsigned seed) : random_(seed) {}
+
+    Point next() {
+        switch (below(12)) {
+        case 0:
+            break;  // stays
+        case 1:
+            angle_ += 3.1;
+            break;
+        case 2:
+            at_ = {at_.x + below(100) / 1e4, at_.y + below(100) / 1e4};
+            return at_;
+        case 3:
+            at_ = {below(4000) / 10.0 - 50, below(3000) / 10.0 - 40};
+            return at_;
+        default:
+            angle_ += below(100) / 100.0 - 0.5;
+            const double step = below(160) / 10.0;
+            at_ = {at_.x + step * std::cos(angle_), at_.y + step * std::sin(angle_)};
+        }
+        return at_;
+    }
+
+    int below(int end) { return std::uniform_int_distribution(0, end - 1)(random_); }
+
+private:
+    std::mt19937 random_;
+    Point at_{130, 90};
+    double angle_ = 0;
+};
+
+TEST(StrokeInProgress, ShowsAtEachMomentWhatDrawingItWholeWould) {
+    for (unsigned seed = 0; seed < 48; ++seed) {
+        Pointer pointer(seed);
+        const double scale = std::vector{0.4, 1.0, 1.0, 2.5}[seed % 4];
+        const double width = seed % 3 == 0 ? 160 : 1 + pointer.below(seed % 3 == 1 ? 24 : 80);
+        Stroke stroke = makeStroke({pointer.next()}, width);
+        stroke.opacity = seed % 2 == 0 ? 0.5 : 1;
+        StrokeInProgress inProgress;
+        Picture shown;
+        for (int step = 0; step < 50; ++step) {
+            const auto changed = inProgress.update(stroke, scale).intersectedWith(sight);
+            if (!changed.isEmpty()) {
+                shown.clean(changed);
+                inProgress.paint(shown.part(changed));
+            }
+            ASSERT_EQ(shown, drawnWhole(stroke, scale))
+                << "seed " << seed << ", width " << width << ", points " << stroke.points.size();
+            for (int events = 1 + pointer.below(10) / 8; events > 0; --events)
+                stroke.points.append(pointer.next());
+        }
+    }
+}
+
+TEST(StrokeInProgress, KnowsAnotherStrokeFromALongerOne) {
+    StrokeInProgress inProgress;
+    const auto verify = [&](const Stroke& stroke, double scale) {
+        inProgress.update(stroke, scale);
+        Picture shown;
+        inProgress.paint(shown.part(sight));
+        EXPECT_EQ(shown, drawnWhole(stroke, scale));
+    };
+    for (const double width : {5.0, 50.0}) {
+        verify(makeStroke({{10, 10}, {60, 30}, {90, 90}}, width), 1);
+        verify(makeStroke({{10, 10}, {60, 31}, {90, 90}, {100, 120}}, width), 1);
+        verify(makeStroke({{10, 10}, {60, 31}, {90, 90}, {100, 120}}, width + 1), 1);
+        verify(makeStroke({{10, 10}, {60, 31}, {90, 90}, {100, 120}}, width + 1), 1.5);
+        verify(makeStroke({{10, 10}, {60, 31}, {90, 90}}, width + 1), 1.5);
+    }
+    const IntRect gone = inProgress.update(std::nullopt, 1.5);
+    EXPECT_LE(gone.left, -20);
+    EXPECT_GE(gone.bottom, 170);
+    EXPECT_EQ(inProgress.update(std::nullopt, 1.5), IntRect{});
+}
+
+TEST(StrokeInProgress, StrangePointsNeverHurt) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const double width : {3.0, 70.0}) {
+        for (const Point strange :
+             {Point{NAN, 50}, {infinity, 0}, {1e9, 1e9}, {1e300, -1e300}, {3e6, 40}, {6e4, 4e4}}) {
+            Stroke stroke = makeStroke({{10, 10}, {60, 30}}, width);
+            StrokeInProgress inProgress;
+            for (const Point p : {strange, Point{100, 100}, Point{120, 90}}) {
+                inProgress.update(stroke, 1);
+                stroke.points.append(p);
+            }
+            inProgress.update(stroke, 1);
+            Picture shown;
+            inProgress.paint(shown.part(sight));
+            EXPECT_EQ(shown, drawnWhole(stroke, 1));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace marlevo
