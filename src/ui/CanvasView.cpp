@@ -160,7 +160,7 @@ void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
     const QRect part = pixels.touchedBy(exposed) & whole;
     if (part.isEmpty()) return;
     frame_.resize(static_cast<std::size_t>(part.width()) * part.height() * 4);
-    QImage frame(frame_.data(), part.width(), part.height(), part.width() * 4,
+    QImage frame(frame_.data(), part.width(), part.height(), qsizetype(part.width()) * 4,
                  QImage::Format_ARGB32_Premultiplied);
 
     picture_.paint(document_, deviceScale(), pixelsOf(frame, part.topLeft()));
