@@ -64,7 +64,7 @@ void StrokeList::replace(std::size_t at, Stroke stroke) {
 StrokeSummary StrokeList::summary() const {
     StrokeSummary summary = tree_ ? tree_->summary : StrokeSummary{};
     for (const auto& record : tail())
-        summary.add(StrokeSummary::of(record->stroke));
+        summary.add(record->summary);
     return summary;
 }
 

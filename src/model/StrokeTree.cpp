@@ -101,7 +101,7 @@ void Leaf::truncate(std::size_t size) {
 void Leaf::summarise() {
     summary = {};
     for (const Ref<Record>& record : records())
-        summary.add(StrokeSummary::of(record->stroke));
+        summary.add(record->summary);
 }
 
 void Branch::erase(std::size_t at) {
@@ -161,7 +161,7 @@ void replace(Ref<Node>& root, std::size_t index, Stroke stroke) {
 
 void replace(Ref<Record>& record, Stroke stroke) {
     if (record.isUnique())
-        record->stroke = std::move(stroke);
+        record->replace(std::move(stroke));
     else
         record = Ref<Record>::make(std::move(stroke));
 }

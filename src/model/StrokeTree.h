@@ -20,8 +20,16 @@ namespace marlevo::stroke_tree {
 inline constexpr std::size_t fanOut = 32;
 
 struct Record : RefCounted {
-    explicit Record(Stroke initial) : stroke(std::move(initial)) {}
+    explicit Record(Stroke initial)
+        : stroke(std::move(initial)), summary(StrokeSummary::of(stroke)) {}
+
+    void replace(Stroke other) {
+        stroke = std::move(other);
+        summary = StrokeSummary::of(stroke);
+    }
+
     Stroke stroke;
+    StrokeSummary summary;  ///< so that a search need not go to the points
 };
 
 struct Node : RefCounted {
@@ -95,9 +103,11 @@ void replace(Ref<Record>& record, Stroke stroke);
 template <typename Predicate, typename Visitor>
 bool visit(std::span<const Ref<Record>> records, std::size_t index, const Predicate& matters,
            Visitor& visitor) {
+    // A search mostly waits for records that lie anywhere in memory; together they come faster.
+    for (const Ref<Record>& record : records)
+        __builtin_prefetch(&record->summary);
     for (const Ref<Record>& record : records) {
-        const Stroke& stroke = record->stroke;
-        if (matters(StrokeSummary::of(stroke)) && !visitor(index, stroke)) return false;
+        if (matters(record->summary) && !visitor(index, record->stroke)) return false;
         ++index;
     }
     return true;

@@ -98,10 +98,6 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
     strokeInProgress_.paint(target);
 }
 
-void ScreenPicture::limitMemory(const IntRect& inSight) {
-    if (tiles_.size() * tileBytes > maxCachedBytes) tiles_.dropTilesOutside(inSight);
-}
-
 void ScreenPicture::releaseMemory() {
     tiles_.clear();
     isAllChanged_ = true;
