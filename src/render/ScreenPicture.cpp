@@ -168,6 +168,7 @@ void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntR
 
     const std::vector<PixelBuffer> parts = cutForAllCores(stale);
     std::vector<IntRect> areas;
+    areas.reserve(parts.size());
     for (const PixelBuffer& part : parts)
         areas.push_back(part.area);
     parallelFor(parts.size(), [&](std::size_t i) { renderBackground(parts[i]); });
