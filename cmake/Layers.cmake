@@ -9,6 +9,7 @@ target_compile_options(marlevo_flags INTERFACE
   -ffp-contract=off
   $<$<BOOL:${MARLEVO_WERROR}>:-Werror>)
 if(MARLEVO_SANITIZE)
+  target_compile_definitions(marlevo_flags INTERFACE MARLEVO_SANITIZED)
   target_compile_options(marlevo_flags INTERFACE
     -fsanitize=${MARLEVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
     # gcc's flow analysis loses its way in instrumented code and finds uses of what is not there.
@@ -58,10 +59,3 @@ function(marlevo_program name)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 endfunction()
 
-# Compiles the catalogues of translations/ into the program, at :/translations.
-function(marlevo_catalogues program)
-  file(GLOB catalogues CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/*.ts)
-  qt_add_translation(compiled ${catalogues})
-  qt_add_resources(${program} catalogues PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR}
-    FILES ${compiled})
-endfunction()

@@ -12,10 +12,11 @@ build_preset() {
     cmake --build --preset "$preset" -j "$(nproc)" -- --quiet
 }
 
-# with_display <command>...: runs the command on a virtual screen with a window manager.
+# with_display <command>...: runs the command on a virtual screen with a window manager; the screen
+# is as large as $screen_size says.
 with_display() {
     # shellcheck disable=SC2016
-    xvfb-run -a -s "-screen 0 1600x1000x24" bash -c '
+    xvfb-run -a -s "-screen 0 ${screen_size:-1600x1000}x24" bash -c '
         scratch=$(mktemp -d)
         mkfifo "$scratch/ready"
         # Windows opened while the manager starts are hidden and shown again under their feet.

@@ -1,13 +1,11 @@
-#!/bin/sh
-# Fuzzes the document reader for so many seconds (60 if not said). Fails on the first crash, whose
-# input is left in build/fuzz/.
-set -eu
-cd "$(dirname "$0")/.."
-seconds=${1:-60}
-
-cmake --preset fuzz
-cmake --build --preset fuzz --target fuzz_document
-scripts/make-corpus.py build/fuzz/seeds
+#!/usr/bin/env bash
+# Fuzzes the document reader for so many seconds (60 if not said) under sanitizers. Fails on the
+# first crash, whose input is left in build/fuzz/.
+set -euo pipefail
+"$(dirname "$0")/setup.sh" sanitize
+. "$(dirname "$0")/common.sh"
+build_preset asan
 mkdir -p build/fuzz/corpus
-exec build/fuzz/fuzz/fuzz_document -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-    -artifact_prefix=build/fuzz/ -print_final_stats=1 build/fuzz/corpus build/fuzz/seeds
+scripts/make-corpus.py build/fuzz/seeds
+exec build/asan/fuzz/fuzz_document -max_total_time="${1:-60}" -timeout=10 -rss_limit_mb=2048 \
+    -artifact_prefix=build/fuzz/ build/fuzz/corpus build/fuzz/seeds

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|fuzz|pictures]...
+# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|sanitize|package|pictures]...
 # Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev zlib1g-dev qt6-base-dev qt6-svg-dev
-       qt6-image-formats-plugins qt6-tools-dev qt6-l10n-tools)
+build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev libcairo2-dev pkg-config qt6-base-dev qt6-svg-dev
+       qt6-image-formats-plugins qt6-tools-dev qt6-l10n-tools qt6-translations-l10n)
 virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
 
 wanted=()
@@ -14,10 +14,11 @@ for purpose in "${@:-build}"; do
         run)   wanted+=("${build[@]}")
                [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
         test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev poppler-utils mupdf-tools ghostscript "${virtual_display[@]}") ;;
-        bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev pkg-config) ;;
+        bench) wanted+=("${build[@]}" libbenchmark-dev libxcb-xtest0-dev python3 "${virtual_display[@]}") ;;
+        package) wanted+=(dpkg-dev desktop-file-utils appstream lintian) ;;
         pictures) wanted+=("${virtual_display[@]}") ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
-        fuzz)  wanted+=(cmake ninja-build libhwy-dev libsimdjson-dev zlib1g-dev clang) ;;
+        sanitize) wanted+=("${build[@]}" libgtest-dev libgmock-dev clang libclang-rt-dev) ;;
         *) echo "setup.sh: no purpose named '$purpose'" >&2; exit 2 ;;
     esac
 done

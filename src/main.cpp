@@ -11,11 +11,27 @@
 #include "platform/qt/QtStrings.h"
 #include "ui/Icons.h"
 #include "ui/MarlevoApp.h"
+#include "ui/MarlevoStyle.h"
 #include "ui/Translations.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include <csignal>
+#include <filesystem>
+#include <vector>
+
+namespace {
+
+/// The files named on the command line, from a desktop's file manager for example.
+std::vector<std::filesystem::path> drawingsToOpen() {
+    std::vector<std::filesystem::path> files;
+    for (const QString& argument : QApplication::arguments().mid(1))
+        files.emplace_back(QFileInfo(argument).absoluteFilePath().toStdU16String());
+    return files;
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     // A closed output and a limit on file size are errors of the write that meets them, not ends of
@@ -23,14 +39,15 @@ int main(int argc, char* argv[]) {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 
-    // Every position of the pointer becomes a point of the stroke: none may be merged away.
+    QApplication application(argc, argv);
+    QApplication::setStyle(new marlevo::MarlevoStyle);
+    // Every position of the pointer becomes a point of the stroke: none may be merged away. After
+    // the application, which asks for merging when it is made on X11.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
-
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
     QApplication::setApplicationVersion(QStringLiteral(MARLEVO_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("marlevo"));
     QApplication::setWindowIcon(marlevo::applicationIcon());
     const marlevo::Translations translations;
     marlevo::KeyRepeatFilter keyRepeatFilter;
@@ -57,6 +74,6 @@ int main(int argc, char* argv[]) {
                              .printer = &printer,
                              .pasteboard = &pasteboard,
                              .strings = &strings});
-    app.openWindow();
+    app.openWindows(drawingsToOpen());
     return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "io/Base64.h"
 #include "io/DocumentFields.h"
 #include "io/JsonSyntax.h"
+#include "io/OnTwoThreads.h"
 
 #include <simdjson.h>
 
@@ -33,11 +34,13 @@ constexpr bool isRequired<std::optional<Value>> = false;
 /// parser does not know it.
 class RecordReader {
 public:
-    explicit RecordReader(std::string_view text) : text_(text) {}
+    enum class Strokes : unsigned char { oneByOne, onTwoThreads };
+
+    RecordReader(std::string_view text, Strokes strokes) : text_(text), strokes_(strokes) {}
 
     Result<DocumentData> read() {
         DocumentData document;
-        const bool isRead = readRoot(document);
+        const bool isRead = readRoot(document, 0);
         if (!isRead || sawProblem_) {
             // After a problem the parser has skipped text that nobody looked at.
             if (const auto fault = JsonSyntax::findFault(text_)) return describe(*fault);
@@ -45,6 +48,13 @@ public:
         if (isRead) return document;
         const bool hasPath = !problem_.path.text().empty();
         return Failure{problem_.path.text() + (hasPath ? ": " : "") + problem_.text};
+    }
+
+    /// The document if nothing in it is wrong; why it is not, only read() can say.
+    std::optional<DocumentData> readFaultless() {
+        std::optional<DocumentData> document(std::in_place);
+        if (!readRoot(*document, 0) || sawProblem_) document.reset();
+        return document;
     }
 
 private:
@@ -55,18 +65,19 @@ private:
 
     // ---- Records --------------------------------------------------------------------------------
 
-    bool readRoot(DocumentData& record) {
-        ondemand::parser parser;
+    /// The whole text as one record, which stands inside `depth` arrays and objects.
+    template <typename Record>
+    bool readRoot(Record& record, std::size_t depth) {
         ondemand::document document;
         json_type type{};
         ondemand::object object;
         const simdjson::padded_string_view padded(text_.data(), text_.size(),
                                                   text_.size() + PaddedBytes::padding);
-        if (const auto error = parser.iterate(padded).get(document)) return broken(error);
+        if (const auto error = parser_.iterate(padded).get(document)) return broken(error);
         if (const auto error = document.type().get(type)) return broken(error);
         if (type != json_type::object) return problem("an object was expected");
         if (const auto error = document.get_object().get(object)) return broken(error);
-        if (!readMembers(object, record, 1)) return false;
+        if (!readMembers(object, record, depth + 1)) return false;
         const bool isAtEnd = document.current_location().error() == simdjson::OUT_OF_BOUNDS;
         return isAtEnd || broken(simdjson::TRAILING_CONTENT);
     }
@@ -124,8 +135,43 @@ private:
         return readMembers(object, record, depth + 1);
     }
 
+    /// Strokes are most of a long text. Finding where each of them ends is quick, reading them is
+    /// shared out.
+    bool readValue(ondemand::value value, std::vector<StrokeData>& strokes, std::size_t depth) {
+        if (strokes_ == Strokes::oneByOne) return readList(value, strokes, depth);
+        ondemand::array array;
+        if (!is(value, json_type::array)) return problem("an array was expected");
+        if (const auto error = value.get_array().get(array)) return broken(error);
+        std::vector<std::string_view> texts;
+        for (auto element : array) {
+            ondemand::object object;
+            if (const auto error = element.get_object().get(object)) return broken(error);
+            if (const auto error = object.raw_json().get(texts.emplace_back()))
+                return broken(error);
+        }
+        strokes.clear();
+        strokes.resize(texts.size());
+
+        constexpr std::size_t batch = 128;
+        std::atomic<bool> isFaultless = true;
+        onTwoThreads((texts.size() + batch - 1) / batch, [&](std::size_t number) {
+            RecordReader reader({}, Strokes::oneByOne);
+            const std::size_t end = std::min(texts.size(), (number + 1) * batch);
+            for (std::size_t i = number * batch; i < end && isFaultless; ++i) {
+                reader.text_ = texts[i];
+                if (!reader.readRoot(strokes[i], depth + 1) || reader.sawProblem_)
+                    isFaultless = false;
+            }
+        });
+        return isFaultless || problem("a stroke is not what was expected");
+    }
+
+    bool readValue(ondemand::value value, std::vector<LayerData>& layers, std::size_t depth) {
+        return readList(value, layers, depth);
+    }
+
     template <typename Record>
-    bool readValue(ondemand::value value, std::vector<Record>& records, std::size_t depth) {
+    bool readList(ondemand::value value, std::vector<Record>& records, std::size_t depth) {
         ondemand::array array;
         if (!is(value, json_type::array)) return problem("an array was expected");
         if (const auto error = value.get_array().get(array)) return broken(error);
@@ -279,6 +325,8 @@ private:
     }
 
     std::string_view text_;
+    Strokes strokes_;
+    ondemand::parser parser_;
     std::vector<Point> points_;  ///< reused by every stroke
     Problem problem_;
     bool sawProblem_ = false;
@@ -291,7 +339,13 @@ Result<DocumentData> readDocumentData(const PaddedBytes& contents) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     std::string_view text = contents.text();
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
-    return RecordReader(text).read();
+
+    constexpr std::size_t longText = std::size_t{1} << 20;
+    if (text.size() >= longText) {
+        auto document = RecordReader(text, RecordReader::Strokes::onTwoThreads).readFaultless();
+        if (document) return std::move(*document);
+    }
+    return RecordReader(text, RecordReader::Strokes::oneByOne).read();
 }
 
 }  // namespace marlevo

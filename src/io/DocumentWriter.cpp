@@ -4,13 +4,11 @@
 #include "io/DocumentFields.h"
 #include "io/JsonText.h"
 #include "io/KeyPath.h"
+#include "io/OnTwoThreads.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <functional>
-#include <future>
-#include <system_error>
 
 namespace marlevo {
 namespace {
@@ -35,22 +33,10 @@ public:
     }
 
     void run() {
-        std::atomic<std::size_t> next = 0;
-        const auto work = [&] {
-            for (std::size_t i = next++; i < parts_.size(); i = next++)
-                for (const auto& piece : parts_[i].pieces)
-                    piece(parts_[i].text);
-        };
-        std::future<void> helper;
-        if (parts_.size() > 1) {
-            try {
-                helper = std::async(std::launch::async, work);
-            } catch (const std::system_error&) {
-                // No thread to be had: the caller does it all.
-            }
-        }
-        work();
-        if (helper.valid()) helper.get();
+        onTwoThreads(parts_.size(), [this](std::size_t i) {
+            for (const auto& piece : parts_[i].pieces)
+                piece(parts_[i].text);
+        });
     }
 
     bool isFinite() const {

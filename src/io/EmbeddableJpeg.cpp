@@ -147,7 +147,7 @@ private:
     std::optional<EmbeddableJpeg> result() const {
         const bool isPlain = isGray_ ? !hasProfile_ : !hasOtherColors_;
         if (width_ == 0 || !isPlain) return std::nullopt;
-        return EmbeddableJpeg{width_, height_, isGray_, orientation_};
+        return EmbeddableJpeg{width_, height_, orientation_};
     }
 
     ByteReader file_;

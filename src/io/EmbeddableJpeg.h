@@ -10,7 +10,6 @@ namespace marlevo {
 struct EmbeddableJpeg {
     int width;  ///< as stored, before the orientation turns it
     int height;
-    bool isGray;
     int orientation;  ///< as in TIFF 6.0 and Exif: 1 to 8, 1 being upright
 
     /// Nothing when the file is no JPEG, or one that page readers would show in other colours than

@@ -5,21 +5,21 @@ namespace marlevo {
 FileType fileType(ExportFormat format, const Services& services) {
     switch (format) {
     case ExportFormat::png:
-        return {services.translate("Files", "PNG image"), "image/png", {"png"}};
+        return {services.translate("Files", "PNG image"), {"png"}};
     case ExportFormat::jpeg:
-        return {services.translate("Files", "JPEG image"), "image/jpeg", {"jpeg", "jpg"}};
+        return {services.translate("Files", "JPEG image"), {"jpeg", "jpg"}};
     case ExportFormat::tiff:
-        return {services.translate("Files", "TIFF image"), "image/tiff", {"tiff", "tif"}};
+        return {services.translate("Files", "TIFF image"), {"tiff", "tif"}};
     case ExportFormat::bmp:
-        return {services.translate("Files", "BMP image"), "image/bmp", {"bmp"}};
+        return {services.translate("Files", "BMP image"), {"bmp"}};
     case ExportFormat::pdf:
-        return {services.translate("Files", "PDF document"), "application/pdf", {"pdf"}};
+        return {services.translate("Files", "PDF document"), {"pdf"}};
     }
     return {};
 }
 
 FileType documentFileType(const Services& services) {
-    return {services.translate("Files", "Marlevo drawing"), "application/x-marlevo", {"marlevo"}};
+    return {services.translate("Files", "Marlevo drawing"), {"marlevo"}};
 }
 
 }  // namespace marlevo

@@ -30,7 +30,7 @@ bool ImageDrop::handleDrop(std::span<const std::unique_ptr<ItemProvider>> provid
         if (!provider->offersImage()) continue;
         hasImage = true;
         provider->loadImage([mainQueue, target = std::weak_ptr(target_)](auto file) {
-            if (!file || file->empty()) return;
+            if (!file) return;
             mainQueue->post([target, bytes = std::move(*file)]() mutable {
                 if (const auto document = target.lock())
                     addImageLayer(**document, std::move(bytes));

@@ -156,6 +156,9 @@ public:
     JsonSyntax::Fault fault() const { return {position_, path_, reason_}; }
 
 private:
+    /// The key path of a fault ends here; deeper, line and column tell the place as well.
+    static constexpr std::size_t stepsShown = 10;
+
     bool object(std::size_t depth) {
         if (depth == JsonSyntax::maxDepth) return fail("the values are nested too deep");
         ++position_;
@@ -169,7 +172,7 @@ private:
             if (!take(':')) return fail("':' was expected");
             skipSpace();
             if (!value(depth + 1)) {
-                path_.prependKey(key);
+                if (depth < stepsShown) path_.prependKey(key);
                 return false;
             }
             skipSpace();
@@ -186,7 +189,7 @@ private:
         if (take(']')) return true;
         for (std::size_t index = 0;; ++index) {
             if (!value(depth + 1)) {
-                path_.prependIndex(index);
+                if (depth < stepsShown) path_.prependIndex(index);
                 return false;
             }
             skipSpace();

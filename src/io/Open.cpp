@@ -1,12 +1,14 @@
 #include "io/Open.h"
 
 #include "io/DocumentReader.h"
+#include "io/FileDescriptor.h"
 #include "io/FileTypes.h"
 #include "io/ReadFile.h"
 #include "model/DrawingDocument.h"
 #include "platform/Console.h"
 #include "platform/FilePanels.h"
 
+#include <new>
 #include <string>
 
 namespace marlevo {
@@ -14,25 +16,31 @@ namespace marlevo {
 namespace {
 
 Result<DocumentData> readDocument(const std::filesystem::path& file) {
-    const auto contents = readWholeFile(file);
-    if (!contents) return Failure{contents.error()};
-    auto data = readDocumentData(*contents);
-    if (!data) return Failure{file.string() + ": " + data.error()};
-    return data;
-}
-
-void load(const std::filesystem::path& file, DrawingDocument& document) {
-    const auto data = readDocument(file);
-    if (!data) {
-        if (Console* const console = document.services().console)
-            console->writeLine("Load failed: " + data.error());
-        return;
+    try {
+        const auto contents = readWholeFile(file);
+        if (!contents) return Failure{contents.error()};
+        auto data = readDocumentData(*contents);
+        if (!data) return Failure{file.string() + ": " + data.error()};
+        return data;
+    } catch (const std::bad_alloc&) {
+        return outOfMemoryFailure(file);
     }
-    document.applyDocumentData(*data);
-    document.currentFileURL = file;
 }
 
 }  // namespace
+
+std::optional<DocumentData> loadDrawing(const std::filesystem::path& file, Console* console) {
+    auto data = readDocument(file);
+    if (data) return *std::move(data);
+    if (console) console->writeLine("Load failed: " + data.error());
+    return std::nullopt;
+}
+
+void replacePicture(DrawingDocument& document, const DocumentData& drawing,
+                    const std::filesystem::path& file) {
+    document.applyDocumentData(drawing);
+    document.currentFileURL = file;
+}
 
 void openDocument(const Services& services, FrontmostDocument frontmostDocument) {
     if (services.filePanels == nullptr) return;
@@ -41,7 +49,10 @@ void openDocument(const Services& services, FrontmostDocument frontmostDocument)
         [frontmostDocument =
              std::move(frontmostDocument)](const std::optional<std::filesystem::path>& file) {
             if (!file) return;
-            if (DrawingDocument* const document = frontmostDocument()) load(*file, *document);
+            DrawingDocument* const document = frontmostDocument();
+            if (document == nullptr) return;
+            if (const auto drawing = loadDrawing(*file, document->services().console))
+                replacePicture(*document, *drawing, *file);
         });
 }
 

@@ -16,10 +16,7 @@ public:
     static constexpr std::size_t padding = 64;
 
     /// The contents are left for the caller to fill; the padding is zero.
-    explicit PaddedBytes(std::size_t size)
-        : data_(std::make_unique_for_overwrite<std::uint8_t[]>(size + padding)), size_(size) {
-        std::fill_n(data_.get() + size, padding, std::uint8_t{0});
-    }
+    explicit PaddedBytes(std::size_t size);
 
     explicit PaddedBytes(std::span<const std::uint8_t> contents) : PaddedBytes(contents.size()) {
         std::copy(contents.begin(), contents.end(), data_.get());
@@ -34,7 +31,7 @@ public:
     std::string_view text() const { return {reinterpret_cast<const char*>(data_.get()), size_}; }
 
 private:
-    std::unique_ptr<std::uint8_t[]> data_;
+    std::unique_ptr<std::uint8_t[], void (*)(void*)> data_;
     std::size_t size_;
 };
 

@@ -1,12 +1,17 @@
 #include "io/PdfContext.h"
 
+#include "graphics/BitmapContext.h"
 #include "graphics/Polyline.h"
 #include "io/EmbeddableJpeg.h"
-#include "io/PdfImage.h"
 #include "io/PdfPath.h"
 
+#include <cairo-pdf.h>
+
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
+#include <new>
 
 namespace marlevo {
 
@@ -14,37 +19,35 @@ namespace {
 
 /// What turns the unit square of an image with an Exif orientation, its top row uppermost, upright;
 /// by orientation, from 1.
-constexpr std::array<const char*, 8> uprightMatrices{
-    "",
-    "-1 0 0 1 1 0 cm ",
-    "-1 0 0 -1 1 1 cm ",
-    "1 0 0 -1 0 1 cm ",
-    "0 -1 -1 0 1 1 cm ",
-    "0 -1 1 0 0 1 cm ",
-    "0 1 1 0 0 0 cm ",
-    "0 1 -1 0 1 0 cm ",
-};
-
-const char* uprightMatrix(int orientation) {
-    return uprightMatrices[static_cast<std::size_t>(orientation) - 1];
-}
+constexpr std::array<cairo_matrix_t, 8> uprightMatrices{{
+    {1, 0, 0, 1, 0, 0},
+    {-1, 0, 0, 1, 1, 0},
+    {-1, 0, 0, -1, 1, 1},
+    {1, 0, 0, -1, 0, 1},
+    {0, -1, -1, 0, 1, 1},
+    {0, -1, 1, 0, 0, 1},
+    {0, 1, 1, 0, 0, 0},
+    {0, 1, -1, 0, 1, 0},
+}};
 
 // A width of 0 would be a line of one device pixel, however fine the device.
 constexpr double thinnestLine = 0.001;
-// From anywhere within the coordinates this covers all of them.
-constexpr double widestLine = 4 * FlattenedPath::maxCoordinate;
+// From anywhere near the page this covers all of it, and still fits cairo's coordinates.
+constexpr double widestLine = 4 * PdfContext::maxSide;
 
 // Readers that count in fixed point lose paths that reach farther when they enlarge the page.
 constexpr double safeCoordinate = 32768;
 
-/// From 0 to 1000; 0 for what is no number.
-int toThousandths(double unit) {
-    return unit > 0 ? static_cast<int>(std::lround(std::min(unit, 1.0) * 1000)) : 0;
-}
+/// The most pixels of a cairo image in either direction.
+constexpr int longestImageSide = 32767;
 
-bool isFinite(const Rect& rect) {
+/// 0 for what is no number.
+double unitClamped(double value) { return value > 0 ? std::min(value, 1.0) : 0; }
+
+bool canHoldImage(const Rect& rect) {
+    const auto isSide = [](double side) { return std::isnormal(side); };
     return std::isfinite(rect.minX()) && std::isfinite(rect.minY()) && std::isfinite(rect.maxX()) &&
-           std::isfinite(rect.maxY());
+           std::isfinite(rect.maxY()) && isSide(rect.size.width) && isSide(rect.size.height);
 }
 
 /// Whether the JPEG's pixels turn into the decoded ones: a codec may see an orientation elsewhere.
@@ -54,6 +57,30 @@ bool matches(const EmbeddableJpeg& jpeg, const RasterImage& decoded) {
            decoded.height() == (isTurned ? jpeg.width : jpeg.height);
 }
 
+cairo_status_t append(void* file, const unsigned char* bytes, unsigned length) {
+    try {
+        auto& whole = *static_cast<std::vector<std::uint8_t>*>(file);
+        whole.insert(whole.end(), bytes, bytes + length);
+        return CAIRO_STATUS_SUCCESS;
+    } catch (const std::bad_alloc&) {
+        return CAIRO_STATUS_NO_MEMORY;
+    }
+}
+
+/// Draws the image over the whole of a cairo image, whose pixels are words of the machine.
+void copyPixels(const RasterImage& image, cairo_surface_t* to) {
+    static_assert(std::endian::native == std::endian::little);
+    const int width = cairo_image_surface_get_width(to);
+    const int height = cairo_image_surface_get_height(to);
+    BitmapContext context({cairo_image_surface_get_data(to),
+                           cairo_image_surface_get_stride(to),
+                           {0, 0, width, height},
+                           PixelOrder::bgra},
+                          DeviceFrame::yUp(height));
+    context.drawImage(image, {{0, 0}, {static_cast<double>(width), static_cast<double>(height)}});
+    cairo_surface_mark_dirty(to);
+}
+
 }  // namespace
 
 bool PdfContext::isPageSize(Size size) {
@@ -61,29 +88,36 @@ bool PdfContext::isPageSize(Size size) {
     return isSide(size.width) && isSide(size.height);
 }
 
-PdfContext::PdfContext(Size page) : page_(page) { text_ = "1 J 1 j\n"; }
+PdfContext::PdfContext(Size page)
+    : page_(page),
+      surface_(cairo_pdf_surface_create_for_stream(append, &file_, page.width, page.height)),
+      cairo_(cairo_create(surface_.get())) {
+    // Equal pictures make equal files.
+    cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_CREATE_DATE, "");
+    cairo_set_line_cap(cairo_.get(), CAIRO_LINE_CAP_ROUND);
+    cairo_set_line_join(cairo_.get(), CAIRO_LINE_JOIN_ROUND);
+    cairo_translate(cairo_.get(), 0, page.height);
+    cairo_scale(cairo_.get(), 1, -1);
+}
 
 void PdfContext::saveState() {
     saved_.push_back(state_);
-    text_ += "q\n";
+    cairo_save(cairo_.get());
 }
 
 void PdfContext::restoreState() {
     if (saved_.empty()) return;
     state_ = saved_.back();
     saved_.pop_back();
-    text_ += "Q\n";
+    cairo_restore(cairo_.get());
 }
 
 void PdfContext::scale(double x, double y) {
-    if (!std::isfinite(x) || !std::isfinite(y) || x == 0 || y == 0) {
+    if (std::isnormal(x) && std::isnormal(y)) {
+        cairo_scale(cairo_.get(), x, y);
+    } else {
         state_.isDegenerate = true;
-        return;
     }
-    appendExactPdfNumber(text_, x);
-    text_ += "0 0 ";
-    appendExactPdfNumber(text_, y);
-    text_ += "0 0 cm\n";
 }
 
 void PdfContext::setAlpha(double alpha) { state_.alpha = alpha; }
@@ -95,131 +129,81 @@ void PdfContext::fillRect(const Rect& rect, const Color& color) {
 }
 
 void PdfContext::fillPath(const Path& path, const Color& color) {
-    if (!selectOpacity(color.alpha)) return;
-    selectFill(color);
-    if (appendPdfPath(text_, path, PathUse::fill, farthest(0))) text_ += "f\n";
-    compressFullText();
+    if (!selectColor(color)) return;
+    if (setPdfPath(cairo_.get(), path, PathUse::fill, farthest(0))) cairo_fill(cairo_.get());
 }
 
 void PdfContext::strokePath(const Path& path, const Color& color, double lineWidth) {
-    if (!(lineWidth > 0) || !selectOpacity(color.alpha)) return;
-    selectStroke(color, lineWidth);
-    if (appendPdfPath(text_, path, PathUse::stroke, farthest(lineWidth))) text_ += "S\n";
-    compressFullText();
+    if (!(lineWidth > 0) || !selectColor(color)) return;
+    const double width = std::clamp(lineWidth, thinnestLine, widestLine);
+    cairo_set_line_width(cairo_.get(), width);
+    if (setPdfPath(cairo_.get(), path, PathUse::stroke, farthest(width)))
+        cairo_stroke(cairo_.get());
 }
 
 void PdfContext::drawImage(const RasterImage& image, const Rect& rect) {
-    if (!isFinite(rect) || !selectOpacity(1)) return;
-    addImage(addPdfImage(file_, image), rect, "");
+    Surface pixels(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+                                              std::min(image.width(), longestImageSide),
+                                              std::min(image.height(), longestImageSide)));
+    if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS) {
+        lacksImage_ = true;
+        return;
+    }
+    copyPixels(image, pixels.get());
+    drawSurface(std::move(pixels), rect, 1);
 }
 
 void PdfContext::drawImageFile(std::span<const std::uint8_t> file, const RasterImage& decoded,
                                const Rect& rect) {
     const auto jpeg = EmbeddableJpeg::recognise(file);
     if (!jpeg || !matches(*jpeg, decoded)) return drawImage(decoded, rect);
-    if (!isFinite(rect) || !selectOpacity(1)) return;
-    addImage(addPdfImage(file_, *jpeg, file), rect, uprightMatrix(jpeg->orientation));
+    // cairo puts the file in the place of these pixels, which nobody looks at.
+    Surface stored(cairo_image_surface_create(CAIRO_FORMAT_RGB24, jpeg->width, jpeg->height));
+    cairo_surface_set_mime_data(stored.get(), CAIRO_MIME_TYPE_JPEG, file.data(), file.size(),
+                                nullptr, nullptr);
+    if (cairo_surface_status(stored.get()) != CAIRO_STATUS_SUCCESS) return drawImage(decoded, rect);
+    drawSurface(std::move(stored), rect, jpeg->orientation);
 }
 
-std::vector<std::uint8_t> PdfContext::finish() {
-    for (; !saved_.empty(); saved_.pop_back())
-        text_ += "Q\n";
-    commands_.append({reinterpret_cast<const std::uint8_t*>(text_.data()), text_.size()});
-    const PdfFile::Object contents = file_.addStream("/Filter /FlateDecode", commands_.finish());
-
-    std::string resources = "<< /ExtGState <<";
-    for (const Thousandths opacity : opacities_) {
-        resources += " /A" + std::to_string(opacity) + " << /ca ";
-        appendPdfNumber(resources, opacity / 1000.0);
-        resources += "/CA ";
-        appendPdfNumber(resources, opacity / 1000.0);
-        resources += ">>";
-    }
-    resources += " >> /XObject <<";
-    for (std::size_t i = 0; i < images_.size(); ++i)
-        resources += " /I" + std::to_string(i) + " " + PdfFile::reference(images_[i]);
-    resources += " >> >>";
-
-    const PdfFile::Object pages = file_.reserve();
-    const PdfFile::Object page = file_.reserve();
-    const PdfFile::Object catalog = file_.reserve();
-    std::string box = "[0 0 ";
-    appendExactPdfNumber(box, page_.width);
-    appendExactPdfNumber(box, page_.height);
-    box += "]";
-    // The group says in which colours translucent marks are blended.
-    file_.add(page, "<< /Type /Page /Parent " + PdfFile::reference(pages) + " /MediaBox " + box +
-                        " /Resources " + resources + " /Contents " + PdfFile::reference(contents) +
-                        " /Group << /Type /Group /S /Transparency /I true /CS /DeviceRGB >> >>");
-    file_.add(pages, "<< /Type /Pages /Count 1 /Kids [" + PdfFile::reference(page) + "] >>");
-    file_.add(catalog, "<< /Type /Catalog /Pages " + PdfFile::reference(pages) + " >>");
-    return file_.finish(catalog);
+std::optional<std::vector<std::uint8_t>> PdfContext::finish() {
+    const cairo_status_t drawn = cairo_status(cairo_.get());
+    cairo_.reset();
+    cairo_surface_finish(surface_.get());
+    if (lacksImage_ || drawn != CAIRO_STATUS_SUCCESS ||
+        cairo_surface_status(surface_.get()) != CAIRO_STATUS_SUCCESS)
+        return std::nullopt;
+    return std::move(file_);
 }
 
 /// How far paths drawn with this pen may reach, so that what lies beyond cannot be seen.
 double PdfContext::farthest(double lineWidth) const {
-    const double far = std::max({safeCoordinate, page_.width, page_.height}) + lineWidth;
-    return std::min(far, FlattenedPath::maxCoordinate);
+    return std::max({safeCoordinate, page_.width, page_.height}) + lineWidth;
 }
 
-/// Makes the alpha and the colour's the page's; false when nothing can be seen with them.
-bool PdfContext::selectOpacity(double colorAlpha) {
-    const auto clamped = [](double alpha) { return alpha > 0 ? std::min(alpha, 1.0) : 0.0; };
-    const Thousandths opacity = toThousandths(clamped(state_.alpha) * clamped(colorAlpha));
+/// Makes the colour with the alpha cairo's source; false when nothing can be seen with it.
+bool PdfContext::selectColor(const Color& color) {
+    const double opacity = unitClamped(state_.alpha) * unitClamped(color.alpha);
     if (opacity == 0 || state_.isDegenerate) return false;
-    if (opacity != state_.opacity) {
-        state_.opacity = opacity;
-        opacities_.insert(opacity);
-        text_ += "/A" + std::to_string(opacity) + " gs\n";
-    }
+    cairo_set_source_rgba(cairo_.get(), unitClamped(color.red), unitClamped(color.green),
+                          unitClamped(color.blue), opacity);
     return true;
 }
 
-void PdfContext::selectFill(const Color& color) {
-    const Ink ink{toThousandths(color.red), toThousandths(color.green), toThousandths(color.blue)};
-    if (ink == state_.fill) return;
-    state_.fill = ink;
-    appendInk(ink, "rg\n");
-}
-
-void PdfContext::selectStroke(const Color& color, double lineWidth) {
-    const Ink ink{toThousandths(color.red), toThousandths(color.green), toThousandths(color.blue)};
-    if (ink != state_.stroke) {
-        state_.stroke = ink;
-        appendInk(ink, "RG\n");
-    }
-    if (lineWidth != state_.lineWidth) {
-        state_.lineWidth = lineWidth;
-        appendPdfNumber(text_, std::clamp(lineWidth, thinnestLine, widestLine));
-        text_ += "w\n";
-    }
-}
-
-void PdfContext::appendInk(const Ink& ink, const char* command) {
-    for (const Thousandths component : ink)
-        appendPdfNumber(text_, component / 1000.0);
-    text_ += command;
-}
-
-/// Draws the image object over the rectangle; `placement` is applied to its unit square first.
-void PdfContext::addImage(PdfFile::Object image, const Rect& rect, const char* placement) {
-    text_ += "q ";
-    appendExactPdfNumber(text_, rect.size.width);
-    text_ += "0 0 ";
-    appendExactPdfNumber(text_, rect.size.height);
-    appendExactPdfNumber(text_, rect.minX());
-    appendExactPdfNumber(text_, rect.minY());
-    text_ += "cm ";
-    text_ += placement;
-    text_ += "/I" + std::to_string(images_.size()) + " Do Q\n";
-    images_.push_back(image);
-}
-
-void PdfContext::compressFullText() {
-    constexpr std::size_t full = std::size_t{1} << 16;
-    if (text_.size() < full) return;
-    commands_.append({reinterpret_cast<const std::uint8_t*>(text_.data()), text_.size()});
-    text_.clear();
+/// Draws the image, whose rows have the Exif orientation, upright over the rectangle.
+void PdfContext::drawSurface(Surface image, const Rect& rect, int orientation) {
+    if (!canHoldImage(rect) || state_.isDegenerate) return;
+    cairo_t* cairo = cairo_.get();
+    cairo_save(cairo);
+    cairo_translate(cairo, rect.minX(), rect.minY());
+    cairo_scale(cairo, rect.size.width, rect.size.height);
+    cairo_transform(cairo, &uprightMatrices[static_cast<std::size_t>(orientation) - 1]);
+    cairo_translate(cairo, 0, 1);
+    cairo_scale(cairo, 1.0 / cairo_image_surface_get_width(image.get()),
+                -1.0 / cairo_image_surface_get_height(image.get()));
+    cairo_set_source_surface(cairo, image.get(), 0, 0);
+    cairo_paint_with_alpha(cairo, unitClamped(state_.alpha));
+    cairo_restore(cairo);
+    images_.push_back(std::move(image));
 }
 
 }  // namespace marlevo

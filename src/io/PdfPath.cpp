@@ -1,7 +1,6 @@
 #include "io/PdfPath.h"
 
 #include "graphics/Flatten.h"
-#include "io/PdfFile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +11,7 @@ namespace {
 
 class PathWriter {
 public:
-    PathWriter(std::string& text, PathUse use) : text_(text), use_(use) {}
+    PathWriter(cairo_t* cairo, PathUse use) : cairo_(cairo), use_(use) {}
 
     void add(const Path::Element& element) {
         switch (element.kind) {
@@ -34,24 +33,30 @@ public:
 
     void move(Point to) {
         current_ = to;
-        hasCurrent_ = true;
-        isMovePending_ = true;
+        cairo_move_to(cairo_, to.x, to.y);
     }
 
     void line(Point to) {
         begin(to);
-        command("l\n", {to});
+        cairo_line_to(cairo_, to.x, to.y);
         current_ = to;
+        hasSegments_ = true;
     }
 
-    void close() { text_ += "h\n"; }
+    void close() { cairo_close_path(cairo_); }
+
+    bool hasSegments() const { return hasSegments_; }
 
 private:
-    // A move is written with the first segment, so that one without any leaves nothing.
+    /// A path that does not begin with a move begins where its first segment says.
     void begin(Point otherwise) {
-        if (!hasCurrent_) move(otherwise);
-        if (isMovePending_) command("m\n", {current_});
-        isMovePending_ = false;
+        if (!cairo_has_current_point(cairo_)) move(otherwise);
+    }
+
+    void curve(Point control1, Point control2, Point to) {
+        cairo_curve_to(cairo_, control1.x, control1.y, control2.x, control2.y, to.x, to.y);
+        current_ = to;
+        hasSegments_ = true;
     }
 
     void quadCurve(Point control, Point to) {
@@ -59,16 +64,17 @@ private:
         const auto towardsControl = [&](Point p) {
             return Point{p.x + (control.x - p.x) * 2 / 3, p.y + (control.y - p.y) * 2 / 3};
         };
-        command("c\n", {towardsControl(current_), towardsControl(to), to});
-        current_ = to;
+        curve(towardsControl(current_), towardsControl(to), to);
     }
 
     void addShape(Path::Kind kind, const Rect& rect) {
-        move(rect.origin);
         if (rect.size.width == 0 || rect.size.height == 0) {
+            move(rect.origin);
             if (use_ == PathUse::stroke) line({rect.maxX(), rect.maxY()});
         } else if (kind == Path::Kind::rect) {
-            command("re\n", {rect.origin, {rect.size.width, rect.size.height}});
+            cairo_rectangle(cairo_, rect.origin.x, rect.origin.y, rect.size.width,
+                            rect.size.height);
+            hasSegments_ = true;
         } else {
             ellipse(rect);
         }
@@ -83,27 +89,18 @@ private:
         const auto at = [&](double x, double y) {
             return Point{center.x + x * radius.x, center.y + y * radius.y};
         };
-        command("m\n", {at(1, 0)});
-        command("c\n", {at(1, kappa), at(kappa, 1), at(0, 1)});
-        command("c\n", {at(-kappa, 1), at(-1, kappa), at(-1, 0)});
-        command("c\n", {at(-1, -kappa), at(-kappa, -1), at(0, -1)});
-        command("c\n", {at(kappa, -1), at(1, -kappa), at(1, 0)});
+        move(at(1, 0));
+        curve(at(1, kappa), at(kappa, 1), at(0, 1));
+        curve(at(-kappa, 1), at(-1, kappa), at(-1, 0));
+        curve(at(-1, -kappa), at(-kappa, -1), at(0, -1));
+        curve(at(kappa, -1), at(1, -kappa), at(1, 0));
         close();
     }
 
-    void command(const char* name, std::initializer_list<Point> operands) {
-        for (const Point& p : operands) {
-            appendPdfNumber(text_, p.x);
-            appendPdfNumber(text_, p.y);
-        }
-        text_ += name;
-    }
-
-    std::string& text_;
+    cairo_t* cairo_;
     PathUse use_;
-    Point current_;
-    bool hasCurrent_ = false;
-    bool isMovePending_ = false;
+    Point current_;  ///< the exact one: cairo's is rounded
+    bool hasSegments_ = false;
 };
 
 void addFlattened(PathWriter& writer, const Path& path, PathUse use, double farthest) {
@@ -126,9 +123,9 @@ void addFlattened(PathWriter& writer, const Path& path, PathUse use, double fart
 
 }  // namespace
 
-bool appendPdfPath(std::string& text, const Path& path, PathUse use, double farthest) {
-    const std::size_t before = text.size();
-    PathWriter writer(text, use);
+bool setPdfPath(cairo_t* cairo, const Path& path, PathUse use, double farthest) {
+    cairo_new_path(cairo);
+    PathWriter writer(cairo, use);
     const auto& elements = path.elements();
     const auto isInRange = [farthest](Point p) {
         return std::abs(p.x) <= farthest && std::abs(p.y) <= farthest;
@@ -143,7 +140,7 @@ bool appendPdfPath(std::string& text, const Path& path, PathUse use, double fart
     } else {
         addFlattened(writer, path, use, farthest);
     }
-    return text.size() > before;
+    return writer.hasSegments();
 }
 
 }  // namespace marlevo

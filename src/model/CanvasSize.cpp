@@ -1,15 +1,17 @@
 #include "model/CanvasSize.h"
 
+#include "platform/Strings.h"
+
 namespace marlevo {
 
 const std::vector<CanvasSize::Preset>& CanvasSize::presets() {
     static const std::vector<Preset> all = {
-        {Uuid::random(), "Square 1:1 (1080\u00D71080)", {1080, 1080}},
-        {Uuid::random(), "HD 16:9 (1280\u00D7720)", {1280, 720}},
-        {Uuid::random(), "Full HD 16:9 (1920\u00D71080)", {1920, 1080}},
-        {Uuid::random(), "4K 16:9 (3840\u00D72160)", {3840, 2160}},
-        {Uuid::random(), "A4 Portrait (2480\u00D73508)", {2480, 3508}},
-        {Uuid::random(), "A4 Landscape (3508\u00D72480)", {3508, 2480}},
+        {Uuid::random(), translatable("Presets", "Square 1:1 (1080×1080)"), {1080, 1080}},
+        {Uuid::random(), translatable("Presets", "HD 16:9 (1280×720)"), {1280, 720}},
+        {Uuid::random(), translatable("Presets", "Full HD 16:9 (1920×1080)"), {1920, 1080}},
+        {Uuid::random(), translatable("Presets", "4K 16:9 (3840×2160)"), {3840, 2160}},
+        {Uuid::random(), translatable("Presets", "A4 Portrait (2480×3508)"), {2480, 3508}},
+        {Uuid::random(), translatable("Presets", "A4 Landscape (3508×2480)"), {3508, 2480}},
     };
     return all;
 }

@@ -29,7 +29,7 @@ Leaf& StrokeList::ownTail() {
     if (tail_.isUnique())
         tail_->truncate(tailSize_);
     else
-        tail_ = Ref<Leaf>::make(tail());
+        tail_ = Ref<Leaf>::make(*tail_, tailSize_);
     return *tail_;
 }
 
@@ -58,13 +58,13 @@ void StrokeList::replace(std::size_t at, Stroke stroke) {
     if (at < treeSize())
         stroke_tree::replace(tree_, at, std::move(stroke));
     else
-        stroke_tree::replace(ownTail().slots[at - treeSize()], std::move(stroke));
+        ownTail().replace(at - treeSize(), std::move(stroke));
 }
 
 StrokeSummary StrokeList::summary() const {
     StrokeSummary summary = tree_ ? tree_->summary : StrokeSummary{};
-    for (const auto& record : tail())
-        summary.add(record->summary);
+    for (std::size_t i = 0; i < tailSize_; ++i)
+        summary.add(tail_->summaries[i]);
     return summary;
 }
 

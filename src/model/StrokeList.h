@@ -64,17 +64,7 @@ public:
     template <typename Predicate, typename Visitor>
     bool visit(const Predicate& matters, Visitor&& visitor) const {
         return (!tree_ || stroke_tree::visit(*tree_, 0, matters, visitor)) &&
-               stroke_tree::visit(tail(), treeSize(), matters, visitor);
-    }
-
-    /// Calls `visitor(index, stroke)` in order for each stroke that may paint in `area`.
-    template <typename Visitor>
-    void forEachTouching(const Rect& area, Visitor&& visitor) const {
-        visit([&](const StrokeSummary& summary) { return summary.paintsIn(area); },
-              [&](std::size_t index, const Stroke& stroke) {
-                  visitor(index, stroke);
-                  return true;
-              });
+               (!tail_ || stroke_tree::visit(*tail_, tailSize_, treeSize(), matters, visitor));
     }
 
     /// True when both share all their strokes: a cheap "known equal".

@@ -30,10 +30,6 @@ struct StrokeSummary {
     /// False only when every point is further than `margin` from `area`, in x or in y. The doubt
     /// that rounding leaves counts as near, so that nobody's exact test finds more.
     bool reaches(const Rect& area, double margin) const;
-
-    /// False only when nothing that is painted for these strokes, anti-aliasing aside, touches
-    /// `area`. All that a stroke paints lies within half its width of the box of its points.
-    bool paintsIn(const Rect& area) const { return reaches(area, maxLineWidth / 2); }
 };
 
 }  // namespace marlevo

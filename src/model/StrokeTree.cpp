@@ -15,7 +15,7 @@ NodeType& own(Ref<Node>& node) {
 }
 
 template <typename T>
-void closeGap(std::array<Ref<T>, fanOut>& slots, std::size_t at, std::size_t size) {
+void closeGap(std::array<T, fanOut>& slots, std::size_t at, std::size_t size) {
     std::move(slots.begin() + at + 1, slots.begin() + size, slots.begin() + at);
     slots[size - 1] = {};
 }
@@ -76,19 +76,30 @@ void eraseBelow(Ref<Node>& node, std::size_t index) {
 
 }  // namespace
 
-Leaf::Leaf(std::span<const Ref<Record>> initial) : Node(0), filled(initial.size()) {
-    std::ranges::copy(initial, slots.begin());
+Leaf::Leaf(const Leaf& other, std::size_t size) : Node(0), filled(size) {
+    std::copy_n(other.slots.begin(), size, slots.begin());
+    std::copy_n(other.summaries.begin(), size, summaries.begin());
 }
 
 bool Leaf::appendAfter(std::size_t known, const Ref<Record>& record) {
     // Two versions on two threads may both want the slot.
     if (known == fanOut || !filled.compare_exchange_strong(known, known + 1)) return false;
     slots[known] = record;
+    summaries[known] = StrokeSummary::of(record->stroke);
     return true;
+}
+
+void Leaf::replace(std::size_t at, Stroke stroke) {
+    summaries[at] = StrokeSummary::of(stroke);
+    if (slots[at].isUnique())
+        slots[at]->stroke = std::move(stroke);
+    else
+        slots[at] = Ref<Record>::make(std::move(stroke));
 }
 
 void Leaf::erase(std::size_t at) {
     closeGap(slots, at, filled);
+    closeGap(summaries, at, filled);
     --filled;
 }
 
@@ -100,8 +111,8 @@ void Leaf::truncate(std::size_t size) {
 
 void Leaf::summarise() {
     summary = {};
-    for (const Ref<Record>& record : records())
-        summary.add(record->summary);
+    for (std::size_t i = 0; i < filled; ++i)
+        summary.add(summaries[i]);
 }
 
 void Branch::erase(std::size_t at) {
@@ -149,7 +160,7 @@ void erase(Ref<Node>& root, std::size_t index) {
 void replace(Ref<Node>& root, std::size_t index, Stroke stroke) {
     if (root->isLeaf()) {
         Leaf& leaf = own<Leaf>(root);
-        replace(leaf.slots[index], std::move(stroke));
+        leaf.replace(index, std::move(stroke));
         leaf.summarise();
         return;
     }
@@ -157,13 +168,6 @@ void replace(Ref<Node>& root, std::size_t index, Stroke stroke) {
     const Place place = findChild(branch, index);
     replace(branch.children[place.child], place.index, std::move(stroke));
     branch.summarise();
-}
-
-void replace(Ref<Record>& record, Stroke stroke) {
-    if (record.isUnique())
-        record->replace(std::move(stroke));
-    else
-        record = Ref<Record>::make(std::move(stroke));
 }
 
 }  // namespace marlevo::stroke_tree

@@ -20,16 +20,8 @@ namespace marlevo::stroke_tree {
 inline constexpr std::size_t fanOut = 32;
 
 struct Record : RefCounted {
-    explicit Record(Stroke initial)
-        : stroke(std::move(initial)), summary(StrokeSummary::of(stroke)) {}
-
-    void replace(Stroke other) {
-        stroke = std::move(other);
-        summary = StrokeSummary::of(stroke);
-    }
-
+    explicit Record(Stroke initial) : stroke(std::move(initial)) {}
     Stroke stroke;
-    StrokeSummary summary;  ///< so that a search need not go to the points
 };
 
 struct Node : RefCounted {
@@ -48,19 +40,26 @@ struct Node : RefCounted {
 /// one version has filled is never written again, so the others need not know.
 struct Leaf : Node {
     Leaf() : Node(0) {}
-    explicit Leaf(std::span<const Ref<Record>> initial);
-    Leaf(const Leaf& other) : Leaf(other.records()) { summary = other.summary; }
+    Leaf(const Leaf& other) : Leaf(other, other.filled) { summary = other.summary; }
+
+    /// The first `size` strokes of another leaf.
+    Leaf(const Leaf& other, std::size_t size);
 
     std::span<const Ref<Record>> records() const { return {slots.data(), filled}; }
 
     /// Puts the record behind the first `known` ones unless the slot is taken or there is none.
     bool appendAfter(std::size_t known, const Ref<Record>& record);
+    void replace(std::size_t at, Stroke stroke);
     void erase(std::size_t at);
     void truncate(std::size_t size);
     void summarise();
 
     std::atomic<std::size_t> filled = 0;
     std::array<Ref<Record>, fanOut> slots;
+
+    /// Of the stroke in each slot. Side by side, so that a search looks at the memory of no stroke
+    /// but those that matter.
+    std::array<StrokeSummary, fanOut> summaries;
 };
 
 struct Branch : Node {
@@ -94,29 +93,23 @@ void erase(Ref<Node>& root, std::size_t index);
 
 void replace(Ref<Node>& root, std::size_t index, Stroke stroke);
 
-/// Gives the record to this owner alone, then changes its stroke.
-void replace(Ref<Record>& record, Stroke stroke);
-
-/// Shows `visitor` the strokes below the node in order, leaving out every subtree and every stroke
-/// whose summary `matters` refuses; `index` is that of the node's first stroke. Ends early, with
-/// false, when the visitor answers false.
+/// Shows `visitor` the first `size` strokes of a leaf in order, leaving out those whose summary
+/// `matters` refuses; `index` is that of the first one. Ends early, with false, when the visitor
+/// answers false.
 template <typename Predicate, typename Visitor>
-bool visit(std::span<const Ref<Record>> records, std::size_t index, const Predicate& matters,
+bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Predicate& matters,
            Visitor& visitor) {
-    // A search mostly waits for records that lie anywhere in memory; together they come faster.
-    for (const Ref<Record>& record : records)
-        __builtin_prefetch(&record->summary);
-    for (const Ref<Record>& record : records) {
-        if (matters(record->summary) && !visitor(index, record->stroke)) return false;
-        ++index;
-    }
+    for (std::size_t i = 0; i < size; ++i)
+        if (matters(leaf.summaries[i]) && !visitor(index + i, leaf.slots[i]->stroke)) return false;
     return true;
 }
+
+/// The same for all strokes below a node; whole subtrees are left out by their summary.
 
 template <typename Predicate, typename Visitor>
 bool visit(const Node& node, std::size_t index, const Predicate& matters, Visitor& visitor) {
     if (!matters(node.summary)) return true;
-    if (node.isLeaf()) return visit(asLeaf(node).records(), index, matters, visitor);
+    if (node.isLeaf()) return visit(asLeaf(node), node.summary.count, index, matters, visitor);
     for (const Ref<Node>& child : asBranch(node).nodes()) {
         if (!visit(*child, index, matters, visitor)) return false;
         index += child->summary.count;

@@ -16,29 +16,12 @@ void yieldToAllOthers() {
 
 }  // namespace
 
-BackgroundThread::BackgroundThread()
-    : thread_([this](const std::stop_token& stop) { run(stop); }) {}
+BackgroundThread::BackgroundThread() { queue_.post(yieldToAllOthers); }
 
 void BackgroundThread::post(std::function<void()> work) {
-    {
-        const std::lock_guard lock(mutex_);
-        waiting_.push_back(std::move(work));
-    }
-    changed_.notify_one();
-}
-
-void BackgroundThread::run(const std::stop_token& stop) {
-    yieldToAllOthers();
-    std::unique_lock lock(mutex_);
-    while (changed_.wait(lock, stop, [this] { return !waiting_.empty(); })) {
-        if (stop.stop_requested()) return;
-        std::function<void()> work = std::move(waiting_.front());
-        waiting_.pop_front();
-        lock.unlock();
-        work();
-        work = nullptr;  // what it holds goes away outside the lock
-        lock.lock();
-    }
+    queue_.post([this, work = std::move(work)] {
+        if (!isEnding_) work();
+    });
 }
 
 }  // namespace marlevo

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "platform/BackgroundQueue.h"
+#include "platform/WorkQueue.h"
 
-#include <condition_variable>
-#include <deque>
-#include <mutex>
-#include <thread>
+#include <atomic>
 
 namespace marlevo {
 
@@ -14,16 +12,13 @@ namespace marlevo {
 class BackgroundThread final : public BackgroundQueue {
 public:
     BackgroundThread();
+    ~BackgroundThread() override { isEnding_ = true; }
 
     void post(std::function<void()> work) override;
 
 private:
-    void run(const std::stop_token& stop);
-
-    std::mutex mutex_;
-    std::condition_variable_any changed_;
-    std::deque<std::function<void()>> waiting_;
-    std::jthread thread_;  ///< last: joined before the rest goes
+    std::atomic<bool> isEnding_ = false;
+    WorkQueue queue_;  ///< last: its thread reads the flag
 };
 
 }  // namespace marlevo

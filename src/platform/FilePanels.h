@@ -10,8 +10,7 @@ namespace marlevo {
 
 /// A kind of file that a panel offers.
 struct FileType {
-    std::string description;  ///< as shown in the panel, such as "PNG image"
-    std::string mimeType;
+    std::string description;              ///< as shown in the panel, such as "PNG image"
     std::vector<std::string> extensions;  ///< without the dot; the first one is added when missing
 };
 

@@ -21,7 +21,8 @@ public:
     /// `maxDecodedPixels`.
     virtual std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const = 0;
 
-    /// The picture as an image file, or nothing when the encoder fails.
+    /// The picture as an image file that says 72 pixels an inch, so a pixel is a point; nothing
+    /// when the encoder fails.
     virtual std::optional<std::vector<std::uint8_t>> encode(const RasterImage& image,
                                                             Format format) const = 0;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/CanvasAccessibility.h"
 #include "ui/CanvasView.h"
 #include "ui/Follower.h"
 
@@ -28,6 +29,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -37,6 +40,8 @@ private:
     DrawingDocument& document_;
     CanvasView view_;
     Follower layoutFollower_;
+    CanvasDescriptionChanges descriptionChanges_;
+    QWidget focusRing_;  ///< over the canvas, which fills the area when it is large
 };
 
 }  // namespace marlevo

@@ -67,7 +67,6 @@ CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     installCanvasAccessibility();
     setAcceptDrops(true);
     setAccessibleName(tr("Canvas"));
-    setAccessibleDescription(tr("The drawing. Press and drag to draw with the chosen tool."));
     updateWhatChanged();
 }
 

@@ -26,6 +26,8 @@ public:
     /// The document must outlive the view.
     explicit CanvasView(DrawingDocument& document, QWidget* parent = nullptr);
 
+    const DrawingDocument& document() const { return document_; }
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

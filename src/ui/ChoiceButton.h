@@ -13,7 +13,7 @@ public:
     explicit ChoiceButton(const QString& name, QWidget* parent = nullptr);
 
     bool isActive() const { return isChecked(); }
-    void setActive(bool active);
+    void setActive(bool active) { setChecked(active); }
 
 Q_SIGNALS:
     /// Pressed by pointer, keyboard or assistive technology, also while active.
@@ -22,11 +22,6 @@ Q_SIGNALS:
 protected:
     /// A press does not change what is shown.
     void nextCheckState() override {}
-
-private:
-    void undoToggle(bool checked);
-
-    bool isBeingTold_ = false;
 };
 
 }  // namespace marlevo

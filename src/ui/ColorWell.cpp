@@ -40,6 +40,8 @@ ColorWell::ColorWell(const QString& name, Opacity opacity, int width, QWidget* p
 void ColorWell::showColor(const Color& color) {
     if (color == color_) return;
     color_ = color;
+    setAccessibleDescription(
+        toQColor(color).name(color.alpha < 1 ? QColor::HexArgb : QColor::HexRgb));
     update();
     if (panel_ && toColor(panel_->currentColor()) != color) {
         const QSignalBlocker quiet(panel_);

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QSplitter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -28,7 +27,7 @@ QSize contentSize(const QWidget& window) {
 }  // namespace
 
 ContentView::ContentView(const Services& services, NotificationCenter& notifications)
-    : document_(services), sidebar_(document_, this), canvas_(document_, this),
+    : document_(services), columns_(this), sidebar_(document_, this), canvas_(document_, this),
       statusBar_(
           document_, [this] { fitToWindow(); }, this),
       closeGuard_(document_), titleUpdater_(document_, *this, [this] { return windowTitle(); }),
@@ -46,13 +45,14 @@ QString ContentView::windowTitle() const {
 
 void ContentView::setShowNewCanvas(bool show) {
     if (show == showNewCanvas()) return;
-    if (!show) {
+    if (show) {
+        sheet_ = new SheetHost(*this);
+        sheet_->setSheet(new NewCanvasSheet(document_, [this] { setShowNewCanvas(false); }));
+    } else {
         sheet_->dismiss();
         sheet_.clear();
-        return;
     }
-    sheet_ = new SheetHost(*this);
-    sheet_->setSheet(new NewCanvasSheet(document_, [this] { setShowNewCanvas(false); }));
+    Q_EMIT showNewCanvasChanged(show);
 }
 
 void ContentView::fitToWindow() {
@@ -71,7 +71,9 @@ void ContentView::showEvent(QShowEvent* event) {
 void ContentView::firstShown() {
     document_.ensureLayers();
     autoSave_.emplace(document_);
-    keyMonitor_.emplace(*window(), document_, [this] { setShowNewCanvas(true); });
+    keyMonitor_.emplace(*window(), document_,
+                        KeyMonitor::Sheet{.show = [this] { setShowNewCanvas(true); },
+                                          .isShown = [this] { return showNewCanvas(); }});
 }
 
 void ContentView::layOut() {
@@ -84,19 +86,22 @@ void ContentView::layOut() {
     column->addWidget(&canvas_, 1);
     column->addWidget(&statusBar_);
 
-    auto* columns = new QSplitter;
-    columns->setChildrenCollapsible(false);
-    columns->setHandleWidth(1);
-    columns->addWidget(&sidebar_);
-    columns->addWidget(drawing);
-    columns->setStretchFactor(1, 1);
-    sidebar_.setMinimumWidth(SidebarView::leastWidth);
+    columns_.setChildrenCollapsible(false);
+    columns_.setHandleWidth(1);
+    columns_.addWidget(&sidebar_);
+    columns_.addWidget(drawing);
+    columns_.setStretchFactor(1, 1);
     sidebar_.setMaximumWidth(SidebarView::greatestWidth);
-    columns->setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
+    columns_.setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
 
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(columns);
+    whole->addWidget(&columns_);
+}
+
+// The splitter leaves its own handle out.
+QSize ContentView::sizeHint() const {
+    return QWidget::sizeHint() + QSize(columns_.handleWidth(), 0);
 }
 
 }  // namespace marlevo

@@ -12,6 +12,7 @@
 #include "ui/WindowTitleUpdater.h"
 
 #include <QPointer>
+#include <QSplitter>
 #include <QWidget>
 
 #include <optional>
@@ -43,6 +44,12 @@ public:
     /// limits; without an active window nothing happens.
     void fitToWindow();
 
+    /// Such that the canvas is seen without scrolling.
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void showNewCanvasChanged(bool isShown);
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -52,6 +59,7 @@ private:
 
     // What shows the document comes after it, so that it goes before it.
     DrawingDocument document_;
+    QSplitter columns_;
     SidebarView sidebar_;
     CanvasScrollArea canvas_;
     StatusBar statusBar_;

@@ -1,8 +1,6 @@
 #include "ui/DocumentWindow.h"
 
-#include "ui/KeptPalette.h"
 #include "ui/MarlevoApp.h"
-#include "ui/SemanticColors.h"
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -27,12 +25,13 @@ Services withPanels(Services services, FilePanels& panels) {
 DocumentWindow::DocumentWindow(MarlevoApp& app)
     : filePanels_(*this), content_(withPanels(app.services(), filePanels_), app.notifications()),
       menus_(app, this) {
-    keepPalette(*this, [] { return semanticPalette(SemanticColor::windowBackground); });
     setMenuBar(&menus_);
     setCentralWidget(&content_);
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(&content_.closeGuard(), &WindowAccessor::Coordinator::kept, this,
             &DocumentWindow::kept);
+    connect(&content_, &ContentView::showNewCanvasChanged, &menus_, &MenuCommands::setBehindSheet);
+    menus_.setBehindSheet(content_.showNewCanvas());
 
     setMinimumSize(smallestSize);
     const QSize room = screen()->availableSize() - screenReserve;

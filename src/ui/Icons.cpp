@@ -41,6 +41,21 @@ QSvgRenderer& rendererOf(Icon icon) {
     return *renderer;
 }
 
+/// In its own colours.
+QIcon iconOf(const char* name) {
+    QSvgRenderer renderer(resource(name));
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64, 96, 128, 256}) {
+        QPixmap pixmap(side, side);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        renderer.render(&painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 }  // namespace
 
 void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& color) {
@@ -67,18 +82,8 @@ void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& c
     painter.drawImage(turned ? corner : toDevice.inverted().map(QPointF(onPixel.toPoint())), image);
 }
 
-QIcon applicationIcon() {
-    QSvgRenderer renderer(resource("marlevo"));
-    QIcon icon;
-    for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(side, side);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        renderer.render(&painter);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
+QIcon applicationIcon() { return iconOf("marlevo"); }
+
+QIcon warningIcon() { return iconOf("warning"); }
 
 }  // namespace marlevo

@@ -46,4 +46,7 @@ void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& c
 /// The icon of the program itself.
 QIcon applicationIcon();
 
+/// The sign beside a question whose answer can destroy something.
+QIcon warningIcon();
+
 }  // namespace marlevo

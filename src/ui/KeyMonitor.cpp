@@ -1,7 +1,6 @@
 #include "ui/KeyMonitor.h"
 
 #include "model/DrawingDocument.h"
-#include "ui/TextFieldFocus.h"
 #include "ui/ZoomRange.h"
 
 #include <QApplication>
@@ -26,15 +25,19 @@ char32_t characterWithoutControl(const QKeyEvent& press) {
     return char32_t(press.key() - Qt::Key_A) + (isUpper ? U'A' : U'a');
 }
 
+bool showsNewCanvas(const QKeyEvent& press) {
+    return press.modifiers().testFlag(Qt::ControlModifier) &&
+           characterWithoutControl(press) == U'n';
+}
+
 bool isDelete(const QKeyEvent& press) {
     return press.key() == Qt::Key_Backspace || press.key() == Qt::Key_Delete;
 }
 
 }  // namespace
 
-KeyMonitor::KeyMonitor(QWidget& window, DrawingDocument& document,
-                       std::function<void()> showNewCanvas)
-    : window_(window), document_(document), showNewCanvas_(std::move(showNewCanvas)) {
+KeyMonitor::KeyMonitor(QWidget& window, DrawingDocument& document, Sheet newCanvas)
+    : window_(window), document_(document), newCanvas_(std::move(newCanvas)) {
     qApp->installEventFilter(this);
 }
 
@@ -61,14 +64,14 @@ bool KeyMonitor::eventFilter(QObject* receiver, QEvent* event) {
 
 KeyMonitor::Action KeyMonitor::actionOf(const QKeyEvent& press) const {
     if (repeats_.isRepeat(press)) return {};
+    if (newCanvas_.isShown()) return showsNewCanvas(press) ? newCanvas_.show : Action();
     if (press.modifiers().testFlag(Qt::ControlModifier)) {
         if (Action action = controlActionOf(press)) return action;
         if (press.text() == u'=') return [this] { document_.zoom = zoomedIn(document_.zoom); };
         if (press.text() == u'-') return [this] { document_.zoom = zoomedOut(document_.zoom); };
     }
-    const bool deletesStroke = isDelete(press) && document_.isSelectTool &&
-                               document_.selectedStrokeIndex->has_value() &&
-                               focusedTextField(window_) == nullptr;
+    const bool deletesStroke =
+        isDelete(press) && document_.isSelectTool && document_.selectedStrokeIndex->has_value();
     if (deletesStroke) return [this] { document_.deleteSelectedStroke(); };
     return {};
 }
@@ -76,13 +79,12 @@ KeyMonitor::Action KeyMonitor::actionOf(const QKeyEvent& press) const {
 KeyMonitor::Action KeyMonitor::controlActionOf(const QKeyEvent& press) const {
     switch (characterWithoutControl(press)) {
     case U'z':
-        if (focusedTextField(window_) != nullptr) return {};
         if (press.modifiers().testFlag(Qt::ShiftModifier)) return [this] { document_.redo(); };
         return [this] { document_.undo(); };
     case U'e':
         return [this] { toggleEraser(); };
     case U'n':
-        return showNewCanvas_;
+        return newCanvas_.show;
     case U'g':
         return [this] { document_.showGrid = !document_.showGrid; };
     default:

@@ -27,12 +27,18 @@ class DrawingDocument;
 ///    tool is chosen and a stroke is selected; else they pass.
 /// 6. Everything else passes.
 ///
-/// While a text field of the window can be typed into, Backspace, Delete and Ctrl+Z are its own, as
-/// editing the text needs them; the other keys mean nothing to a field and act as always.
+/// While the sheet lies over the window no key reaches the document, and the sheet's fields, the
+/// only ones there are, keep the keys that edit text.
 class KeyMonitor final : public QObject {
 public:
+    /// The window's new-canvas sheet.
+    struct Sheet {
+        std::function<void()> show;
+        std::function<bool()> isShown;
+    };
+
     /// The document and the window must outlive the monitor, which works until it goes.
-    KeyMonitor(QWidget& window, DrawingDocument& document, std::function<void()> showNewCanvas);
+    KeyMonitor(QWidget& window, DrawingDocument& document, Sheet newCanvas);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -47,7 +53,7 @@ private:
 
     QWidget& window_;
     DrawingDocument& document_;
-    std::function<void()> showNewCanvas_;
+    Sheet newCanvas_;
     KeyRepeats repeats_;
 };
 

@@ -2,23 +2,17 @@
 
 #include "model/DrawingDocument.h"
 
+#include <iterator>
+
 namespace marlevo {
 
-namespace {
-
-std::int64_t layerCount(const DrawingDocument& document) {
-    return static_cast<std::int64_t>(document.layers->size());
-}
-
-}  // namespace
-
 void deleteActiveLayer(DrawingDocument& document) {
-    if (layerCount(document) > 1) document.deleteLayer(document.activeLayerIndex);
+    if (std::ssize(*document.layers) > 1) document.deleteLayer(document.activeLayerIndex);
 }
 
 void moveActiveLayerUp(DrawingDocument& document) {
     const std::int64_t index = document.activeLayerIndex;
-    if (index < layerCount(document) - 1) document.moveLayer(index, index + 1);
+    if (index < std::ssize(*document.layers) - 1) document.moveLayer(index, index + 1);
 }
 
 void moveActiveLayerDown(DrawingDocument& document) {

@@ -4,7 +4,7 @@ namespace marlevo {
 
 class DrawingDocument;
 
-// The menu's commands on the active layer. Where there is nothing to do they change nothing.
+// The commands on the active layer. Where there is nothing to do they change nothing.
 
 /// Never deletes the last layer.
 void deleteActiveLayer(DrawingDocument& document);

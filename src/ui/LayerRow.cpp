@@ -3,6 +3,7 @@
 #include "ui/ControlPainting.h"
 #include "ui/Icons.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -26,6 +27,8 @@ EyeButton::EyeButton(QWidget* parent) : PaintedButton({}, parent) {
 }
 
 void EyeButton::showLayer(const QString& name, bool isVisible) {
+    if (name == layerName_ && isVisible == isLayerVisible_) return;
+    layerName_ = name;
     isLayerVisible_ = isVisible;
     setToolTip(isVisible ? tr("Hide layer") : tr("Show layer"));
     setAccessibleName((isVisible ? tr("Hide layer: %1") : tr("Show layer: %1")).arg(name));
@@ -69,8 +72,12 @@ void LayerRow::showLayer(const Layer& layer, bool isActive) {
     name_.setText(name);
     thumbnail_.showLayer(layer, isActive);
     eye_.showLayer(name, layer.isVisible);
+    if (isActive == this->isActive()) return;
     setActive(isActive);
-    update();
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 QWidget* LayerRow::followInTabOrder(QWidget* previous) {

@@ -22,6 +22,7 @@ protected:
     void paintContents(QPainter& painter) override;
 
 private:
+    QString layerName_;
     bool isLayerVisible_ = true;
 };
 

@@ -27,7 +27,7 @@ LayerThumbnailView::LayerThumbnailView(const DrawingDocument& document, QWidget*
 void LayerThumbnailView::showLayer(const Layer& layer, bool isActive) {
     layer_ = layer;
     isActive_ = isActive;
-    setAccessibleName(QString::fromStdString(layer.name));
+    setAccessibleName(tr("Thumbnail: %1").arg(QString::fromStdString(layer.name)));
     if (isVisible()) thumbnail_.show(layer);
     update();
 }

@@ -33,6 +33,17 @@ DocumentWindow& MarlevoApp::openWindow() {
     return *window;
 }
 
+void MarlevoApp::openWindows(std::span<const std::filesystem::path> drawings) {
+    for (const std::filesystem::path& file : drawings) {
+        const auto drawing = loadDrawing(file, services_.console);
+        if (!drawing) continue;
+        DocumentWindow& window = openWindow();
+        window.content().setShowNewCanvas(false);
+        replacePicture(window.document(), *drawing, file);
+    }
+    if (windows_.empty()) openWindow();
+}
+
 std::vector<DocumentWindow*> MarlevoApp::documentWindows() const {
     std::vector<DocumentWindow*> open;
     for (const QPointer<DocumentWindow>& window : windows_)
@@ -76,7 +87,9 @@ void MarlevoApp::focusFollows(const QWindow* focused) {
 
 void MarlevoApp::forget(DocumentWindow& window) {
     std::erase(windows_, &window);
-    if (focusedDocument_.get() == &window.document()) focusedDocument_.set(nullptr);
+    // The desktop may take its time to give another window the focus, or not do it at all.
+    if (focusedDocument_.get() == &window.document())
+        focusedDocument_.set(windows_.empty() ? nullptr : &windows_.back()->document());
     if (isQuitting_) closeNextWindow();
     if (windows_.empty()) delete settings_;
 }

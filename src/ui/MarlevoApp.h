@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <filesystem>
+#include <span>
 #include <vector>
 
 class QWindow;
@@ -36,6 +38,10 @@ public:
 
     /// Opens a window with a fresh drawing, which goes away when it is closed.
     DocumentWindow& openWindow();
+
+    /// Opens a window for each of the drawings, without the new-canvas sheet. A file that cannot be
+    /// read is one line on the console. With no drawing there is a fresh window instead.
+    void openWindows(std::span<const std::filesystem::path> drawings);
 
     /// The document windows still open, in the order in which they were opened.
     std::vector<DocumentWindow*> documentWindows() const;

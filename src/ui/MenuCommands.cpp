@@ -121,8 +121,13 @@ QAction& MenuCommands::addDocumentCommand(QMenu& menu, const QString& title,
     return action;
 }
 
+void MenuCommands::setBehindSheet(bool isBehindSheet) {
+    isBehindSheet_ = isBehindSheet;
+    followFocusedDocument();
+}
+
 void MenuCommands::followFocusedDocument() {
-    DrawingDocument* const document = app_.focusedDocument().get();
+    DrawingDocument* const document = isBehindSheet_ ? nullptr : app_.focusedDocument().get();
     for (QAction* const action : documentActions_)
         action->setEnabled(document != nullptr);
     historyFollower_.reset();

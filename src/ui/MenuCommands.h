@@ -15,13 +15,16 @@ namespace marlevo {
 class MarlevoApp;
 
 /// The menus of a window. Their commands act on the focused document, whichever window they stand
-/// in, and are disabled while there is none.
+/// in, and are disabled while there is none or a sheet lies over it.
 class MenuCommands final : public QMenuBar {
     Q_OBJECT
 
 public:
     /// The application must outlive the menus; `window` is what Close closes.
     MenuCommands(MarlevoApp& app, QWidget* window);
+
+    /// Whether a sheet lies over the document: its commands rest until the sheet goes.
+    void setBehindSheet(bool isBehindSheet);
 
 private:
     void addFileMenu();
@@ -41,6 +44,7 @@ private:
     void followFocusedDocument();
 
     MarlevoApp& app_;
+    bool isBehindSheet_ = false;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     std::vector<QAction*> documentActions_;

@@ -1,6 +1,6 @@
 #include "ui/Motion.h"
 
-#include "platform/qt/MotionSetting.h"
+#include "platform/qt/DesktopSettings.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -9,7 +9,7 @@ namespace marlevo {
 
 bool isMotionWanted() {
     const int duration = QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration);
-    return duration > 0 && MotionSetting::instance().isMotionWanted();
+    return duration > 0 && DesktopSettings::instance().isMotionWanted();
 }
 
 }  // namespace marlevo

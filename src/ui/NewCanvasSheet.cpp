@@ -3,10 +3,9 @@
 #include "model/DrawingDocument.h"
 #include "platform/Preferences.h"
 #include "ui/CNumber.h"
-#include "ui/Divider.h"
 #include "ui/IconLabel.h"
 #include "ui/PresetRow.h"
-#include "ui/ProminentButton.h"
+#include "ui/Separator.h"
 #include "ui/StatusBar.h"
 
 #include <QHBoxLayout>
@@ -58,11 +57,11 @@ NewCanvasSheet::NewCanvasSheet(DrawingDocument& document, std::function<void()> 
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addLayout(makeHeader());
-    column->addWidget(new Divider);
+    column->addWidget(new Separator);
     column->addWidget(makePresetList(), 1);
-    column->addWidget(new Divider);
+    column->addWidget(new Separator);
     column->addLayout(makeCustomSection());
-    column->addWidget(new Divider);
+    column->addWidget(new Separator);
     column->addLayout(makeFooter());
 
     proposeDefaultSize();
@@ -133,6 +132,8 @@ QLayout* NewCanvasSheet::makeCustomSection() {
 
     auto* fields = new QHBoxLayout;
     fields->setSpacing(itemSpacing);
+    // The fields stand below the box itself.
+    fields->addSpacing(CheckBox::focusRoom);
     const auto addField = [&](QLineEdit& field, const QString& name) {
         field.setPlaceholderText(name);
         field.setAccessibleName(name);
@@ -147,7 +148,8 @@ QLayout* NewCanvasSheet::makeCustomSection() {
     fields->addStretch(1);
 
     auto* section = new QVBoxLayout;
-    section->setContentsMargins(padding, padding, padding, padding);
+    const int sides = padding - CheckBox::focusRoom;
+    section->setContentsMargins(sides, padding, sides, padding);
     section->setSpacing(itemSpacing);
     section->addWidget(&useCustom_);
     section->addLayout(fields);
@@ -159,7 +161,7 @@ QLayout* NewCanvasSheet::makeFooter() {
     cancel->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Escape));
     cancel->setAutoDefault(true);
     connect(cancel, &QPushButton::clicked, this, [this] { dismiss_(); });
-    create_.setAutoDefault(true);
+    create_.setDefault(true);
     connect(&create_, &QPushButton::clicked, this, &NewCanvasSheet::createCanvas);
 
     auto* footer = new QHBoxLayout;

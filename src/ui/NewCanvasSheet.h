@@ -2,10 +2,10 @@
 
 #include "model/CanvasSize.h"
 #include "ui/CheckBox.h"
-#include "ui/ProminentButton.h"
 #include "ui/TextLabel.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 
 #include <functional>
 #include <optional>
@@ -56,7 +56,7 @@ private:
     QLineEdit customW_;
     QLineEdit customH_;
     TextLabel preview_;
-    ProminentButton create_;
+    QPushButton create_;
 };
 
 }  // namespace marlevo

@@ -42,7 +42,6 @@ bool isPress(QEvent::Type type) {
 Popover::Popover(QWidget& anchor) : QWidget(anchor.window()), anchor_(&anchor) {
     hide();
     setLayoutDirection(anchor.layoutDirection());
-    setPalette(semanticPalette(SemanticColor::windowBackground));
     setContentsMargins(shadowReach + (isRightToLeft() ? 0 : arrowLength), shadowReach,
                        shadowReach + (isRightToLeft() ? arrowLength : 0), shadowReach);
 }

@@ -5,6 +5,7 @@
 #include "ui/SemanticColors.h"
 #include "ui/TypeScale.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -22,23 +23,14 @@ constexpr int verticalPadding = 8;
 constexpr int iconSpacing = 8;
 constexpr double cornerRadius = 8;
 
-// The names as the model has them, for the catalogue's tool to find.
-[[maybe_unused]] constexpr const char* presetNames[] = {
-    QT_TRANSLATE_NOOP("marlevo::PresetRow", "Square 1:1 (1080×1080)"),
-    QT_TRANSLATE_NOOP("marlevo::PresetRow", "HD 16:9 (1280×720)"),
-    QT_TRANSLATE_NOOP("marlevo::PresetRow", "Full HD 16:9 (1920×1080)"),
-    QT_TRANSLATE_NOOP("marlevo::PresetRow", "4K 16:9 (3840×2160)"),
-    QT_TRANSLATE_NOOP("marlevo::PresetRow", "A4 Portrait (2480×3508)"),
-    QT_TRANSLATE_NOOP("marlevo::PresetRow", "A4 Landscape (3508×2480)"),
-};
-
 constexpr double selectedOpacity = 0.1;
 constexpr double hoveredOpacity = 0.05;
 
 }  // namespace
 
 PresetRow::PresetRow(const CanvasSize::Preset& preset, QWidget* parent)
-    : QRadioButton(tr(preset.name.c_str()), parent), preset_(preset) {
+    : QRadioButton(QCoreApplication::translate("Presets", preset.name.c_str()), parent),
+      preset_(preset) {
     // The sheet decides: choosing another way of giving the size leaves no row chosen.
     setAutoExclusive(false);
     setAttribute(Qt::WA_Hover);

@@ -1,32 +1,25 @@
 #include "ui/QuickColors.h"
 
+#include "ui/ColorRow.h"
 #include "ui/Colors.h"
 #include "ui/SemanticColors.h"
-
-#include <QCoreApplication>
 
 namespace marlevo {
 
 std::vector<QuickColor> quickColors() {
-    const auto tr = [](const char* text) {
-        return QCoreApplication::translate("QuickColors", text);
-    };
     const auto fixed = [](const Color& color) { return [color] { return color; }; };
     const auto adaptive = [](SemanticColor color) {
         return [color] { return toColor(semanticColor(color)); };
     };
     return {
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color black")), fixed(black)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color white")), fixed(white)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color red")), adaptive(SemanticColor::systemRed)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color orange")),
-         adaptive(SemanticColor::systemOrange)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color yellow")),
-         adaptive(SemanticColor::systemYellow)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color green")), adaptive(SemanticColor::systemGreen)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color blue")), adaptive(SemanticColor::systemBlue)},
-        {tr(QT_TRANSLATE_NOOP("QuickColors", "Color purple")),
-         adaptive(SemanticColor::systemPurple)},
+        {ColorRow::tr("Color black"), fixed(black)},
+        {ColorRow::tr("Color white"), fixed(white)},
+        {ColorRow::tr("Color red"), adaptive(SemanticColor::systemRed)},
+        {ColorRow::tr("Color orange"), adaptive(SemanticColor::systemOrange)},
+        {ColorRow::tr("Color yellow"), adaptive(SemanticColor::systemYellow)},
+        {ColorRow::tr("Color green"), adaptive(SemanticColor::systemGreen)},
+        {ColorRow::tr("Color blue"), adaptive(SemanticColor::systemBlue)},
+        {ColorRow::tr("Color purple"), adaptive(SemanticColor::systemPurple)},
     };
 }
 

@@ -61,17 +61,36 @@ QColor withOpacity(QColor color, double opacity) {
     return color;
 }
 
-QPalette semanticPalette(SemanticColor background) {
-    QPalette palette;
-    const QColor text = semanticColor(SemanticColor::primary);
-    palette.setColor(QPalette::Window, semanticColor(background));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text}) {
+void setSemanticColors(QPalette& palette, Appearance appearance, SemanticColor background) {
+    const auto color = [&](SemanticColor which) { return semanticColor(which, appearance); };
+    const QColor text = color(SemanticColor::primary);
+    const QColor window = color(background);
+    const bool isDark = appearance == Appearance::dark;
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::Base, color(SemanticColor::controlBackground));
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::Button, isDark ? window.lighter(130) : window);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, text);
         palette.setColor(QPalette::Disabled, role, withOpacity(text, 0.35));
     }
-    palette.setColor(QPalette::PlaceholderText, semanticColor(SemanticColor::tertiary));
-    palette.setColor(QPalette::Highlight, semanticColor(SemanticColor::blue));
+    palette.setColor(QPalette::PlaceholderText, color(SemanticColor::tertiary));
+    palette.setColor(QPalette::Highlight, color(SemanticColor::blue));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, color(SemanticColor::blue));
+    palette.setColor(QPalette::ToolTipBase, color(SemanticColor::controlBackground));
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::Light, window.lighter(isDark ? 160 : 150));
+    palette.setColor(QPalette::Midlight, window.lighter(isDark ? 130 : 110));
+    palette.setColor(QPalette::Mid, window.darker(130));
+    palette.setColor(QPalette::Dark, window.darker(150));
+    palette.setColor(QPalette::Shadow, Qt::black);
+}
+
+QPalette semanticPalette(SemanticColor background) {
+    QPalette palette;
+    setSemanticColors(palette, appearance(), background);
     return palette;
 }
 

@@ -41,8 +41,11 @@ QColor semanticColor(SemanticColor color);
 /// The colour at a share, from 0 to 1, of its own opacity.
 QColor withOpacity(QColor color, double opacity);
 
-/// The desktop's palette with the table's colours, for the standard controls among our own; to be
-/// set again when the desktop's changes.
+/// Puts the table's colours into a palette, for the toolkit's controls among our own.
+void setSemanticColors(QPalette& palette, Appearance appearance, SemanticColor background);
+
+/// The application's palette for another background than that of windows; to be set again when the
+/// desktop's changes.
 QPalette semanticPalette(SemanticColor background);
 
 }  // namespace marlevo

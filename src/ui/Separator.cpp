@@ -8,17 +8,16 @@ namespace marlevo {
 
 namespace {
 
-constexpr int lineHeight = 1;
-constexpr int padding = 2;
+constexpr int thickness = 1;
 
 }  // namespace
 
-Separator::Separator(QWidget* parent) : QWidget(parent) {
-    setFixedHeight(lineHeight + 2 * padding);
+Separator::Separator(int padding, QWidget* parent) : QWidget(parent) {
+    setFixedHeight(thickness + 2 * padding);
 }
 
 void Separator::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(0, padding, width(), lineHeight,
+    QPainter(this).fillRect(0, (height() - thickness) / 2, width(), thickness,
                             semanticColor(SemanticColor::separator));
 }
 

@@ -4,12 +4,13 @@
 
 namespace marlevo {
 
-/// A line between sections: 1 point high, with 2 points of room above and below.
+/// A horizontal line, one point thick, between two parts of a window.
 class Separator final : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Separator(QWidget* parent = nullptr);
+    /// `padding`: the points of room above and below the line.
+    explicit Separator(int padding = 0, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

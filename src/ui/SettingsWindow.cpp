@@ -1,8 +1,6 @@
 #include "ui/SettingsWindow.h"
 
-#include "ui/KeptPalette.h"
 #include "ui/MarlevoApp.h"
-#include "ui/SemanticColors.h"
 
 #include <QAction>
 #include <QVBoxLayout>
@@ -13,7 +11,6 @@ SettingsWindow::SettingsWindow(MarlevoApp& app) : preferences_(*app.services().p
     setWindowTitle(tr("Settings"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_DeleteOnClose);
-    keepPalette(*this, [] { return semanticPalette(SemanticColor::windowBackground); });
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -5,6 +5,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -14,7 +15,11 @@ namespace {
 
 constexpr QSize preferredSize(420, 520);
 
-QString withoutMnemonic(QString title) { return title.remove('&'); }
+/// Where titles have no Latin letters the mnemonic is appended: "ファイル(&F)".
+QString withoutMnemonic(QString title) {
+    static const QRegularExpression appended(QStringLiteral("\\(&.\\)"));
+    return title.remove(appended).remove('&');
+}
 
 void addKey(QTreeWidgetItem& section, const QString& title, const QKeySequence& key) {
     new QTreeWidgetItem(&section, {title, key.toString(QKeySequence::NativeText)});

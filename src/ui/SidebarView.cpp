@@ -24,9 +24,7 @@ namespace {
 constexpr int sidePadding = 12;
 constexpr int verticalPadding = 8;
 constexpr int spacing = 14;
-
-// Within the padding, so that the column keeps its width when the bar comes and goes.
-constexpr int scrollBarWidth = 10;
+constexpr int separatorPadding = 2;
 
 }  // namespace
 
@@ -51,14 +49,14 @@ void SidebarView::addSections(DrawingDocument& document) {
     auto* column = new QVBoxLayout(column_);
     column->setSpacing(spacing);
     column->addWidget(new ActionRow(document));
-    column->addWidget(new Separator);
+    column->addWidget(new Separator(separatorPadding));
     column->addWidget(new DrawingSection(document));
-    column->addWidget(new Separator);
+    column->addWidget(new Separator(separatorPadding));
     column->addWidget(new FormsSection(document));
-    column->addWidget(new Separator);
+    column->addWidget(new Separator(separatorPadding));
     column->addWidget(new DisclosureSection(tr("View"), {new SectionHeader(tr("View"))},
                                             new ViewSection(document), Start::open));
-    column->addWidget(new Separator);
+    column->addWidget(new Separator(separatorPadding));
     column->addWidget(new DisclosureSection(
         tr("Layers"), {new SectionHeader(tr("Layers")), new LayerCount(document)},
         new LayersSection(document), Start::closed));
@@ -76,21 +74,13 @@ QSize SidebarView::minimumSizeHint() const {
     return {std::clamp(content, leastWidth, greatestWidth), 0};
 }
 
-void SidebarView::takeColors() {
-    setPalette(semanticPalette(SemanticColor::controlBackground));
-    const QColor knob = withOpacity(semanticColor(SemanticColor::gray), 0.5);
-    verticalScrollBar()->setStyleSheet(
-        QStringLiteral("QScrollBar { width: %1px; background: transparent; border: none; }"
-                       "QScrollBar::handle { background: %2; border-radius: 3px; margin: 2px;"
-                       " min-height: 24px; }"
-                       "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
-                       "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }")
-            .arg(scrollBarWidth)
-            .arg(knob.name(QColor::HexArgb)));
-}
+void SidebarView::takeColors() { setPalette(semanticPalette(SemanticColor::controlBackground)); }
 
 void SidebarView::makeRoomForScrollBar() {
-    const int trailing = sidePadding - (verticalScrollBar()->isVisible() ? scrollBarWidth : 0);
+    // The bar takes its room from the padding, so that the column keeps its width.
+    const QScrollBar& bar = *verticalScrollBar();
+    const int trailing =
+        bar.isVisible() ? std::max(0, sidePadding - bar.sizeHint().width()) : sidePadding;
     column_->layout()->setContentsMargins(isRightToLeft() ? trailing : sidePadding, verticalPadding,
                                           isRightToLeft() ? sidePadding : trailing,
                                           verticalPadding);

@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
 #include <numeric>
 #include <utility>
 
@@ -34,14 +36,14 @@ constexpr TextLabel::Look zoomNumber{TypeStyle::caption, QFont::Medium, Semantic
 constexpr TextLabel::Look layerName{TypeStyle::caption, QFont::Normal, SemanticColor::tertiary,
                                     TextLabel::Digits::proportional};
 
+}  // namespace
+
 qint64 strokeCount(const DrawingDocument& document) {
     return std::accumulate(document.layers->begin(), document.layers->end(), qint64{0},
                            [](qint64 sum, const Layer& layer) {
                                return sum + static_cast<qint64>(layer.strokes.size());
                            });
 }
-
-}  // namespace
 
 QString localizedStrokeCount(qint64 count) {
     const QString format =
@@ -56,8 +58,9 @@ QString wholePixels(double side) {
 
 StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindow, QWidget* parent)
     : QWidget(parent), document_(document), canvasSize_({}, numbers), strokeCount_({}, caption),
-      zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}), zoomText_({}, zoomNumber),
-      activeLayer_({}, layerName), follower_(document, [this] { showDocument(); }) {
+      zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}, nullptr, ContinuousSlider::Knob::small),
+      zoomText_({}, zoomNumber), activeLayer_({}, layerName),
+      follower_(document, [this] { showDocument(); }) {
     auto* const actualSize = new SmallButton(tr("100%"));
     auto* const fit = new SmallButton(tr("Fit"));
     connect(&zoom_, &ContinuousSlider::moved, this, [this](double zoom) { document_.zoom = zoom; });
@@ -91,13 +94,35 @@ void StatusBar::showDocument() {
     canvasSize_.setText(wholePixels(size.width) + QChar(0x00D7) + wholePixels(size.height));
     strokeCount_.setText(localizedStrokeCount(strokeCount(document_)));
 
-    const QString percent = QStringLiteral("%1%").arg(static_cast<qint64>(document_.zoom * 100));
+    const QString percent = tr("%1%").arg(static_cast<qint64>(document_.zoom * 100));
     zoom_.showValue(document_.zoom, percent);
     zoomText_.setText(percent);
 
     const Layer* const layer = document_.activeLayer();
     activeLayer_.setVisible(layer != nullptr);
     if (layer != nullptr) activeLayer_.setText(QString::fromStdString(layer->name));
+    if (layout() != nullptr) shortenLabels();
+}
+
+/// Where room is missing, the name of the layer, which stands in the sidebar too, gives way first
+/// and the zoom last.
+void StatusBar::shortenLabels() {
+    const std::array labels{&activeLayer_, &strokeCount_, &canvasSize_, &zoomText_};
+    for (TextLabel* const label : labels)
+        label->setMaximumWidth(QWIDGETSIZE_MAX);
+    int missing = layout()->sizeHint().width() - width();
+    for (TextLabel* const label : labels) {
+        if (label->isHidden()) continue;
+        const int whole = label->sizeHint().width();
+        const int given = std::clamp(missing, 0, whole - label->minimumSizeHint().width());
+        if (given > 0) label->setMaximumWidth(whole - given);
+        missing -= given;
+    }
+}
+
+void StatusBar::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    shortenLabels();
 }
 
 void StatusBar::paintEvent(QPaintEvent*) {

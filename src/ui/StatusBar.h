@@ -11,6 +11,9 @@
 
 namespace marlevo {
 
+/// Of all layers, hidden ones too.
+qint64 strokeCount(const DrawingDocument& document);
+
 /// What the catalogue says for a number of strokes: its entry "single_stroke" for exactly 1, else
 /// "multiple_strokes", with the count for "%1". Without an entry the key itself.
 QString localizedStrokeCount(qint64 count);
@@ -31,10 +34,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void layOut(QWidget* actualSize, QWidget* fit);
     void showDocument();
+    void shortenLabels();
 
     DrawingDocument& document_;
     TextLabel canvasSize_;

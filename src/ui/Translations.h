@@ -4,14 +4,12 @@
 
 namespace marlevo {
 
-/// The program's texts in the user's language, as long as this object lives; in English where there
-/// is no catalogue for that language. To be made before any window.
+/// The program's texts and the toolkit's own, in the first of the user's languages for which there
+/// is a catalogue, else in English, as long as this object lives. To be made before any window.
 ///
-/// Texts are marked by tr() in the windows and by Services::translate() in the layers that know no
-/// toolkit; the catalogue's tool finds both:
-///     lupdate src -ts translations/marlevo_<language>.ts
-/// The keys "single_stroke" and "multiple_strokes" have their texts in every catalogue, the English
-/// one included.
+/// Texts are marked by tr() in the windows, and by Services::translate() and translatable() in the
+/// layers that know no toolkit; the build target update_catalogues brings the catalogues of
+/// translations/ up to date with them.
 class Translations {
 public:
     Translations();

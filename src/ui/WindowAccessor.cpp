@@ -2,23 +2,13 @@
 
 #include "io/FileTypes.h"
 #include "model/DrawingDocument.h"
+#include "ui/StatusBar.h"
 
 #include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include <algorithm>
-
 namespace marlevo {
-
-namespace {
-
-bool hasStrokes(const DrawingDocument& document) {
-    return std::any_of(document.layers->begin(), document.layers->end(),
-                       [](const Layer& layer) { return !layer.strokes.isEmpty(); });
-}
-
-}  // namespace
 
 WindowAccessor::Coordinator::Coordinator(DrawingDocument& document, QObject* parent)
     : QObject(parent), document_(document) {}
@@ -36,7 +26,7 @@ bool WindowAccessor::Coordinator::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool WindowAccessor::Coordinator::windowShouldClose(QWidget& window) {
-    if (shouldSkipClose_ || !hasStrokes(document_)) return true;
+    if (shouldSkipClose_ || strokeCount(document_) < 1) return true;
     if (alert_)
         alert_->raise();
     else

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -269,6 +270,49 @@ TEST(DocumentReader, namesThePlaceWhereTheTextIsBroken) {
     EXPECT_EQ(errorOf(""), "line 1, column 1: the text is empty");
     EXPECT_EQ(errorOf(" \n"), "line 2, column 1: the text is empty");
     EXPECT_EQ(errorOf("\"abc"), "line 1, column 5: the text ends within a string");
+}
+
+TEST(DocumentReader, readsLongTextsAsItReadsShortOnes) {
+    // Long enough to be read by two threads.
+    constexpr std::size_t copies = 10'000;
+    const std::size_t from = sample.find("        {\n");
+    const std::string stroke = sample.substr(from, sample.find("\n      ]") - from);
+    const auto textWith = [&](const std::string& last) {
+        std::string strokes;
+        for (std::size_t i = 1; i < copies; ++i)
+            strokes += stroke + ",\n";
+        return sampleWith(stroke, strokes + last);
+    };
+    const auto changed = [&](std::string_view part, std::string_view to) {
+        std::string last = stroke;
+        return last.replace(last.find(part), part.size(), to);
+    };
+
+    auto document = read(textWith(changed("240", "250")));
+    ASSERT_TRUE(document);
+    auto& strokes = document->layers[0].strokes;
+    ASSERT_EQ(strokes.size(), copies);
+    EXPECT_EQ(strokes.back().points[1], (Point{300.5, 250}));
+    strokes.resize(copies - 1);
+    EXPECT_TRUE(std::ranges::all_of(strokes, [&](const StrokeData& s) { return s == strokes[0]; }));
+    strokes.resize(1);
+    EXPECT_TRUE(*document == *read(sample));
+
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {"10,", "10, \"x\",", ".points[1]: a number was expected"},
+        {"\"isFill\" : false,", "", ": isFill is missing"},
+        {"\"isFill\"", "\"x\" : [1}, \"isFill\"",
+         ".x: line 120013, column 19: ',' or ']' was expected"},
+        {"240 ]", "240, ]", ".points[4]: line 120005, column 44: a value was expected"},
+        {"240 ]", "240 }", ".points: line 120005, column 43: ',' or ']' was expected"},
+    };
+    for (const auto& [part, to, error] : cases)
+        EXPECT_EQ(errorOf(textWith(changed(part, to))), "layers[0].strokes[9999]" + error);
+    EXPECT_EQ(errorOf(textWith("{},")),
+              "layers[0].strokes[10000]: line 120005, column 7: a value was expected");
+    EXPECT_EQ(errorOf(textWith("17")), "layers[0].strokes[9999]: an object was expected");
+    // Of a key that comes twice the last value counts, also when the first one is wrong.
+    EXPECT_EQ(errorOf(textWith(changed("\"isFill\"", "\"isFill\" : 1, \"isFill\""))), "accepted");
 }
 
 TEST(DocumentReader, refusesEveryPrefixOfAFile) {

@@ -91,7 +91,6 @@ TEST(EmbeddableJpeg, KnowsSizeAndOrientation) {
     ASSERT_TRUE(plain);
     EXPECT_EQ(plain->width, 32);
     EXPECT_EQ(plain->height, 16);
-    EXPECT_FALSE(plain->isGray);
     EXPECT_EQ(plain->orientation, 1);
     EXPECT_EQ(EmbeddableJpeg::recognise(jpegWithOrientation(6))->orientation, 6);
     EXPECT_EQ(EmbeddableJpeg::recognise(jpegWithOrientation(9))->orientation, 1);

@@ -3,14 +3,12 @@
 #include "platform/Printer.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/ManualQueue.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <memory>
-#include <unistd.h>
 
 namespace marlevo {
 namespace {
@@ -39,7 +37,6 @@ struct FakePasteboard : Pasteboard {
 class Exchange : public testing::Test {
 protected:
     Exchange() {
-        std::filesystem::create_directory(folder);
         Services services;
         services.mainQueue = &mainQueue;
         services.imageCodec = &codec;
@@ -49,15 +46,8 @@ protected:
         document->canvasSize = CanvasSize{20.7, 10.2};
         document->backgroundColor = Color{1, 0, 0, 1};
     }
-    ~Exchange() override { std::filesystem::remove_all(folder); }
 
-    static std::string contents(const std::filesystem::path& file) {
-        std::ifstream in(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-
-    std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / ("marlevo-exchange-" + std::to_string(getpid()));
+    TemporaryFolder folder;
     ManualMainQueue mainQueue;
     FakeImageCodec codec;
     FakePrinter printer;
@@ -67,25 +57,25 @@ protected:
 
 TEST_F(Exchange, ExportReplacesTheFile) {
     const auto file = folder / "picture";
-    std::ofstream(file) << std::string(100000, 'x');
+    writeText(file, std::string(100000, 'x'));
     document->exportTo(file, ExportFormat::bmp);
     const auto encoded = codec.encode(*document->renderCGImage(), ImageCodec::Format::bmp);
-    EXPECT_EQ(contents(file), std::string(encoded->begin(), encoded->end()));
+    EXPECT_EQ(textOf(file), std::string(encoded->begin(), encoded->end()));
     document->exportTo(file, ExportFormat::pdf);
-    EXPECT_THAT(contents(file), StartsWith("%PDF-"));
+    EXPECT_THAT(textOf(file), StartsWith("%PDF-"));
 }
 
 TEST_F(Exchange, ExportThatFailsLeavesEverythingAsItWas) {
-    document->exportTo(folder / "missing" / "picture.png", ExportFormat::png);
-    document->exportTo(folder, ExportFormat::pdf);
-    EXPECT_TRUE(std::filesystem::is_empty(folder));
+    document->exportTo(folder / "missing/picture.png", ExportFormat::png);
+    document->exportTo(folder.path(), ExportFormat::pdf);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 
     const auto file = folder / "picture";
-    std::ofstream(file) << "old";
+    writeText(file, "old");
     document->canvasSize = CanvasSize{0, 10};
     for (const ExportFormat format : allExportFormats)
         document->exportTo(file, format);
-    EXPECT_EQ(contents(file), "old");
+    EXPECT_EQ(textOf(file), "old");
 }
 
 TEST_F(Exchange, PrintsAfterTheCurrentEventThePictureOfItsBeginning) {

@@ -71,9 +71,11 @@ TEST(NumberText, hasTheShortestDigitsThatReadBack) {
         case 3:
             return std::nextafter(std::round(bits / 0x1p53 * 1e5) / 1e2,
                                   random() % 2 == 0 ? 0 : 1e9);
-        default:
-            return std::nextafter(std::ldexp(1.0, static_cast<int>(random() % 80) - 20),
-                                  std::ldexp(1.0, static_cast<int>(random() % 80) - 20));
+        default: {
+            // Powers of two and their neighbours, where the gaps between doubles change.
+            const double power = std::ldexp(1.0, static_cast<int>(random() % 80) - 20);
+            return std::nextafter(power, power * static_cast<double>(random() % 3));
+        }
         }
     };
     for (int i = 0; i < 500'000; ++i) {
@@ -88,14 +90,6 @@ TEST(NumberText, hasTheShortestDigitsThatReadBack) {
         if (isFraction) {
             ASSERT_EQ(digitsOf(text), shortestDigitsOf(number)) << text;
         }
-    }
-}
-
-TEST(NumberText, powersOfTwoAndTheirNeighboursAreShortest) {
-    for (int exponent = -12; exponent < 53; ++exponent) {
-        const double power = std::ldexp(1.0, exponent);
-        for (const double number : {std::nextafter(power, 0), power, std::nextafter(power, 1e300)})
-            EXPECT_EQ(digitsOf(textOf(number)), shortestDigitsOf(number)) << exponent;
     }
 }
 

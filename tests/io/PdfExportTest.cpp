@@ -1,4 +1,3 @@
-#include "io/PdfContext.h"
 #include "model/DrawingDocument.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/PageReaders.h"
@@ -170,7 +169,7 @@ TEST_P(PdfInReaders, ImagesAreUprightWithTheirAlphaAndOpacity) {
 }
 
 TEST_P(PdfInReaders, PhotosAreTurnedUpright) {
-    addImage(jpegWithOrientation(1));
+    addImage(jpegWithOrientation(1), 0.75);
     for (std::uint8_t orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(int{orientation});
         document.layers.modify([&](LayerList& layers) {
@@ -182,10 +181,24 @@ TEST_P(PdfInReaders, PhotosAreTurnedUpright) {
     }
 }
 
-TEST_F(PdfExport, TheMediaBoxIsTheCanvasToTheLastDigit) {
-    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [0 0 200 120 ]"));
+TEST_P(PdfInReaders, ValuesNoPageKnowsLookLikeTheRaster) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    Stroke odd = makeStroke({{nan, 5}, {1e300, nan}, {10, 10}, {50, 50}}, 40);
+    odd.color = {nan, 7, -3, 1};
+    odd.opacity = 7;
+    add(odd);
+    odd.opacity = -1;
+    odd.lineWidth = 1e300;
+    add(odd);
+    odd.lineWidth = nan;
+    add(odd);
+    EXPECT_LT(difference(), 1.5);
+}
+
+TEST_F(PdfExport, TheMediaBoxIsTheCanvasWithItsFractions) {
+    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [ 0 0 200 120 ]"));
     document.canvasSize = CanvasSize{800.7, 600.2};
-    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [0 0 800.7 600.2 ]"));
+    EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [ 0 0 800.7 600.2 ]"));
 }
 
 TEST_F(PdfExport, CanvasesThatNoPageCanHaveGiveNothing) {
@@ -198,21 +211,6 @@ TEST_F(PdfExport, CanvasesThatNoPageCanHaveGiveNothing) {
     }
     document.canvasSize = CanvasSize{0.5, 100};
     EXPECT_TRUE(document.renderPDFData());
-}
-
-TEST_F(PdfExport, ValuesNoPageKnowsHurtNothing) {
-    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    Stroke odd = makeStroke({{nan, 5}, {1e300, nan}, {10, 10}, {50, 50}}, 1e300);
-    odd.color = {nan, 7, -3, 1};
-    odd.opacity = 7;
-    add(odd);
-    odd.opacity = -1;
-    odd.lineWidth = nan;
-    add(odd);
-    const std::string pdf = text();
-    EXPECT_FALSE(pdf.empty());
-    EXPECT_EQ(pdf.find("nan"), std::string::npos);
-    EXPECT_EQ(pdf.find("inf"), std::string::npos);
 }
 
 TEST_F(PdfExport, PhotosKeepTheirBytesUnlessTheirPixelsAreOthers) {

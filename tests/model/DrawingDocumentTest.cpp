@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -226,17 +225,6 @@ TEST(LayerList, SharesTheLayersThatDidNotChange) {
         names.push_back(layer.name);
     EXPECT_THAT(names, ElementsAre("changed", "new", "c"));
     EXPECT_EQ(snapshot.size(), 3u);
-}
-
-TEST(CanvasSize, PresetsHaveIdentitiesOfTheirOwn) {
-    const auto& presets = CanvasSize::presets();
-    ASSERT_EQ(presets.size(), 6u);
-    EXPECT_EQ(presets[0].name, "Square 1:1 (1080\xC3\x97"
-                               "1080)");
-    std::set<std::size_t> ids;
-    for (const auto& preset : presets)
-        ids.insert(preset.id.hash());
-    EXPECT_EQ(ids.size(), 6u);
 }
 
 }  // namespace

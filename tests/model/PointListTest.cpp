@@ -1,7 +1,5 @@
 #include "model/PointList.h"
 
-#include "model/Stroke.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -38,10 +36,6 @@ TEST(PointList, BoundsHoldEveryPointOrSayThatTheyCannot) {
         EXPECT_TRUE(std::isnan(points.bounds().minX()));
         EXPECT_EQ(points.bounds().minY(), 1);
     }
-    Stroke shape;
-    shape.shapeType = Stroke::ShapeType::rect;
-    shape.points = {{10, 20}, {4, 8}, {0, 30}};
-    EXPECT_EQ(shape.boundingRect(), (Rect{{0, 8}, {10, 22}}));
 }
 
 }  // namespace

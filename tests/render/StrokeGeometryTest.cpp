@@ -48,12 +48,5 @@ TEST(StrokeGeometry, ShapesSpanTheirFirstTwoPointsWhicheverWayTheyWereDragged) {
     EXPECT_TRUE(makeStroke({}, 3, Type::rect).path().isEmpty());
 }
 
-TEST(StrokeGeometry, BoundsHoldEveryPointOfAnyShape) {
-    EXPECT_EQ(makeStroke({{10, 20}, {4, 8}, {99, -1}}, 3, Type::rect).boundingRect(),
-              (Rect{{4, -1}, {95, 21}}));
-    EXPECT_EQ(makeStroke({{3, 4}}).boundingRect(), (Rect{{3, 4}, {0, 0}}));
-    EXPECT_EQ(makeStroke({}).boundingRect(), Rect{});
-}
-
 }  // namespace
 }  // namespace marlevo

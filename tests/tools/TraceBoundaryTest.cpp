@@ -16,7 +16,6 @@ void PrintTo(const GridPoint& point, std::ostream* out) {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 using Points = std::vector<GridPoint>;
 
@@ -73,21 +72,6 @@ TEST(TraceBoundary, GivesTheSameVerticesInAnEnormousGrid) {
     const int enormous = static_cast<int>(Chord::exactExtent) + 1;
     EXPECT_EQ(traceBoundary(block(30, 4, enormous, 4)), traceBoundary(block(30, 4, 40, 4)));
     EXPECT_THAT(traceBoundary(block(1, 2, enormous, 4)), SizeIs(2));
-}
-
-TEST(TraceBoundary, LeavesTheWholeCanvasFiveVertices) {
-    const Region region = block(1280, 720, 1280, 720);
-    EXPECT_THAT(traceOutline(region), SizeIs(3996));
-    EXPECT_THAT(traceBoundary(region),
-                ElementsAre(GridPoint{0, 719}, GridPoint{0, 0}, GridPoint{1279, 0},
-                            GridPoint{1279, 719}, GridPoint{1, 719}));
-}
-
-TEST(TraceBoundary, FindsNoShapeInRegionsThatAreTooSmallOrFlat) {
-    EXPECT_THAT(traceBoundary(Region(5, 5)), IsEmpty());
-    EXPECT_THAT(traceBoundary(block(1, 1, 5, 5)), ElementsAre(GridPoint{0, 0}));
-    EXPECT_THAT(traceBoundary(block(2, 1, 5, 5)), ElementsAre(GridPoint{0, 0}, GridPoint{1, 0}));
-    EXPECT_THAT(traceBoundary(block(6, 3, 10, 10)), SizeIs(2));
 }
 
 TEST(TraceBoundary, StopsWhenTheOutlineOutgrowsTheGrid) {

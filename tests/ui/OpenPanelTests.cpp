@@ -20,9 +20,8 @@ class OpenPanelTests : public QObject {
 
         Setting() {
             window.show();
-            panels.showOpenPanel(
-                {"Open Drawing", {"Marlevo drawing", "application/x-marlevo", {"marlevo"}}},
-                [this](const auto& answer) { answers.push_back(answer); });
+            panels.showOpenPanel({"Open Drawing", {"Marlevo drawing", {"marlevo"}}},
+                                 [this](const auto& answer) { answers.push_back(answer); });
             panel = window.findChild<OpenPanel*>();
             panel->setDirectory(folder.path());
         }

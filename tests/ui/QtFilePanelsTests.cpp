@@ -24,7 +24,7 @@ class QtFilePanelsTests : public QObject {
 
         SavePanel& open() {
             panels->showSavePanel({"Export Drawing",
-                                   {"PNG image", "image/png", {"png"}},
+                                   {"PNG image", {"png"}},
                                    "Drawing-1280x720.png",
                                    folder.path().toStdString()},
                                   [this](const auto& answer) { answers.push_back(answer); });

@@ -57,6 +57,15 @@ private Q_SLOTS:
         }
     }
 
+    void aPixelIsAPointOnEveryScreen() {
+        for (const Format format : {Format::png, Format::jpeg, Format::tiff, Format::bmp}) {
+            const auto file = codec.encode(everyPremultipliedPixel(), format).value();
+            const QImage image = QImage::fromData(file.data(), int(file.size()));
+            QCOMPARE(qRound(image.dotsPerMeterX() * 0.0254), 72);
+            QCOMPARE(qRound(image.dotsPerMeterY() * 0.0254), 72);
+        }
+    }
+
     void jpegAndBmpLieOnWhite() {
         // A transparent, a half black and a full blue quarter.
         constexpr int side = 32;

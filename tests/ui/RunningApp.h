@@ -44,13 +44,6 @@ inline void drawStroke(DrawingDocument& document) {
     document.endStroke();
 }
 
-inline std::size_t strokeCount(const DrawingDocument& document) {
-    std::size_t count = 0;
-    for (const Layer& layer : *document.layers)
-        count += layer.strokes.size();
-    return count;
-}
-
 /// The command with this title in the window's menus.
 inline QAction& command(QWidget& window, const QString& title) {
     for (QAction* action : window.findChildren<QAction*>())

@@ -99,7 +99,10 @@ private Q_SLOTS:
 
         // Pressed again, as a click and as assistive technology does it, it stays.
         s.click(name);
-        s.get(name).toggle();
+        auto* accessible = QAccessible::queryAccessibleInterface(&s.get(name));
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(accessible->role(), QAccessible::Button);
+        QVERIFY(accessible->state().pressed);
         QCOMPARE(activeOf<ModeButton>(s), QStringList{name});
         QCOMPARE(s.window.focusWidget(), s.field);
     }
@@ -254,13 +257,22 @@ private Q_SLOTS:
         QCOMPARE(s.get("Show layer: Layer 3").toolTip(), "Show layer");
         s.document.activeLayerIndex = 7;
         QVERIFY(activeOf<LayerRow>(s).isEmpty());
+
+        auto* row = QAccessible::queryAccessibleInterface(&s.get<LayerRow>("Layer 3"));
+        QCOMPARE(row->role(), QAccessible::ListItem);
+        QCOMPARE(row->parent()->role(), QAccessible::List);
+        row->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(row->state().selected);
+        QCOMPARE(s.document.activeLayerIndex.get(), 0);
+        row->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(s.document.layers->front().isVisible);
     }
 
     void thumbnailsAreRenderedWhenTheyAreSeen() {
         SidebarSetting s;
         QCOMPARE(s.backgroundQueue.size(), std::size_t{0});
         s.openLayers();
-        auto& thumbnail = s.get<LayerThumbnailView>("Background");
+        auto& thumbnail = s.get<LayerThumbnailView>("Thumbnail: Background");
         const QPoint middle(22, 16);
         QVERIFY(pixel(thumbnail, middle) != QColor(Qt::white));
         const auto render = [&] {

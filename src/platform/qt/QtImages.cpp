@@ -5,6 +5,17 @@
 
 namespace marlevo {
 
+namespace {
+
+/// A pixel is a point, 1/72 inch, whatever screen the program runs on.
+void setPixelsToPoints(QImage& image) {
+    constexpr int dotsPerMeter = 2835;
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+}
+
+}  // namespace
+
 // QRgb is 0xAARRGGBB: its big-endian bytes are ours.
 RasterImage rasterFrom(const QImage& image) {
     const auto width = static_cast<std::size_t>(image.width());
@@ -19,6 +30,7 @@ RasterImage rasterFrom(const QImage& image) {
 QImage qImageFrom(const RasterImage& raster) {
     QImage image(raster.width(), raster.height(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return image;
+    setPixelsToPoints(image);
     const std::size_t rowBytes =
         static_cast<std::size_t>(raster.width()) * RasterImage::bytesPerPixel;
     const std::uint8_t* row = raster.bytes().data();
@@ -31,6 +43,7 @@ QImage onWhite(const QImage& image) {
     QImage flat(image.size(), QImage::Format_RGB32);
     if (flat.isNull()) return flat;
     flat.fill(Qt::white);
+    setPixelsToPoints(flat);
     QPainter(&flat).drawImage(0, 0, image);
     return flat;
 }

@@ -61,7 +61,11 @@ public:
 
     bool offersImage() const override { return !format_.isEmpty(); }
 
-    void loadImage(Completion completion) override { completion(toBytes(data_.data(format_))); }
+    void loadImage(Completion completion) override {
+        const QByteArray image = data_.data(format_);
+        // A source that broke its promise of the form gives nothing of it.
+        completion(image.isEmpty() ? std::nullopt : std::optional(toBytes(image)));
+    }
 
 private:
     const QMimeData& data_;

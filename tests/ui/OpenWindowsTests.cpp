@@ -1,0 +1,57 @@
+#include "tests/support/TemporaryFolder.h"
+#include "tests/ui/RunningApp.h"
+
+using namespace marlevo;
+
+class OpenWindowsTests : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachDrawingGetsAWindowOfItsOwn() {
+        writeDrawing("a.marlevo", 1);
+        writeDrawing("b.marlevo", 2);
+        writeText(folder_ / "broken.marlevo", "{");
+        FakeConsole console;
+        MarlevoApp app({.console = &console});
+        const std::vector files{folder_ / "a.marlevo", folder_ / "broken.marlevo",
+                                folder_ / "b.marlevo"};
+        app.openWindows(files);
+
+        const std::vector<DocumentWindow*> windows = app.documentWindows();
+        QCOMPARE(windows.size(), std::size_t(2));
+        for (DocumentWindow* const window : windows)
+            QVERIFY(!window->content().showNewCanvas());
+        QCOMPARE(windows[0]->document().currentFileURL.get(), std::optional(files[0]));
+        QCOMPARE(windows[1]->document().currentFileURL.get(), std::optional(files[2]));
+        QCOMPARE(strokeCount(windows[0]->document()), std::size_t(1));
+        QCOMPARE(strokeCount(windows[1]->document()), std::size_t(2));
+        QTRY_COMPARE(windows[1]->windowTitle(), QString("b.marlevo"));
+        QCOMPARE(console.lines.size(), std::size_t(1));
+        QVERIFY(console.lines.front().starts_with("Load failed: " + files[1].string()));
+    }
+
+    void withoutAReadableDrawingThereIsAFreshWindow() {
+        FakeConsole console;
+        MarlevoApp app({.console = &console});
+        const std::vector files{folder_ / "missing.marlevo", folder_ / "missing too.marlevo"};
+        app.openWindows(files);
+        QCOMPARE(app.documentWindows().size(), std::size_t(1));
+        QVERIFY(app.documentWindows().front()->content().showNewCanvas());
+        QVERIFY(!app.documentWindows().front()->document().currentFileURL.get());
+        QCOMPARE(console.lines.size(), std::size_t(2));
+    }
+
+private:
+    void writeDrawing(const std::string& name, int strokes) {
+        DrawingDocument document;
+        document.ensureLayers();
+        for (int i = 0; i < strokes; ++i)
+            drawStroke(document);
+        document.writeDocument(folder_ / name);
+    }
+
+    TemporaryFolder folder_;
+};
+
+QTEST_MAIN(OpenWindowsTests)
+#include "OpenWindowsTests.moc"
