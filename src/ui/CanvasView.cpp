@@ -148,6 +148,15 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     if (document_.isEyeDropper)
         paintIcon(painter, Icon::eyedropper, eyeDropperPlace(),
                   withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
+    limitMemory(painter);
+}
+
+void CanvasView::limitMemory(QPainter& painter) {
+    if (picture_.cachedBytes() <= ScreenPicture::maxCachedBytes) return;
+    const QRect inSight =
+        DevicePixels(painter, QPointF(0, 0)).touchedBy(visibleRegion().boundingRect());
+    picture_.dropTilesOutside({inSight.left(), inSight.top(), inSight.left() + inSight.width(),
+                               inSight.top() + inSight.height()});
 }
 
 void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
