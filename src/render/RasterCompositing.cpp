@@ -32,14 +32,10 @@ void paintInBands(const PixelBuffer& picture, Paint paint) {
 void drawStrokes(GraphicsContext& context, const Layer& layer, const IntRect& band, double height) {
     const Rect seen{{double(band.left), double(band.top)},
                     {double(band.width()), double(band.height())}};
-    layer.strokes.visit(
-        [&](const StrokeSummary& strokes) {
-            return strokes.reaches(seen, strokes.maxLineWidth / 2 + penFringe);
-        },
-        [&](std::size_t, const Stroke& stroke) {
-            if (stroke.points.size() >= 2) drawStroke(context, stroke, height);
-            return true;
-        });
+    layer.strokes.visitNear(seen, penFringe, [&](std::size_t, const Stroke& stroke) {
+        if (stroke.points.size() >= 2) drawStroke(context, stroke, height);
+        return true;
+    });
 }
 
 }  // namespace

@@ -199,14 +199,11 @@ void ScreenPicture::renderLayers(const LayerRun& run, const PixelBuffer& part) c
         context.drawImage(*run.image, contents_.canvasRect());
     }
     for (const Layer* layer : run.layers) {
-        layer->strokes.visit(
-            [&](const StrokeSummary& strokes) {
-                return strokes.reaches(visible, strokes.maxLineWidth / 2 + penFringe / scale);
-            },
-            [&](std::size_t, const Stroke& stroke) {
-                drawOnScreen(context, stroke);
-                return true;
-            });
+        layer->strokes.visitNear(visible, penFringe / scale,
+                                 [&](std::size_t, const Stroke& stroke) {
+                                     drawOnScreen(context, stroke);
+                                     return true;
+                                 });
     }
 }
 
