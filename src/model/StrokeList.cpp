@@ -63,8 +63,8 @@ void StrokeList::replace(std::size_t at, Stroke stroke) {
 
 StrokeSummary StrokeList::summary() const {
     StrokeSummary summary = tree_ ? tree_->summary : StrokeSummary{};
-    for (std::size_t i = 0; i < tailSize_; ++i)
-        summary.add(tail_->summaries[i]);
+    for (const auto& record : tail())
+        summary.add(StrokeSummary::of(record->stroke));
     return summary;
 }
 

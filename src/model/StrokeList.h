@@ -57,14 +57,14 @@ public:
     /// What all strokes add up to.
     StrokeSummary summary() const;
 
-    /// Calls `visitor(index, stroke)` in order for each stroke whose summary `matters`, a predicate
-    /// on StrokeSummary, accepts; whole runs of strokes are skipped when it refuses their common
-    /// summary, so it must accept a summary if it accepts a part of it. Stops when the visitor
-    /// answers false; false if it did.
-    template <typename Predicate, typename Visitor>
-    bool visit(const Predicate& matters, Visitor&& visitor) const {
-        return (!tree_ || stroke_tree::visit(*tree_, 0, matters, visitor)) &&
-               (!tail_ || stroke_tree::visit(*tail_, tailSize_, treeSize(), matters, visitor));
+    /// Calls `visitor(index, stroke)` in order for each stroke that paints something, or has a
+    /// point, within `margin` of the area, and perhaps for one that only nearly does. Stops when
+    /// the visitor answers false; false if it did.
+    template <typename Visitor>
+    bool visitNear(const Rect& area, double margin, Visitor&& visitor) const {
+        const stroke_tree::Search search(area, margin);
+        return (!tree_ || stroke_tree::visit(*tree_, 0, search, visitor)) &&
+               (!tail_ || stroke_tree::visit(*tail_, tailSize_, treeSize(), search, visitor));
     }
 
     /// True when both share all their strokes: a cheap "known equal".

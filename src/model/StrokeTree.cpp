@@ -15,7 +15,7 @@ NodeType& own(Ref<Node>& node) {
 }
 
 template <typename T>
-void closeGap(std::array<T, fanOut>& slots, std::size_t at, std::size_t size) {
+void closeGap(std::array<Ref<T>, fanOut>& slots, std::size_t at, std::size_t size) {
     std::move(slots.begin() + at + 1, slots.begin() + size, slots.begin() + at);
     slots[size - 1] = {};
 }
@@ -78,19 +78,20 @@ void eraseBelow(Ref<Node>& node, std::size_t index) {
 
 Leaf::Leaf(const Leaf& other, std::size_t size) : Node(0), filled(size) {
     std::copy_n(other.slots.begin(), size, slots.begin());
-    std::copy_n(other.summaries.begin(), size, summaries.begin());
+    for (std::size_t i = 0; i < size; ++i)
+        boxes.set(i, other.boxes[i]);
 }
 
 bool Leaf::appendAfter(std::size_t known, const Ref<Record>& record) {
     // Two versions on two threads may both want the slot.
     if (known == fanOut || !filled.compare_exchange_strong(known, known + 1)) return false;
     slots[known] = record;
-    summaries[known] = StrokeSummary::of(record->stroke);
+    boxes.set(known, Box::paintedBy(StrokeSummary::of(record->stroke)));
     return true;
 }
 
 void Leaf::replace(std::size_t at, Stroke stroke) {
-    summaries[at] = StrokeSummary::of(stroke);
+    boxes.set(at, Box::paintedBy(StrokeSummary::of(stroke)));
     if (slots[at].isUnique())
         slots[at]->stroke = std::move(stroke);
     else
@@ -99,20 +100,24 @@ void Leaf::replace(std::size_t at, Stroke stroke) {
 
 void Leaf::erase(std::size_t at) {
     closeGap(slots, at, filled);
-    closeGap(summaries, at, filled);
     --filled;
+    for (std::size_t i = at; i < filled; ++i)
+        boxes.set(i, boxes[i + 1]);
+    boxes.set(filled, {});
 }
 
 void Leaf::truncate(std::size_t size) {
-    for (std::size_t at = size; at < filled; ++at)
+    for (std::size_t at = size; at < filled; ++at) {
         slots[at] = {};
+        boxes.set(at, {});
+    }
     filled = size;
 }
 
 void Leaf::summarise() {
     summary = {};
-    for (std::size_t i = 0; i < filled; ++i)
-        summary.add(summaries[i]);
+    for (const Ref<Record>& record : records())
+        summary.add(StrokeSummary::of(record->stroke));
 }
 
 void Branch::erase(std::size_t at) {

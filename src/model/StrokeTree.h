@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Box.h"
 #include "model/Ref.h"
 #include "model/Stroke.h"
 #include "model/StrokeSummary.h"
@@ -35,6 +36,45 @@ struct Node : RefCounted {
     StrokeSummary summary;       ///< of all strokes below
 };
 
+/// Where each stroke of a leaf paints. Side by side, so that a search goes through little memory,
+/// looks at several strokes at a time and touches none but those it finds.
+struct LeafBoxes {
+    std::array<float, fanOut> minX;
+    std::array<float, fanOut> minY;
+    std::array<float, fanOut> maxX;
+    std::array<float, fanOut> maxY;
+
+    LeafBoxes() {
+        for (std::size_t i = 0; i < fanOut; ++i)
+            set(i, {});
+    }
+
+    void set(std::size_t at, const Box& box) {
+        minX[at] = box.minX;
+        minY[at] = box.minY;
+        maxX[at] = box.maxX;
+        maxY[at] = box.maxY;
+    }
+
+    Box operator[](std::size_t at) const { return {minX[at], minY[at], maxX[at], maxY[at]}; }
+
+    /// Said in the negative, so that an area which is not a number is touched; in whole numbers and
+    /// without branches, for the compiler to look at four strokes at once.
+    std::int32_t touches(std::size_t at, const Box& area) const {
+        const std::int32_t isBeside =
+            (minX[at] > area.maxX ? 1 : 0) | (maxX[at] < area.minX ? 1 : 0);
+        const std::int32_t isAboveOrBelow =
+            (minY[at] > area.maxY ? 1 : 0) | (maxY[at] < area.minY ? 1 : 0);
+        return 1 - (isBeside | isAboveOrBelow);
+    }
+    bool anyTouches(const Box& area) const {
+        std::int32_t any = 0;
+        for (std::size_t i = 0; i < fanOut; ++i)
+            any |= touches(i, area);
+        return any != 0;
+    }
+};
+
 /// Up to `fanOut` strokes. While it is the open end of a list it may be shared by versions of that
 /// list which know different numbers of its strokes; its summary is then not yet used. A slot that
 /// one version has filled is never written again, so the others need not know.
@@ -56,10 +96,7 @@ struct Leaf : Node {
 
     std::atomic<std::size_t> filled = 0;
     std::array<Ref<Record>, fanOut> slots;
-
-    /// Of the stroke in each slot. Side by side, so that a search looks at the memory of no stroke
-    /// but those that matter.
-    std::array<StrokeSummary, fanOut> summaries;
+    LeafBoxes boxes;  ///< of the strokes in the slots
 };
 
 struct Branch : Node {
@@ -93,25 +130,42 @@ void erase(Ref<Node>& root, std::size_t index);
 
 void replace(Ref<Node>& root, std::size_t index, Stroke stroke);
 
-/// Shows `visitor` the first `size` strokes of a leaf in order, leaving out those whose summary
-/// `matters` refuses; `index` is that of the first one. Ends early, with false, when the visitor
-/// answers false.
-template <typename Predicate, typename Visitor>
-bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Predicate& matters,
+/// What StrokeList::visitNear() looks for.
+struct Search {
+    Search(const Rect& wanted, double within)
+        : area(wanted), margin(within), box(Box::around(wanted, within)) {}
+
+    bool reaches(const StrokeSummary& strokes) const {
+        return strokes.reaches(area, margin + strokes.maxLineWidth / 2);
+    }
+
+    Rect area;
+    double margin;
+    Box box;
+};
+
+/// Shows `visitor` those of the first `size` strokes of a leaf that are found, in order; `index` is
+/// that of the first one. Ends early, with false, when the visitor answers false.
+template <typename Visitor>
+bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Search& search,
            Visitor& visitor) {
     for (std::size_t i = 0; i < size; ++i)
-        if (matters(leaf.summaries[i]) && !visitor(index + i, leaf.slots[i]->stroke)) return false;
+        if (leaf.boxes.touches(i, search.box) != 0 && !visitor(index + i, leaf.slots[i]->stroke))
+            return false;
     return true;
 }
 
 /// The same for all strokes below a node; whole subtrees are left out by their summary.
-
-template <typename Predicate, typename Visitor>
-bool visit(const Node& node, std::size_t index, const Predicate& matters, Visitor& visitor) {
-    if (!matters(node.summary)) return true;
-    if (node.isLeaf()) return visit(asLeaf(node), node.summary.count, index, matters, visitor);
+template <typename Visitor>
+bool visit(const Node& node, std::size_t index, const Search& search, Visitor& visitor) {
+    if (node.isLeaf()) {
+        const Leaf& leaf = asLeaf(node);
+        return !leaf.boxes.anyTouches(search.box) ||
+               visit(leaf, leaf.summary.count, index, search, visitor);
+    }
+    if (!search.reaches(node.summary)) return true;
     for (const Ref<Node>& child : asBranch(node).nodes()) {
-        if (!visit(*child, index, matters, visitor)) return false;
+        if (!visit(*child, index, search, visitor)) return false;
         index += child->summary.count;
     }
     return true;

@@ -36,18 +36,13 @@ strokesInSight(const LayerRun& run, std::span<const IntRect> areas, double scale
                     {whole.width() / scale, whole.height() / scale}};
     std::vector<std::vector<StrokeInSight>> found(areas.size());
     for (const Layer* layer : run.layers) {
-        layer->strokes.visit(
-            [&](const StrokeSummary& all) {
-                return all.reaches(seen, all.maxLineWidth / 2 + penFringe / scale);
-            },
-            [&](std::size_t, const Stroke& stroke) {
-                if (stroke.points.size() < 2) return true;
-                const StrokeInSight inSight{&stroke, paintedArea(stroke, scale)};
-                for (std::size_t i = 0; i < areas.size(); ++i)
-                    if (!inSight.area.intersectedWith(areas[i]).isEmpty())
-                        found[i].push_back(inSight);
-                return true;
-            });
+        layer->strokes.visitNear(seen, penFringe / scale, [&](std::size_t, const Stroke& stroke) {
+            if (stroke.points.size() < 2) return true;
+            const StrokeInSight inSight{&stroke, paintedArea(stroke, scale)};
+            for (std::size_t i = 0; i < areas.size(); ++i)
+                if (!inSight.area.intersectedWith(areas[i]).isEmpty()) found[i].push_back(inSight);
+            return true;
+        });
     }
     return found;
 }

@@ -29,15 +29,11 @@ bool isHit(const Stroke& stroke, Point p, double tolerance) {
 
 std::optional<std::size_t> firstHit(const StrokeList& strokes, Point p, double tolerance) {
     std::optional<std::size_t> found;
-    strokes.visit(
-        [&](const StrokeSummary& summary) {
-            return summary.reaches({p, {}}, tolerance);
-        },
-        [&](std::size_t index, const Stroke& stroke) {
-            if (!isHit(stroke, p, tolerance)) return true;
-            found = index;
-            return false;
-        });
+    strokes.visitNear({p, {}}, tolerance, [&](std::size_t index, const Stroke& stroke) {
+        if (!isHit(stroke, p, tolerance)) return true;
+        found = index;
+        return false;
+    });
     return found;
 }
 

@@ -217,9 +217,16 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrder) {
     twin.replace(1234, lost);
     Stroke wide = edits.stroke();
     wide.lineWidth = std::numeric_limits<double>::quiet_NaN();
-    twin.replace(3999, wide);
+    twin.replace(1500, wide);
 
     for (int i = 0; i < 200; ++i) {
+        // Behind those two.
+        const auto edited = [&] { return 2000 + edits.below(twin.plain.size() - 2000); };
+        twin.replace(edited(), edits.stroke());
+        twin.modify(edited());
+        twin.erase(edited());
+        for (std::size_t n = edits.below(3); n > 0; --n)
+            twin.append(edits.stroke());
         const auto upTo = [&](std::size_t limit) {
             return static_cast<double>(edits.below(limit));
         };
@@ -228,47 +235,59 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrder) {
         for (std::size_t at = 0; at < twin.plain.size(); ++at) {
             const Stroke& stroke = twin.plain[at];
             const Rect painted = stroke.boundingRect().grownBy(stroke.lineWidth / 2);
-            if (at == 1234 || at == 3999 ||
+            if (at == 1234 || at == 1500 ||
                 (painted.minX() <= area.maxX() && painted.maxX() >= area.minX() &&
                  painted.minY() <= area.maxY() && painted.maxY() >= area.minY()))
                 expected.push_back(at);
         }
         std::vector<std::size_t> found;
-        twin.list.visit(
-            [&](const StrokeSummary& strokes) {
-                return strokes.reaches(area, strokes.maxLineWidth / 2);
-            },
-            [&](std::size_t at, const Stroke& stroke) {
-                EXPECT_EQ(stroke.color, twin.plain[at].color);
-                found.push_back(at);
-                return true;
-            });
+        twin.list.visitNear(area, 0, [&](std::size_t at, const Stroke& stroke) {
+            EXPECT_EQ(stroke.color, twin.plain[at].color);
+            found.push_back(at);
+            return true;
+        });
         ASSERT_EQ(found, expected);
     }
 }
 
-TEST(StrokeList, VisitSkipsSubtreesAndStopsWhenTold) {
+TEST(StrokeList, VisitMissesNothingByRounding) {
+    RandomEdits edits(8);
+    StrokeList list;
+    std::vector<Point> places;
+    for (int i = 0; i < 2000; ++i) {
+        const auto coordinate = [&] {
+            return std::ldexp(static_cast<double>(edits.below(1u << 31)) - 0x1p30,
+                              static_cast<int>(edits.below(60)) - 40);
+        };
+        Stroke stroke = edits.stroke();
+        stroke.lineWidth = 0;
+        stroke.points = {places.emplace_back(Point{coordinate(), coordinate()})};
+        list.append(stroke);
+    }
+    for (std::size_t wanted = 0; wanted < places.size(); ++wanted)
+        EXPECT_FALSE(list.visitNear({places[wanted], {}}, 0, [&](std::size_t at, const Stroke&) {
+            return at != wanted;
+        })) << wanted;
+}
+
+TEST(StrokeList, VisitStopsWhenTold) {
     RandomEdits edits(4);
     StrokeList list;
-    for (int i = 0; i < 30000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         Stroke stroke = edits.stroke();
+        stroke.lineWidth = 0;
         stroke.points = {{1.0 * i, 0}, {1.0 * i, 1}};
         list.append(stroke);
     }
-    int asked = 0;
     std::vector<std::size_t> found;
-    const bool finished = list.visit(
-        [&](const StrokeSummary& summary) {
-            ++asked;
-            return summary.reaches({{12345, 0}, {2, 0}}, 0);
-        },
-        [&](std::size_t index, const Stroke&) {
-            found.push_back(index);
-            return found.size() < 2;
-        });
-    EXPECT_FALSE(finished);
-    EXPECT_EQ(found, (std::vector<std::size_t>{12345, 12346}));
-    EXPECT_LT(asked, 150);
+    const auto visitor = [&](std::size_t index, const Stroke&) {
+        found.push_back(index);
+        return found.size() % 2 != 0;
+    };
+    EXPECT_FALSE(list.visitNear({{1234, 0}, {2, 0}}, 0, visitor));
+    // In the leaf that is not yet in the tree.
+    EXPECT_FALSE(list.visitNear({{2996, 0}, {}}, 1, visitor));
+    EXPECT_EQ(found, (std::vector<std::size_t>{1234, 1235, 2995, 2996}));
 }
 
 TEST(StrokeDifference, IsExactBetweenAnyTwoVersions) {
