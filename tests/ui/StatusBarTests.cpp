@@ -2,6 +2,7 @@
 #include "ui/SmallButton.h"
 #include "ui/ZoomRange.h"
 
+#include <QScrollBar>
 #include <QTranslator>
 
 using namespace marlevo;
@@ -74,6 +75,9 @@ private Q_SLOTS:
         QCOMPARE(fitted({1e6, 1e6}), minZoom);
         const double height = s.window.height() - s.window.menuBar()->height();
         QCOMPARE(fitted({10, 2000}), (height - 60) / 2000);
+        // What fits is in sight without scrolling.
+        const auto& area = *s.window.findChild<CanvasScrollArea*>();
+        QVERIFY(!area.verticalScrollBar()->isVisible());
     }
 };
 
