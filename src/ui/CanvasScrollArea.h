@@ -14,8 +14,9 @@ class CanvasScrollArea final : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
-    /// Room around the canvas, in view points.
-    static constexpr int margin = 20;
+    /// Room around the canvas, in view points. Less than what fitting the canvas to the window
+    /// leaves beside it, so that a canvas that was fitted needs no scrolling.
+    static constexpr int margin = 12;
 
     /// The document must outlive the area.
     explicit CanvasScrollArea(DrawingDocument& document, QWidget* parent = nullptr);

@@ -18,7 +18,7 @@ void WindowMenu::listWindows() {
     qDeleteAll(listed_);
     listed_.clear();
     for (DocumentWindow* const window : app_.documentWindows()) {
-        QString title = window->windowTitle().replace('&', QLatin1String("&&"));
+        QString title = window->content().windowTitle().replace('&', QLatin1String("&&"));
         QAction* const action = addAction(title, window, [window] {
             window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
             window->raise();

@@ -3,6 +3,7 @@
 #include "ui/ZoomRange.h"
 
 #include <QAccessible>
+#include <QScrollBar>
 #include <QTranslator>
 
 using namespace marlevo;
@@ -80,6 +81,9 @@ private Q_SLOTS:
         QCOMPARE(fitted({1e6, 1e6}), minZoom);
         const double height = s.window.height() - s.window.menuBar()->height();
         QCOMPARE(fitted({10, 2000}), (height - 60) / 2000);
+        // What fits is in sight without scrolling.
+        const auto& area = *s.window.findChild<CanvasScrollArea*>();
+        QVERIFY(!area.verticalScrollBar()->isVisible());
     }
 };
 
