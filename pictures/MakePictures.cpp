@@ -1,160 +1,179 @@
-// Draws in a real window with the mouse and saves pictures of it: make_pictures <folder>.
+// Draws in a real window with the mouse and saves pictures of it: make_pictures <folder>. At a
+// scale factor, or in another language than English, only the windows that show what differs.
 
+#include "pictures/Landscape.h"
 #include "platform/BackgroundThread.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtStrings.h"
-#include "tests/ui/Pointer.h"
-#include "ui/DocumentWindow.h"
+#include "ui/ActionRow.h"
+#include "ui/ControlPainting.h"
+#include "ui/DisclosureSection.h"
+#include "ui/ExportPopover.h"
+#include "ui/Icons.h"
 #include "ui/MarlevoApp.h"
+#include "ui/MarlevoStyle.h"
+#include "ui/SemanticColors.h"
+#include "ui/SettingsWindow.h"
 #include "ui/Translations.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QMessageBox>
+#include <QPainter>
 #include <QPalette>
+#include <QTemporaryDir>
 
-#include <cmath>
-#include <numbers>
+#include <algorithm>
 
 using namespace marlevo;
 
 namespace {
 
-constexpr double turn = 2 * std::numbers::pi;
+struct View {
+    QSize window;
+    double zoom;
+};
 
-class Picture {
+/// As much as a page shows without scaling it down, and no larger files than needed.
+constexpr View viewAt(double scale) {
+    return scale < 2 ? View{{1160, 860}, 0.65} : View{{980, 850}, 0.53};
+}
+
+constexpr int mostCompressed = 0;
+
+/// In steps that nobody sees; the pictures travel with the sources and should be small.
+QImage inFewerColors(const QImage& picture) {
+    constexpr int step = 5;
+    QImage image = picture.convertToFormat(QImage::Format_RGB888);
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* const line = image.scanLine(y);
+        std::transform(line, line + 3 * image.width(), line,
+                       [](uchar value) { return uchar((value + step / 2) / step * step); });
+    }
+    return image;
+}
+
+class Pictures {
 public:
-    explicit Picture(DocumentWindow& window)
-        : window_(window), document_(window.document()), pointer_(window.canvasView()) {}
+    Pictures(DocumentWindow& window, const QString& folder) : window_(window), folder_(folder) {}
 
-    void press(const QString& name) {
+    void ofTheWindow(const QString& name) { save(shot(window_), name); }
+
+    void ofTheExportPopover(const QString& name) {
         for (auto* button : window_.findChildren<QAbstractButton*>())
-            if (button->accessibleName() == name && button->isVisible()) return button->click();
-        qFatal("no button %s", qPrintable(name));
+            if (button->toolTip() == ActionRow::tr("Export")) button->click();
+        save(shot(window_), name);
+        window_.findChild<ExportPopover*>()->dismiss();
     }
 
-    void pen(Color color, double width, double opacity = 1) {
-        document_.selectedColor = color;
-        document_.lineWidth = width;
-        document_.brushOpacity = opacity;
+    void ofTheSettings(MarlevoApp& app, const QString& name) {
+        app.showSettings();
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* settings = qobject_cast<SettingsWindow*>(widget)) {
+                save(withDialog(shot(window_), *settings), name);
+                settings->close();
+            }
     }
 
-    void drag(const std::vector<Point>& way) {
-        pointer_.press({way.front().x, way.front().y});
-        for (const Point p : way)
-            pointer_.move({p.x, p.y});
-        pointer_.release({way.back().x, way.back().y});
-    }
-
-    void click(Point p) {
-        pointer_.press({p.x, p.y});
-        pointer_.release({p.x, p.y});
-    }
-
-    void hill(double base, double height, double length, double phase) {
-        std::vector<Point> way;
-        for (double x = 0; x <= 1280; x += 10)
-            way.push_back({x, base - height * std::sin(x / length + phase)});
-        drag(way);
-    }
-
-    void draw() {
-        press("Draw");
-        pen({0.18, 0.31, 0.55, 1}, 3);
-        hill(330, 70, 150, 0.4);
-        pen({0.16, 0.45, 0.38, 1}, 3);
-        hill(430, 55, 210, 1.9);
-        pen({0.11, 0.32, 0.24, 1}, 3);
-        hill(560, 40, 160, 4.0);
-
-        press("Fill");
-        pen({0.55, 0.69, 0.88, 1}, 3);
-        click({640, 405});
-        pen({0.44, 0.72, 0.56, 1}, 3);
-        click({150, 500});
-        pen({0.26, 0.54, 0.38, 1}, 3);
-        click({640, 680});
-        pen({0.99, 0.91, 0.78, 1}, 3);
-        click({640, 60});
-
-        press("Ellipse");
-        pen({0.95, 0.55, 0.2, 1}, 6);
-        drag({{930, 70}, {1000, 120}, {1070, 210}});
-        press("Draw");
-        pen({0.97, 0.72, 0.25, 1}, 20, 0.45);
-        std::vector<Point> rays;
-        for (double t = 0; t < 5; t += 0.02)
-            rays.push_back(
-                {1000 + 50 * t / 5 * std::cos(turn * t), 140 + 50 * t / 5 * std::sin(turn * t)});
-        drag(rays);
-        pen({0.25, 0.2, 0.35, 1}, 4);
-        for (const Point bird : {Point{300, 120}, Point{380, 90}, Point{450, 140}})
-            drag({bird,
-                  {bird.x + 12, bird.y - 12},
-                  {bird.x + 24, bird.y},
-                  {bird.x + 36, bird.y - 12},
-                  {bird.x + 48, bird.y}});
-        press("Line");
-        pen({0.35, 0.22, 0.15, 1}, 9);
-        drag({{220, 640}, {220, 560}, {220, 500}});
-        press("Draw");
-        pen({0.12, 0.4, 0.25, 1}, 18, 0.6);
-        std::vector<Point> crown;
-        for (double t = 0; t < 3; t += 0.03)
-            crown.push_back({220 + (20 + 8 * t) * std::cos(turn * t),
-                             455 + (26 + 10 * t) * std::sin(turn * t)});
-        drag(crown);
-    }
-
-    void save(const QString& file) {
-        // Thumbnails come from another thread.
-        QTest::qWait(600);
-        if (!window_.grab().save(file)) qFatal("cannot write %s", qPrintable(file));
+    void ofTheCloseQuestion(const QString& name) {
+        window_.close();
+        auto* const question = window_.findChild<QMessageBox*>();
+        save(withDialog(shot(window_), *question), name);
+        question->reject();
     }
 
 private:
+    static QPixmap shot(QWidget& widget) {
+        // Thumbnails come from another thread, and sections open with a motion.
+        QTest::qWait(600);
+        return widget.grab();
+    }
+
+    /// A dialog over its window, without the frame that a desktop would give it.
+    static QPixmap withDialog(QPixmap window, QWidget& dialog) {
+        const QPixmap front = shot(dialog);
+        QPainter painter(&window);
+        QRectF place({}, front.deviceIndependentSize());
+        place.moveCenter(QRectF({}, window.deviceIndependentSize()).center().toPoint());
+        for (int reach = 24; reach > 0; --reach)
+            paintRoundedRect(painter, place.adjusted(-reach, -reach, reach, reach).translated(0, 6),
+                             reach + 6, QColor(0, 0, 0, 2));
+        painter.drawPixmap(place.topLeft(), front);
+        paintRoundedRect(painter, place.adjusted(-1, -1, 1, 1), 1, Qt::transparent,
+                         {semanticColor(SemanticColor::gray), 1});
+        return window;
+    }
+
+    void save(const QPixmap& picture, const QString& name) {
+        const QString file = QDir(folder_).filePath(name + QLatin1String(".png"));
+        if (!inFewerColors(picture.toImage()).save(file, "PNG", mostCompressed))
+            qFatal("cannot write %s", qPrintable(file));
+    }
+
     DocumentWindow& window_;
-    DrawingDocument& document_;
-    Pointer pointer_;
+    QString folder_;
 };
 
 QPalette darkPalette() {
-    QPalette palette(QColor(45, 45, 48), QColor(45, 45, 48));
-    palette.setColor(QPalette::Base, QColor(30, 30, 32));
-    palette.setColor(QPalette::Highlight, QColor(60, 120, 220));
+    QPalette palette;
+    setSemanticColors(palette, Appearance::dark, SemanticColor::windowBackground);
     return palette;
+}
+
+void openAllSections(DocumentWindow& window) {
+    for (auto* section : window.findChildren<DisclosureSection*>())
+        section->setOpen(true);
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication::setStyle(QStringLiteral("fusion"));
+    // Nobody's settings are to be seen or changed.
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     QApplication application(argc, argv);
+    QApplication::setStyle(new MarlevoStyle);
+    QApplication::setApplicationName(QStringLiteral("Marlevo"));
     const Translations translations;
-    const QDir folder(application.arguments().value(1, QStringLiteral(".")));
 
     QtMainQueue mainQueue;
     const QtImageCodec imageCodec;
+    QtPreferences preferences;
     const QtStrings strings;
     BackgroundThread backgroundQueue;
     MarlevoApp app({.mainQueue = &mainQueue,
                     .imageCodec = &imageCodec,
+                    .preferences = &preferences,
                     .backgroundQueue = &backgroundQueue,
                     .strings = &strings});
     DocumentWindow& window = app.openWindow();
-    window.resize(1600, 880);
+    const double scale = window.devicePixelRatioF();
+    const View view = viewAt(scale);
+    window.resize(view.window);
+    window.document().zoom = view.zoom;
     if (!QTest::qWaitForWindowActive(&window)) qFatal("the window was not shown");
 
-    Picture picture(window);
-    picture.save(folder.filePath("new-canvas.png"));
-    window.content().setShowNewCanvas(false);
-    QTest::qWait(300);
-    picture.draw();
-    picture.press("Layers");
-    picture.save(folder.filePath("window.png"));
+    const QLocale::Language language = QLocale().language();
+    const bool isEnglish = language == QLocale::English || language == QLocale::C;
+    QString suffix = isEnglish ? QString() : "-" + QLocale::languageToCode(language);
+    if (scale != 1) suffix += QStringLiteral("@%1x").arg(scale);
+    const bool isPlain = suffix.isEmpty();
 
+    Pictures pictures(window, application.arguments().value(1, QStringLiteral(".")));
+    if (isPlain) pictures.ofTheWindow("new-canvas");
+    window.content().setShowNewCanvas(false);
+    openAllSections(window);
+    Landscape(window).draw();
+    pictures.ofTheWindow("window" + suffix);
+    if (isPlain) {
+        pictures.ofTheExportPopover("export");
+        pictures.ofTheSettings(app, "settings");
+        pictures.ofTheCloseQuestion("close");
+    }
+    if (!isEnglish) return 0;
     QApplication::setPalette(darkPalette());
-    picture.save(folder.filePath("window-dark.png"));
+    pictures.ofTheWindow("window-dark" + suffix);
     return 0;
 }

@@ -6,4 +6,9 @@ set -euo pipefail
 cmake --preset release >/dev/null
 cmake --build build/release --target marlevo_pictures
 mkdir -p docs/pictures
-with_display build/release/pictures/marlevo_pictures docs/pictures
+
+make_pictures() { with_display build/release/pictures/marlevo_pictures docs/pictures; }
+export LC_ALL=C.UTF-8
+make_pictures
+screen_size=3400x2200 QT_SCALE_FACTOR=2 make_pictures
+screen_size=2600x1600 QT_SCALE_FACTOR=1.5 LC_ALL=de_DE.UTF-8 make_pictures

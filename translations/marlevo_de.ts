@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CanvasAccessibility</name>
+    <message>
+        <source>%1 × %2 px, %3, %4</source>
+        <translation>%1 × %2&#xa0;px, %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>Files</name>
     <message>
         <source>Drawing-</source>
@@ -129,14 +136,17 @@
     </message>
 </context>
 <context>
+    <name>marlevo::CanvasScrollArea</name>
+    <message>
+        <source>Drawing area</source>
+        <translation>Zeichenfläche</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::CanvasView</name>
     <message>
         <source>Canvas</source>
         <translation>Leinwand</translation>
-    </message>
-    <message>
-        <source>The drawing. Press and drag to draw with the chosen tool.</source>
-        <translation>Die Zeichnung. Zum Zeichnen mit dem gewählten Werkzeug drücken und ziehen.</translation>
     </message>
 </context>
 <context>
@@ -188,26 +198,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>%1px</source>
-        <translation>%1&#xa0;px</translation>
-    </message>
-    <message>
-        <source>Opacity</source>
-        <translation>Deckkraft</translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation>%1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Drawing</source>
-        <translation>Zeichnen</translation>
-    </message>
-    <message>
         <source>Draw</source>
         <translation>Zeichnen</translation>
     </message>
@@ -226,6 +216,26 @@
     <message>
         <source>Drop</source>
         <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>%1px</source>
+        <translation>%1&#xa0;px</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnen</translation>
     </message>
 </context>
 <context>
@@ -257,10 +267,6 @@
 <context>
     <name>marlevo::FormsSection</name>
     <message>
-        <source>Forms</source>
-        <translation>Formen</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Linie</translation>
     </message>
@@ -271,6 +277,10 @@
     <message>
         <source>Ellipse</source>
         <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation>Formen</translation>
     </message>
 </context>
 <context>
@@ -301,6 +311,20 @@
     </message>
 </context>
 <context>
+    <name>marlevo::LayerRows</name>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+</context>
+<context>
+    <name>marlevo::LayerThumbnailView</name>
+    <message>
+        <source>Thumbnail: %1</source>
+        <translation>Miniatur: %1</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::LayersSection</name>
     <message>
         <source>Add layer</source>
@@ -317,10 +341,6 @@
     <message>
         <source>Move layer down</source>
         <translation>Ebene nach unten verschieben</translation>
-    </message>
-    <message>
-        <source>Layers</source>
-        <translation>Ebenen</translation>
     </message>
 </context>
 <context>

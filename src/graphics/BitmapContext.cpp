@@ -172,6 +172,19 @@ void BitmapContext::strokePath(const Path& path, const Color& color, double line
     }
 }
 
+bool BitmapContext::addCovered(const Path& path, const Color& color, double lineWidth,
+                               CoveredPixels& covered) {
+    const DeviceFrame& frame = rasterizer_->state.frame;
+    const double width = lineWidth * std::abs(frame.scaleX);
+    const double height = lineWidth * std::abs(frame.scaleY);
+    // A pen thinner than a pixel covers none.
+    if (rasterizer_->pack(color).alpha < 255 || width != height || !(width >= 1) ||
+        width > maxWidthByDistance)
+        return true;
+    if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return false;
+    return addCoveredByDistance(rasterizer_->flattened, width, rasterizer_->target.area, covered);
+}
+
 void BitmapContext::drawImage(const RasterImage& image, const Rect& rect) {
     const DeviceFrame& frame = rasterizer_->state.frame;
     const auto [left, right] = std::minmax(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/CoveredPixels.h"
 #include "graphics/GraphicsContext.h"
 #include "graphics/PixelBuffer.h"
 
@@ -41,6 +42,11 @@ public:
     void fillPath(const Path& path, const Color& color) override;
     void strokePath(const Path& path, const Color& color, double lineWidth) override;
     void drawImage(const RasterImage& image, const Rect& rect) override;
+
+    /// Draws nothing, and adds to `covered` pixels that strokePath() would cover wholly and with an
+    /// opaque colour, as far as that is told easily. False when strokePath() would touch none but
+    /// covered pixels.
+    bool addCovered(const Path& path, const Color& color, double lineWidth, CoveredPixels& covered);
 
 private:
     struct Rasterizer;

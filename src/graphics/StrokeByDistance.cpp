@@ -227,6 +227,32 @@ void addSegments(DistanceField& field, const FlattenedPath& path, double reach) 
     }
 }
 
+/// Adds the pixels that the field covers wholly, and makes it far again. False when it touches no
+/// block that was not covered already.
+bool addCovered(DistanceField& field, const RoundPen& pen, CoveredPixels& covered) {
+    bool touchesOpen = false;
+    for (int strip = 0; strip < field.stripCount(); ++strip) {
+        const int left = field.left() + strip * blockWidth;
+        Block* const blocks = field.strip(strip);
+        field.takeTouched(strip, [&](int index) {
+            const int top = field.top() + index * blockHeight;
+            if (!covered.isOpen(left, top)) {
+                std::fill(std::begin(blocks[index].squares), std::end(blocks[index].squares),
+                          DistanceField::far);
+                return;
+            }
+            touchesOpen = true;
+            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
+            takeCoverage(blocks[index], pen, coverage);
+            std::uint32_t bits = 0;
+            for (std::size_t i = 0; i < DistanceField::blockPixels; ++i)
+                bits |= (coverage[i] == 255 ? 1U : 0U) << i;
+            if (bits != 0) covered.addBlock(left, top, bits);
+        });
+    }
+    return touchesOpen;
+}
+
 /// Raises the mask's coverages to those of the field, and makes the field far again.
 void raiseToField(DistanceField& field, const RoundPen& pen, const CoverageMask& mask) {
     for (int strip = 0; strip < field.stripCount(); ++strip) {
@@ -284,6 +310,7 @@ HWY_AFTER_NAMESPACE();
 namespace marlevo {
 
 HWY_EXPORT(addSegments);
+HWY_EXPORT(addCovered);
 HWY_EXPORT(blendField);
 HWY_EXPORT(raiseToField);
 
@@ -351,6 +378,16 @@ void coverByDistance(const FlattenedPath& path, double deviceWidth, const Covera
                     const CoverageMask part{mask.pixel(band.left, band.top), mask.stride, band};
                     HWY_DYNAMIC_DISPATCH(raiseToField)(field, pen, part);
                 });
+}
+
+bool addCoveredByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                          CoveredPixels& covered) {
+    bool touchesOpen = false;
+    forEachBand(path, deviceWidth, area,
+                [&](DistanceField& field, const RoundPen& pen, const IntRect&) {
+                    if (HWY_DYNAMIC_DISPATCH(addCovered)(field, pen, covered)) touchesOpen = true;
+                });
+    return touchesOpen;
 }
 
 IntRect areaByDistance(const FlattenedPath& path, double deviceWidth) {

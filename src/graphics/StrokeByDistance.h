@@ -2,6 +2,7 @@
 
 #include "graphics/Blend.h"
 #include "graphics/CoverageMask.h"
+#include "graphics/CoveredPixels.h"
 #include "graphics/PixelBuffer.h"
 #include "graphics/Polyline.h"
 
@@ -23,6 +24,11 @@ void strokeByDistance(const FlattenedPath& path, double deviceWidth, const Pixel
 
 /// Raises the coverages of `mask` to those with which strokeByDistance() would draw the polyline.
 void coverByDistance(const FlattenedPath& path, double deviceWidth, const CoverageMask& mask);
+
+/// Adds the pixels of `area` that strokeByDistance() would cover wholly; false when it would touch
+/// none there that is not covered already.
+bool addCoveredByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                          CoveredPixels& covered);
 
 /// The pixels that strokeByDistance() may touch.
 IntRect areaByDistance(const FlattenedPath& path, double deviceWidth);

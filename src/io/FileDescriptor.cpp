@@ -15,6 +15,10 @@ Failure fileFailure(const std::filesystem::path& file, std::error_code error) {
     return {file.string() + ": " + error.message()};
 }
 
+Failure outOfMemoryFailure(const std::filesystem::path& file) {
+    return fileFailure(file, std::make_error_code(std::errc::not_enough_memory));
+}
+
 Failure notRegularFailure(const std::filesystem::path& file, bool isFolder) {
     if (isFolder) return fileFailure(file, std::make_error_code(std::errc::is_a_directory));
     return {file.string() + ": Not a regular file"};

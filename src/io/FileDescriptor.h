@@ -47,6 +47,9 @@ auto uninterrupted(Call call) {
 /// "/folder/file: No space left on device"
 Failure fileFailure(const std::filesystem::path& file, std::error_code error);
 
+/// "/folder/file: Cannot allocate memory"
+Failure outOfMemoryFailure(const std::filesystem::path& file);
+
 /// What failed for a file that is a folder, a device, a pipe or the like.
 Failure notRegularFailure(const std::filesystem::path& file, bool isFolder);
 

@@ -1,12 +1,14 @@
 #include "io/Open.h"
 
 #include "io/DocumentReader.h"
+#include "io/FileDescriptor.h"
 #include "io/FileTypes.h"
 #include "io/ReadFile.h"
 #include "model/DrawingDocument.h"
 #include "platform/Console.h"
 #include "platform/FilePanels.h"
 
+#include <new>
 #include <string>
 
 namespace marlevo {
@@ -14,11 +16,15 @@ namespace marlevo {
 namespace {
 
 Result<DocumentData> readDocument(const std::filesystem::path& file) {
-    const auto contents = readWholeFile(file);
-    if (!contents) return Failure{contents.error()};
-    auto data = readDocumentData(*contents);
-    if (!data) return Failure{file.string() + ": " + data.error()};
-    return data;
+    try {
+        const auto contents = readWholeFile(file);
+        if (!contents) return Failure{contents.error()};
+        auto data = readDocumentData(*contents);
+        if (!data) return Failure{file.string() + ": " + data.error()};
+        return data;
+    } catch (const std::bad_alloc&) {
+        return outOfMemoryFailure(file);
+    }
 }
 
 }  // namespace

@@ -145,7 +145,10 @@ void PdfContext::drawImage(const RasterImage& image, const Rect& rect) {
     Surface pixels(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
                                               std::min(image.width(), longestImageSide),
                                               std::min(image.height(), longestImageSide)));
-    if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS) return;
+    if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS) {
+        lacksImage_ = true;
+        return;
+    }
     copyPixels(image, pixels.get());
     drawSurface(std::move(pixels), rect, 1);
 }
@@ -166,7 +169,7 @@ std::optional<std::vector<std::uint8_t>> PdfContext::finish() {
     const cairo_status_t drawn = cairo_status(cairo_.get());
     cairo_.reset();
     cairo_surface_finish(surface_.get());
-    if (drawn != CAIRO_STATUS_SUCCESS ||
+    if (lacksImage_ || drawn != CAIRO_STATUS_SUCCESS ||
         cairo_surface_status(surface_.get()) != CAIRO_STATUS_SUCCESS)
         return std::nullopt;
     return std::move(file_);

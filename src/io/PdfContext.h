@@ -73,6 +73,7 @@ private:
     State state_;
     std::vector<State> saved_;
     std::vector<Surface> images_;  ///< kept alive, or cairo would copy their pixels
+    bool lacksImage_ = false;      ///< there was no memory for its pixels
     Surface surface_;
     std::unique_ptr<cairo_t, Release> cairo_;
 };

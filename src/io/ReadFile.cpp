@@ -45,7 +45,7 @@ Result<PaddedBytes> readWholeFile(const std::filesystem::path& path) {
             return Failure{path.string() + ": The file changed while it was read"};
         return contents;
     } catch (const std::bad_alloc&) {
-        return fileFailure(path, std::make_error_code(std::errc::not_enough_memory));
+        return outOfMemoryFailure(path);
     }
 }
 

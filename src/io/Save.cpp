@@ -5,6 +5,7 @@
 #include "platform/Console.h"
 #include "platform/FilePanels.h"
 
+#include <new>
 #include <string>
 
 namespace marlevo {
@@ -15,11 +16,19 @@ void reportFailedSave(Console* console, std::string_view reason) {
     if (console != nullptr) console->writeLine("Save failed: " + std::string(reason));
 }
 
+Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesystem::path& file) {
+    try {
+        return writeDocumentData(document.encodeDocumentData());
+    } catch (const std::bad_alloc&) {
+        return outOfMemoryFailure(file);
+    }
+}
+
 }  // namespace
 
 void DrawingDocument::writeDocument(const std::filesystem::path& to) {
     // The whole text before the file is touched.
-    const auto text = writeDocumentData(encodeDocumentData());
+    const auto text = encodeFile(*this, to);
     if (!text) return reportFailedSave(services_.console, text.error());
     auto written = writeWholeFile(to, text->pieces());
     if (!written) return reportFailedSave(services_.console, written.error());

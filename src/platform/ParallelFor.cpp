@@ -32,7 +32,7 @@ public:
             ++round_;
         }
         began_.notify_all();
-        takePieces();
+        takePieces(work, count);
         std::unique_lock lock(mutex_);
         work_ = nullptr;  // who comes late finds nothing
         ended_.wait(lock, [this] { return working_ == 0; });
@@ -47,17 +47,20 @@ private:
         while (began_.wait(lock, stop, [&] { return round_ != seen; })) {
             seen = round_;
             if (work_ == nullptr) continue;
+            // Of its own: the caller may find nothing left to take while this takes its last.
+            const Work& work = *work_;
+            const std::size_t count = count_;
             ++working_;
             lock.unlock();
-            takePieces();
+            takePieces(work, count);
             lock.lock();
             if (--working_ == 0) ended_.notify_one();
         }
     }
 
-    void takePieces() {
-        for (std::size_t i = next_++; i < count_; i = next_++)
-            (*work_)(i);
+    void takePieces(const Work& work, std::size_t count) {
+        for (std::size_t i = next_++; i < count; i = next_++)
+            work(i);
     }
 
     std::atomic<bool> isShared_ = false;

@@ -4,6 +4,12 @@
 
 namespace marlevo {
 
+namespace {
+
+constexpr std::string_view changed = "changed";
+
+}  // namespace
+
 double Preferences::get(const Preference<double>& preference) const {
     return storedNumber(preference.key).value_or(preference.initial);
 }
@@ -22,21 +28,11 @@ template <typename T>
 void Preferences::change(const Preference<T>& preference, T value) {
     const bool differs = get(preference) != value;
     store(preference.key, value);
-    if (differs) tellObservers();
+    if (differs) changes_.post(changed);
 }
 
 Preferences::Observation Preferences::observe(std::function<void()> onChange) {
-    std::erase_if(observers_, [](const auto& observer) { return observer.expired(); });
-    auto observation = std::make_shared<const std::function<void()>>(std::move(onChange));
-    observers_.push_back(observation);
-    return observation;
-}
-
-void Preferences::tellObservers() {
-    // A copy, since observers may come while others are told; those that went are expired.
-    const auto observers = observers_;
-    for (const auto& observer : observers)
-        if (const Observation observation = observer.lock()) (*observation)();
+    return changes_.observe(changed, std::move(onChange));
 }
 
 }  // namespace marlevo

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/NotificationCenter.h"
+
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 namespace marlevo {
 
@@ -29,7 +29,7 @@ inline constexpr Preference<bool> autoSaveEnabled{"autoSaveEnabled", true};
 class Preferences {
 public:
     /// A registration for changes, which ends when it is dropped; it may outlive the preferences.
-    using Observation = std::shared_ptr<const std::function<void()>>;
+    using Observation = NotificationCenter::Observation;
 
     Preferences() = default;
     virtual ~Preferences() = default;
@@ -58,9 +58,8 @@ protected:
 private:
     template <typename T>
     void change(const Preference<T>& preference, T value);
-    void tellObservers();
 
-    std::vector<std::weak_ptr<const std::function<void()>>> observers_;
+    NotificationCenter changes_;
 };
 
 }  // namespace marlevo

@@ -21,6 +21,28 @@ Rect flippedCGRect(std::span<const Point> points, double height) {
             {std::abs(b.x - a.x), std::abs(b.y - a.y)}};
 }
 
+Path pathOfStroke(const Stroke& stroke, double height) {
+    const auto flip = [height](Point p) { return Point{p.x, height - p.y}; };
+    const auto points = stroke.points.span();
+    Path path;
+    switch (stroke.shapeType) {
+    case Stroke::ShapeType::freehand:
+        addFreehandCurve(path, points, flip);
+        break;
+    case Stroke::ShapeType::line:
+        path.move(flip(points[0]));
+        path.addLine(flip(points[1]));
+        break;
+    case Stroke::ShapeType::rect:
+        path.addRect(flippedCGRect(points, height));
+        break;
+    case Stroke::ShapeType::ellipse:
+        path.addEllipse(flippedCGRect(points, height));
+        break;
+    }
+    return path;
+}
+
 }  // namespace
 
 void drawLayer(GraphicsContext& context, const Layer& layer, CanvasSize canvas, double height,
@@ -46,24 +68,7 @@ void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, Canva
 }
 
 void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) {
-    const auto flip = [height](Point p) { return Point{p.x, height - p.y}; };
-    const auto points = stroke.points.span();
-    Path path;
-    switch (stroke.shapeType) {
-    case Stroke::ShapeType::freehand:
-        addFreehandCurve(path, points, flip);
-        break;
-    case Stroke::ShapeType::line:
-        path.move(flip(points[0]));
-        path.addLine(flip(points[1]));
-        break;
-    case Stroke::ShapeType::rect:
-        path.addRect(flippedCGRect(points, height));
-        break;
-    case Stroke::ShapeType::ellipse:
-        path.addEllipse(flippedCGRect(points, height));
-        break;
-    }
+    const Path path = pathOfStroke(stroke, height);
     context.setAlpha(stroke.opacity);
     if (stroke.isFill) {
         context.fillPath(path, stroke.color);
@@ -71,6 +76,16 @@ void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) {
         context.strokePath(path, stroke.color, stroke.lineWidth);
     }
     context.setAlpha(1);
+}
+
+bool coverByStroke(BitmapContext& context, const Stroke& stroke, double height,
+                   CoveredPixels& covered) {
+    if (stroke.isFill) return true;
+    context.setAlpha(stroke.opacity);
+    const bool isSeen =
+        context.addCovered(pathOfStroke(stroke, height), stroke.color, stroke.lineWidth, covered);
+    context.setAlpha(1);
+    return isSeen;
 }
 
 std::optional<RasterImage> renderLayer(const Layer& layer, CanvasSize canvas, Size size,

@@ -4,10 +4,11 @@
 #include "render/LayerPainting.h"
 #include "render/LayerRun.h"
 #include "render/MakeRaster.h"
-#include "render/PaintedArea.h"
+#include "render/VisibleStrokes.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
 namespace marlevo {
 
@@ -16,26 +17,13 @@ namespace {
 constexpr int leastRowsOfBand = 64;
 constexpr int maxBands = 8;
 
-/// Cuts the picture into bands, which threads may paint, and calls paint(band) with each.
-template <typename Paint>
-void paintInBands(const PixelBuffer& picture, Paint paint) {
-    const int height = picture.area.height();
-    const int rows = std::max((height + maxBands - 1) / maxBands, leastRowsOfBand);
-    const int count = (height + rows - 1) / rows;
-    parallelFor(static_cast<std::size_t>(count), [&](std::size_t i) {
-        const int top = static_cast<int>(i) * rows;
-        paint(picture.part({0, top, picture.area.right, std::min(top + rows, height)}));
-    });
-}
-
-/// The strokes that may paint in the band.
-void drawStrokes(GraphicsContext& context, const Layer& layer, const IntRect& band, double height) {
-    const Rect seen{{double(band.left), double(band.top)},
-                    {double(band.width()), double(band.height())}};
-    layer.strokes.visitNear(seen, penFringe, [&](std::size_t, const Stroke& stroke) {
-        if (stroke.points.size() >= 2) drawStroke(context, stroke, height);
-        return true;
-    });
+/// The picture in bands, which threads may paint.
+std::vector<IntRect> bandsOf(const IntRect& picture) {
+    const int rows = std::max((picture.height() + maxBands - 1) / maxBands, leastRowsOfBand);
+    std::vector<IntRect> bands;
+    for (int top = 0; top < picture.bottom; top += rows)
+        bands.push_back({0, top, picture.right, std::min(top + rows, picture.bottom)});
+    return bands;
 }
 
 }  // namespace
@@ -52,14 +40,19 @@ std::optional<RasterImage> DrawingDocument::renderCGImage() const {
         // Workers see values only, never the document.
         const CanvasSize canvas = canvasSize;
         const auto decode = [this](const Bytes& file) { return decodedImages_.image(file); };
+        const std::vector<IntRect> bands = bandsOf(picture.area);
         forEachRun(layers, decode, [&](const LayerRun& run) {
-            paintInBands(picture, [&](const PixelBuffer& band) {
-                BitmapContext context(band, DeviceFrame::yUp(height));
-                for (const Layer* layer : run.layers) {
-                    drawLayerImageIfPresent(context, *layer, canvas, height,
-                                            [&](const Bytes&) { return run.image; });
-                    drawStrokes(context, *layer, band.area, height);
-                }
+            auto strokes = strokesInSight(run, bands, 1);
+            parallelFor(bands.size(), [&](std::size_t i) {
+                BitmapContext context(picture.part(bands[i]), DeviceFrame::yUp(height));
+                drawLayerImageIfPresent(context, *run.layers.front(), canvas, height,
+                                        [&](const Bytes&) { return run.image; });
+                const auto cover = [&](const Stroke& stroke, CoveredPixels& covered) {
+                    return coverByStroke(context, stroke, height, covered);
+                };
+                for (const StrokeInSight& seen :
+                     withoutHidden(std::move(strokes[i]), bands[i], cover))
+                    drawStroke(context, *seen.stroke, height);
             });
         });
     });

@@ -8,6 +8,7 @@
 #include "render/LayerRun.h"
 #include "render/PaintedArea.h"
 #include "render/PictureDifference.h"
+#include "render/VisibleStrokes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,7 +50,7 @@ std::vector<PixelBuffer> cutForAllCores(const std::vector<PixelBuffer>& areas) {
         pixels += part.area.width() * part.area.height();
     if (std::ssize(areas) >= enough || pixels < leastPixelsToShare) return areas;
     std::vector<PixelBuffer> pieces;
-    const int pixelsOfPiece = pixels / enough;
+    const int pixelsOfPiece = pixels / 2;
     for (const PixelBuffer& part : areas) {
         const int rows = std::max(pixelsOfPiece / part.area.width(), leastRows);
         for (IntRect piece = part.area; piece.top < part.area.bottom; piece.top = piece.bottom) {
@@ -170,13 +171,17 @@ void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntR
     if (stale.empty()) return;
 
     const std::vector<PixelBuffer> parts = cutForAllCores(stale);
-    const auto paint = [&](const auto& paintPart) {
-        parallelFor(parts.size(), [&](std::size_t i) { paintPart(parts[i]); });
-    };
-    paint([&](const PixelBuffer& part) { renderBackground(part); });
+    std::vector<IntRect> areas;
+    for (const PixelBuffer& part : parts)
+        areas.push_back(part.area);
+    parallelFor(parts.size(), [&](std::size_t i) { renderBackground(parts[i]); });
     const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
     forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
-        paint([&](const PixelBuffer& part) { renderLayers(run, part); });
+        auto strokes = strokesInSight(run, areas, contents_.scale);
+        parallelFor(parts.size(), [&](std::size_t i) {
+            if (run.image) renderImage(run, parts[i]);
+            renderStrokes(std::move(strokes[i]), parts[i]);
+        });
     });
 }
 
@@ -190,21 +195,20 @@ void ScreenPicture::renderBackground(const PixelBuffer& part) const {
     }
 }
 
-void ScreenPicture::renderLayers(const LayerRun& run, const PixelBuffer& part) const {
-    const double scale = contents_.scale;
-    const Rect visible = onCanvas(part.area, scale);
-    BitmapContext context(part, DeviceFrame::yDown(scale));
-    if (run.image) {
-        context.setAlpha(run.layers.front()->opacity);
-        context.drawImage(*run.image, contents_.canvasRect());
-    }
-    for (const Layer* layer : run.layers) {
-        layer->strokes.visitNear(visible, penFringe / scale,
-                                 [&](std::size_t, const Stroke& stroke) {
-                                     drawOnScreen(context, stroke);
-                                     return true;
-                                 });
-    }
+void ScreenPicture::renderImage(const LayerRun& run, const PixelBuffer& part) const {
+    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    context.setAlpha(run.layers.front()->opacity);
+    context.drawImage(*run.image, contents_.canvasRect());
+}
+
+void ScreenPicture::renderStrokes(std::vector<StrokeInSight> strokes,
+                                  const PixelBuffer& part) const {
+    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    const auto cover = [&](const Stroke& stroke, CoveredPixels& covered) {
+        return coverOnScreen(context, stroke, covered);
+    };
+    for (const StrokeInSight& seen : withoutHidden(std::move(strokes), part.area, cover))
+        drawOnScreen(context, *seen.stroke);
 }
 
 }  // namespace marlevo

@@ -15,6 +15,7 @@
 namespace marlevo {
 
 struct LayerRun;
+struct StrokeInSight;
 
 /// The document's picture as its window shows it: background, grid, layers and the stroke in
 /// progress, at device resolution.
@@ -86,7 +87,8 @@ private:
     void paintOver(const IntRect& area, Paint paint);
     void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
     void renderBackground(const PixelBuffer& part) const;
-    void renderLayers(const LayerRun& run, const PixelBuffer& part) const;
+    void renderImage(const LayerRun& run, const PixelBuffer& part) const;
+    void renderStrokes(std::vector<StrokeInSight> strokes, const PixelBuffer& part) const;
 
     Color gridColor_;
     Contents contents_;

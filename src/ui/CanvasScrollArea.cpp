@@ -15,6 +15,7 @@ namespace marlevo {
 namespace {
 
 constexpr int scrollStep = 20;
+constexpr int ringWidth = 2;
 
 static_assert(DropShadow::reach <= CanvasScrollArea::margin);
 
@@ -38,10 +39,16 @@ int start(int length, int room, const QScrollBar& bar) {
 
 CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, QWidget* parent)
     : QAbstractScrollArea(parent), document_(document), view_(document, viewport()),
-      layoutFollower_(document, [this] { layOut(); }), descriptionChanges_(document, view_) {
+      layoutFollower_(document, [this] { layOut(); }), descriptionChanges_(document, view_),
+      focusRing_(this) {
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::Window);
     viewport()->setAutoFillBackground(true);
+    setAccessibleName(tr("Drawing area"));
+    focusRing_.setBackgroundRole(QPalette::Highlight);
+    focusRing_.setAutoFillBackground(true);
+    focusRing_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    focusRing_.hide();
 }
 
 QSize CanvasScrollArea::sizeHint() const {
@@ -52,11 +59,28 @@ QSize CanvasScrollArea::sizeHint() const {
 void CanvasScrollArea::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
     layOut();
+    focusRing_.setGeometry(rect());
+    const QRect hole = rect().marginsRemoved({ringWidth, ringWidth, ringWidth, ringWidth});
+    focusRing_.setMask(QRegion(rect()) - hole);
 }
 
 void CanvasScrollArea::moveEvent(QMoveEvent* event) {
     QAbstractScrollArea::moveEvent(event);
     layOut();
+}
+
+// Who clicks into the drawing sees where he is.
+void CanvasScrollArea::focusInEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusInEvent(event);
+    const bool isByKey =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    focusRing_.setVisible(isByKey);
+    focusRing_.raise();
+}
+
+void CanvasScrollArea::focusOutEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    focusRing_.hide();
 }
 
 void CanvasScrollArea::scrollContentsBy(int, int) { layOut(); }

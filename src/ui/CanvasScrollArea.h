@@ -29,6 +29,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -39,6 +41,7 @@ private:
     CanvasView view_;
     Follower layoutFollower_;
     CanvasDescriptionChanges descriptionChanges_;
+    QWidget focusRing_;  ///< over the canvas, which fills the area when it is large
 };
 
 }  // namespace marlevo

@@ -18,7 +18,6 @@ namespace {
 constexpr int boxSide = 15;
 constexpr double boxRadius = 3.5;
 constexpr int gap = 6;
-constexpr int focusRoom = 3;
 
 void paintCheckMark(QPainter& painter, const QRectF& box) {
     QPainterPath mark(box.topLeft() + QPointF(0.24, 0.53) * box.width());

@@ -14,6 +14,9 @@ class CheckBox final : public QCheckBox {
     Q_OBJECT
 
 public:
+    /// What the box stands away from the edge, in points.
+    static constexpr int focusRoom = 3;
+
     /// `label` is the accessible name too.
     explicit CheckBox(const QString& label, std::optional<Icon> icon = {},
                       QWidget* parent = nullptr);

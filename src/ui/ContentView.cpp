@@ -91,7 +91,6 @@ void ContentView::layOut() {
     columns_.addWidget(&sidebar_);
     columns_.addWidget(drawing);
     columns_.setStretchFactor(1, 1);
-    sidebar_.setMinimumWidth(SidebarView::leastWidth);
     sidebar_.setMaximumWidth(SidebarView::greatestWidth);
     columns_.setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
 

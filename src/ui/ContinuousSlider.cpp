@@ -16,7 +16,8 @@ namespace marlevo {
 
 namespace {
 
-constexpr int knobSize = 16;
+constexpr int regularKnob = 16;
+constexpr int smallKnob = 13;
 constexpr int trackHeight = 4;
 constexpr int comfortableWidth = 120;
 constexpr int leastWidth = 48;
@@ -24,8 +25,9 @@ constexpr int pageSteps = 10;
 
 }  // namespace
 
-ContinuousSlider::ContinuousSlider(const QString& name, Range range, QWidget* parent)
-    : QWidget(parent), range_(range), value_(range.least) {
+ContinuousSlider::ContinuousSlider(const QString& name, Range range, QWidget* parent, Knob knob)
+    : QWidget(parent), range_(range), knobSize_(knob == Knob::small ? smallKnob : regularKnob),
+      value_(range.least) {
     installControlAccessibility();
     setAccessibleName(name);
     setFocusPolicy(Qt::TabFocus);
@@ -45,20 +47,20 @@ void ContinuousSlider::moveTo(double value) {
     Q_EMIT moved(std::clamp(value, range_.least, range_.most));
 }
 
-QSize ContinuousSlider::sizeHint() const { return {comfortableWidth, knobSize + 2}; }
+QSize ContinuousSlider::sizeHint() const { return {comfortableWidth, knobSize_ + 2}; }
 
-QSize ContinuousSlider::minimumSizeHint() const { return {leastWidth, knobSize + 2}; }
+QSize ContinuousSlider::minimumSizeHint() const { return {leastWidth, knobSize_ + 2}; }
 
 double ContinuousSlider::knobCenter() const {
     const double share =
         std::clamp((value_ - range_.least) / (range_.most - range_.least), 0.0, 1.0);
     const double forward = isRightToLeft() ? 1 - share : share;
-    return knobSize / 2.0 + forward * (width() - knobSize);
+    return knobSize_ / 2.0 + forward * (width() - knobSize_);
 }
 
 double ContinuousSlider::valueAt(double x) const {
     const double forward =
-        std::clamp((x - knobSize / 2.0) / std::max(width() - knobSize, 1), 0.0, 1.0);
+        std::clamp((x - knobSize_ / 2.0) / std::max(width() - knobSize_, 1), 0.0, 1.0);
     const double share = isRightToLeft() ? 1 - forward : forward;
     return range_.least + share * (range_.most - range_.least);
 }
@@ -89,8 +91,8 @@ void ContinuousSlider::paintEvent(QPaintEvent*) {
     paintRoundedRect(painter, track, trackHeight / 2.0, withOpacity(gray, 0.35));
     paintRoundedRect(painter, filled, trackHeight / 2.0, blue);
 
-    const QRectF disc(knob - knobSize / 2.0 + 1, middle - knobSize / 2.0 + 1, knobSize - 2,
-                      knobSize - 2);
+    const QRectF disc(knob - knobSize_ / 2.0 + 1, middle - knobSize_ / 2.0 + 1, knobSize_ - 2,
+                      knobSize_ - 2);
     const bool ringed = hasFocus() || isGrabbed_;
     paintRoundedRect(painter, disc, disc.width() / 2, isGrabbed_ ? QColor(0xe8e8ec) : Qt::white,
                      {ringed ? blue : gray, ringed ? 2.0 : 1.0});
@@ -101,7 +103,7 @@ void ContinuousSlider::mousePressEvent(QMouseEvent* event) {
     const double x = event->position().x();
     const double toKnob = knobCenter() - x;
     isGrabbed_ = true;
-    grabOffset_ = std::abs(toKnob) <= knobSize / 2.0 ? toKnob : 0;
+    grabOffset_ = std::abs(toKnob) <= knobSize_ / 2.0 ? toKnob : 0;
     update();
     if (grabOffset_ == 0 && toKnob != 0) moveTo(valueAt(x));
 }

@@ -16,8 +16,11 @@ public:
         double keyStep;  ///< of one press of an arrow key; ten of them are a page
     };
 
+    enum class Knob : unsigned char { regular, small };
+
     /// `name` is the accessible name.
-    ContinuousSlider(const QString& name, Range range, QWidget* parent = nullptr);
+    ContinuousSlider(const QString& name, Range range, QWidget* parent = nullptr,
+                     Knob knob = Knob::regular);
 
     double value() const { return value_; }
     const Range& range() const { return range_; }
@@ -51,6 +54,7 @@ private:
     double afterSteps(double count) const;
 
     Range range_;
+    int knobSize_;
     double value_;
     QString inWords_;
     double grabOffset_ = 0;  ///< from the pointer to the knob's centre

@@ -8,6 +8,8 @@
 
 #include <QAccessibleWidget>
 
+#include <algorithm>
+
 namespace marlevo {
 
 namespace {
@@ -122,6 +124,29 @@ private:
     LayerRow& row_;
 };
 
+/// In the order of the list, whatever the age of its rows.
+class AccessibleLayerList final : public QAccessibleWidget {
+public:
+    explicit AccessibleLayerList(LayerRows* list)
+        : QAccessibleWidget(list, QAccessible::List), list_(*list) {}
+
+    int childCount() const override { return int(list_.rows().size()); }
+
+    QAccessibleInterface* child(int index) const override {
+        const bool isThere = index >= 0 && index < childCount();
+        return isThere ? QAccessible::queryAccessibleInterface(list_.rows()[index]) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        const auto& rows = list_.rows();
+        const auto found = std::find(rows.begin(), rows.end(), child->object());
+        return found != rows.end() ? int(found - rows.begin()) : -1;
+    }
+
+private:
+    LayerRows& list_;
+};
+
 // What is returned is owned by the toolkit's cache of interfaces.
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     if (auto* slider = qobject_cast<ContinuousSlider*>(object)) return new AccessibleSlider(slider);
@@ -129,8 +154,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
         return new AccessibleDisclosure(button);
     if (auto* row = qobject_cast<LayerRow*>(object)) return new AccessibleLayer(row);
     if (auto* button = qobject_cast<ChoiceButton*>(object)) return new AccessibleChoice(button);
-    if (auto* rows = qobject_cast<LayerRows*>(object))
-        return new QAccessibleWidget(rows, QAccessible::List);
+    if (auto* rows = qobject_cast<LayerRows*>(object)) return new AccessibleLayerList(rows);
     if (auto* thumbnail = qobject_cast<LayerThumbnailView*>(object))
         return new QAccessibleWidget(thumbnail, QAccessible::Graphic);
     if (auto* sheet = qobject_cast<NewCanvasSheet*>(object))

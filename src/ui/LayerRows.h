@@ -17,6 +17,9 @@ public:
     /// The document must outlive the list.
     explicit LayerRows(DrawingDocument& document, QWidget* parent = nullptr);
 
+    /// As listed: the highest layer first.
+    const std::vector<LayerRow*>& rows() const { return rows_; }
+
 private:
     void showLayers();
     void matchRows();
@@ -26,7 +29,7 @@ private:
 
     DrawingDocument& document_;
     QVBoxLayout* layout_;
-    std::vector<LayerRow*> rows_;  ///< as listed: the highest layer first
+    std::vector<LayerRow*> rows_;
     Follower follower_;
 };
 

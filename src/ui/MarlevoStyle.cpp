@@ -19,6 +19,8 @@ namespace {
 
 // View points.
 constexpr double radius = 5;
+constexpr QSize roomInButton(12, 2);
+constexpr int fieldPadding = 3;
 constexpr int scrollBarWidth = 10;
 constexpr int knobMargin = 2;
 constexpr int leastKnob = 24;
@@ -180,6 +182,20 @@ QRect MarlevoStyle::subControlRect(ComplexControl control, const QStyleOptionCom
             return partOfScrollBar(*bar, part);
     }
     return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QSize MarlevoStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                     const QSize& contents, const QWidget* widget) const {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_PushButton ? size + roomInButton : size;
+}
+
+QRect MarlevoStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                   const QWidget* widget) const {
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element != SE_LineEditContents) return rect;
+    const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    return field && field->lineWidth > 0 ? rect.adjusted(fieldPadding, 0, -fieldPadding, 0) : rect;
 }
 
 int MarlevoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,

@@ -132,6 +132,8 @@ QLayout* NewCanvasSheet::makeCustomSection() {
 
     auto* fields = new QHBoxLayout;
     fields->setSpacing(itemSpacing);
+    // The fields stand below the box itself.
+    fields->addSpacing(CheckBox::focusRoom);
     const auto addField = [&](QLineEdit& field, const QString& name) {
         field.setPlaceholderText(name);
         field.setAccessibleName(name);
@@ -146,7 +148,8 @@ QLayout* NewCanvasSheet::makeCustomSection() {
     fields->addStretch(1);
 
     auto* section = new QVBoxLayout;
-    section->setContentsMargins(padding, padding, padding, padding);
+    const int sides = padding - CheckBox::focusRoom;
+    section->setContentsMargins(sides, padding, sides, padding);
     section->setSpacing(itemSpacing);
     section->addWidget(&useCustom_);
     section->addLayout(fields);

@@ -33,6 +33,7 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(titleSpacing);
+    column->addStretch(1);
     column->addWidget(new TextLabel(tr("Default Canvas Size"), sectionTitle));
     column->addLayout(makeSizeRow());
     column->addSpacing(sectionSpacing - titleSpacing);

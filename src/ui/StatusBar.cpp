@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
 #include <numeric>
 #include <utility>
 
@@ -56,8 +58,9 @@ QString wholePixels(double side) {
 
 StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindow, QWidget* parent)
     : QWidget(parent), document_(document), canvasSize_({}, numbers), strokeCount_({}, caption),
-      zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}), zoomText_({}, zoomNumber),
-      activeLayer_({}, layerName), follower_(document, [this] { showDocument(); }) {
+      zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}, nullptr, ContinuousSlider::Knob::small),
+      zoomText_({}, zoomNumber), activeLayer_({}, layerName),
+      follower_(document, [this] { showDocument(); }) {
     auto* const actualSize = new SmallButton(tr("100%"));
     auto* const fit = new SmallButton(tr("Fit"));
     connect(&zoom_, &ContinuousSlider::moved, this, [this](double zoom) { document_.zoom = zoom; });
@@ -98,6 +101,28 @@ void StatusBar::showDocument() {
     const Layer* const layer = document_.activeLayer();
     activeLayer_.setVisible(layer != nullptr);
     if (layer != nullptr) activeLayer_.setText(QString::fromStdString(layer->name));
+    if (layout() != nullptr) shortenLabels();
+}
+
+/// Where room is missing, the name of the layer, which stands in the sidebar too, gives way first
+/// and the zoom last.
+void StatusBar::shortenLabels() {
+    const std::array labels{&activeLayer_, &strokeCount_, &canvasSize_, &zoomText_};
+    for (TextLabel* const label : labels)
+        label->setMaximumWidth(QWIDGETSIZE_MAX);
+    int missing = layout()->sizeHint().width() - width();
+    for (TextLabel* const label : labels) {
+        if (label->isHidden()) continue;
+        const int whole = label->sizeHint().width();
+        const int given = std::clamp(missing, 0, whole - label->minimumSizeHint().width());
+        if (given > 0) label->setMaximumWidth(whole - given);
+        missing -= given;
+    }
+}
+
+void StatusBar::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    shortenLabels();
 }
 
 void StatusBar::paintEvent(QPaintEvent*) {

@@ -34,10 +34,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void layOut(QWidget* actualSize, QWidget* fit);
     void showDocument();
+    void shortenLabels();
 
     DrawingDocument& document_;
     TextLabel canvasSize_;

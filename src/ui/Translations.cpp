@@ -20,11 +20,11 @@ constexpr auto folder = ":/translations";
     QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Off"),
     QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Pages"),
     QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Short side binding"),
+};
+[[maybe_unused]] constexpr const char* helpOfTheToolkit =
     QT_TRANSLATE_NOOP("QPrintSettingsOutput",
                       "Specify pages or ranges separated by commas. Ranges are specified by two "
-                      "numbers separated "
-                      "by a hyphen. E.g: 3,5-7,9 prints pages 3, 5, 6, 7 and 9."),
-};
+                      "numbers separated by a hyphen. E.g: 3,5-7,9 prints pages 3, 5, 6, 7 and 9.");
 
 }  // namespace
 

@@ -141,9 +141,9 @@ private:
 TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
     RandomEditor editor(11);
     ScreenPicture kept;
-    for (int step = 0; step < 300; ++step) {
+    for (int step = 0; step < 200; ++step) {
         editor.change();
-        const double scale = step < 200 ? 1 : 1.5;
+        const double scale = step < 140 ? 1 : 1.5;
         const IntRect area{editor.below(300), editor.below(200), 350 + editor.below(350),
                            250 + editor.below(250)};
         ScreenPicture fresh;
@@ -157,10 +157,10 @@ TEST(ScreenPicture, PaintingOnlyWhatIsSaidToHaveChangedShowsThePicture) {
     RandomEditor editor(12);
     const IntRect area{0, 0, 700, 500};
     View view(area);
-    for (int step = 0; step < 400; ++step) {
+    for (int step = 0; step < 250; ++step) {
         for (int changes = editor.below(3); changes >= 0; --changes)
             editor.change();
-        const double scale = step < 300 ? 1 : 0.7;
+        const double scale = step < 180 ? 1 : 0.7;
         // The window system may ask for a part before the changes are looked at.
         if (editor.below(4) == 0) view.paintPart(editor.document, scale, {100, 100, 300, 200});
         if (editor.below(50) == 0) view.picture().releaseMemory();

@@ -15,7 +15,7 @@
 namespace marlevo {
 namespace {
 
-constexpr IntRect sight{-60, -40, 500, 420};
+constexpr IntRect sight{-30, -20, 300, 240};
 
 class Picture {
 public:
@@ -63,7 +63,7 @@ public:
             at_ = {at_.x + below(100) / 1e4, at_.y + below(100) / 1e4};
             return at_;
         case 3:
-            at_ = {below(6000) / 10.0 - 80, below(5000) / 10.0 - 60};
+            at_ = {below(4000) / 10.0 - 50, below(3000) / 10.0 - 40};
             return at_;
         default:
             angle_ += below(100) / 100.0 - 0.5;
@@ -77,12 +77,12 @@ public:
 
 private:
     std::mt19937 random_;
-    Point at_{200, 150};
+    Point at_{130, 90};
     double angle_ = 0;
 };
 
 TEST(StrokeInProgress, ShowsAtEachMomentWhatDrawingItWholeWould) {
-    for (unsigned seed = 0; seed < 60; ++seed) {
+    for (unsigned seed = 0; seed < 48; ++seed) {
         Pointer pointer(seed);
         const double scale = std::vector{0.4, 1.0, 1.0, 2.5}[seed % 4];
         const double width = seed % 3 == 0 ? 160 : 1 + pointer.below(seed % 3 == 1 ? 24 : 80);
@@ -90,7 +90,7 @@ TEST(StrokeInProgress, ShowsAtEachMomentWhatDrawingItWholeWould) {
         stroke.opacity = seed % 2 == 0 ? 0.5 : 1;
         StrokeInProgress inProgress;
         Picture shown;
-        for (int step = 0; step < 70; ++step) {
+        for (int step = 0; step < 50; ++step) {
             const auto changed = inProgress.update(stroke, scale).intersectedWith(sight);
             if (!changed.isEmpty()) {
                 shown.clean(changed);

@@ -101,17 +101,7 @@ inline Region spiral(int width, int height, int corridor) {
     return region;
 }
 
-inline Region comb(int width, int height, int tooth, int gap) {
-    Region region(width, height);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            if (y == 0 || x % (tooth + gap) < tooth) region.insert({x, y});
-        }
-    }
-    return region;
-}
-
-/// Pictures of all kinds: noise, mazes, spirals, combs, full and narrow ones.
+/// Pictures of all kinds: noise, mazes, spirals, full and narrow ones.
 inline std::vector<Region> variousRegions(std::mt19937& random) {
     std::vector<Region> regions;
     for (const double density : {0.05, 0.3, 0.5, 0.6, 0.65, 0.8, 0.97, 1.0}) {
@@ -130,8 +120,6 @@ inline std::vector<Region> variousRegions(std::mt19937& random) {
     for (const int corridor : {1, 2, 5}) {
         regions.push_back(maze(20, 14, corridor, random));
         regions.push_back(spiral(131, 67, corridor));
-        regions.push_back(comb(100, 23, corridor, 1));
-        regions.push_back(comb(77, 40, 1, corridor));
     }
     return regions;
 }

@@ -42,7 +42,9 @@ TEST_F(FillTool, StaysInsideAClosedOutline) {
     document.layers.modify([](LayerList& layers) {
         layers[0].strokes.append(makeStroke({{100, 100}, {300, 250}}, 4, Stroke::ShapeType::rect));
     });
+    document.addLayer();
     document.performFill({200, 200});
+    EXPECT_EQ(top().name, "Fill 2");
     const Rect bounds = top().strokes[0].boundingRect();
     EXPECT_NEAR(bounds.minX(), 102, 1);
     EXPECT_NEAR(bounds.minY(), 102, 1);
@@ -54,13 +56,6 @@ TEST_F(FillTool, RegionsWithoutAnOutlineBecomeTheirBox) {
     document.canvasSize = CanvasSize{6, 3};
     document.performFill({1, 1});
     EXPECT_EQ(top().strokes[0].points, (PointList{{0, 3}, {5, 3}, {5, 1}, {0, 1}, {0, 3}}));
-}
-
-TEST_F(FillTool, NamesCountTheLayersBefore) {
-    document.addLayer();
-    document.addLayer();
-    document.performFill({1, 1});
-    EXPECT_EQ(top().name, "Fill 3");
 }
 
 TEST_F(FillTool, ClicksOutsideOrOnNoPictureChangeNothing) {
