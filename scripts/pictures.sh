@@ -7,8 +7,8 @@ cmake --preset release >/dev/null
 cmake --build build/release --target marlevo_pictures
 mkdir -p docs/pictures
 
-make_pictures() { with_display build/release/pictures/marlevo_pictures docs/pictures; }
-export LC_ALL=C.UTF-8
-make_pictures
-screen_size=3400x2200 QT_SCALE_FACTOR=2 make_pictures
-screen_size=2600x1600 QT_SCALE_FACTOR=1.5 LC_ALL=de_DE.UTF-8 make_pictures
+# make_pictures [variable=value...]: with these in the program's environment.
+make_pictures() { with_display env "$@" build/release/pictures/marlevo_pictures docs/pictures; }
+make_pictures LC_ALL=C.UTF-8
+SCREEN=3400x2200 make_pictures LC_ALL=C.UTF-8 QT_SCALE_FACTOR=2
+SCREEN=2600x1600 make_pictures LC_ALL=de_DE.UTF-8 QT_SCALE_FACTOR=1.5

@@ -130,7 +130,7 @@ void GrowingOutline::blendInto(const PixelBuffer& target, PackedColor color) con
 /// For a target that lies within one row of tiles.
 void GrowingOutline::blendTileRow(const PixelBuffer& target, PackedColor color) const {
     const IntRect& area = target.area;
-    const int firstRow = area.top - rowOfTiles(area.top);
+    const int firstRow = rowOfTiles(area.top);
     std::array<std::uint32_t, tileSide> sums{};  // of all that lies further left
     const auto pass = [&](const Tile& tile) {
         for (int row = 0; row < tileSide; ++row)
@@ -138,7 +138,7 @@ void GrowingOutline::blendTileRow(const PixelBuffer& target, PackedColor color) 
                 static_cast<std::uint32_t>(tile.rowSums[static_cast<std::size_t>(row)]);
     };
     const auto sumAt = [&](int y) {
-        return static_cast<std::int32_t>(sums[static_cast<std::size_t>(y - area.top + firstRow)]);
+        return static_cast<std::int32_t>(sums[static_cast<std::size_t>(y - firstRow)]);
     };
     int done = area.left;
     // Between tiles every row goes on as it is.

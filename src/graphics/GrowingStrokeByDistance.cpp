@@ -54,8 +54,8 @@ GrowingStrokeByDistance::tilesAlong(const FlattenedPath& line) {
                                [&](Tile& tile) { tiles.push_back(&tile); });
         }
     }
-    std::ranges::sort(tiles);
-    tiles.erase(std::ranges::unique(tiles).begin(), tiles.end());
+    std::sort(tiles.begin(), tiles.end());
+    tiles.erase(std::unique(tiles.begin(), tiles.end()), tiles.end());
     return tiles;
 }
 

@@ -98,10 +98,6 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
     strokeInProgress_.paint(target);
 }
 
-void ScreenPicture::limitMemory(const IntRect& inSight) {
-    if (tiles_.size() * tileBytes > maxCachedBytes) tiles_.dropTilesOutside(inSight);
-}
-
 void ScreenPicture::releaseMemory() {
     tiles_.clear();
     isAllChanged_ = true;
@@ -172,6 +168,7 @@ void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntR
 
     const std::vector<PixelBuffer> parts = cutForAllCores(stale);
     std::vector<IntRect> areas;
+    areas.reserve(parts.size());
     for (const PixelBuffer& part : parts)
         areas.push_back(part.area);
     parallelFor(parts.size(), [&](std::size_t i) { renderBackground(parts[i]); });

@@ -40,9 +40,10 @@ public:
     /// scale that is not a positive number paints nothing.
     void paint(const DrawingDocument& document, double scale, const PixelBuffer& target);
 
-    /// Drops what is out of sight if all tiles take more than maxCachedBytes. What was painted and
-    /// is not in `area` must be painted again before it is shown.
-    void limitMemory(const IntRect& inSight);
+    /// Memory of the tiles; to be kept below maxCachedBytes by dropping those out of sight. What
+    /// was painted of a dropped tile must be painted again before it is shown.
+    std::size_t cachedBytes() const { return tiles_.size() * tileBytes; }
+    void dropTilesOutside(const IntRect& inSight) { tiles_.dropTilesOutside(inSight); }
 
     /// Drops all tiles; everything counts as changed.
     void releaseMemory();

@@ -12,7 +12,7 @@ namespace marlevo {
 
 /// A stroke and the device pixels that it may touch.
 struct StrokeInSight {
-    const Stroke* stroke;
+    const Stroke* stroke = nullptr;
     IntRect area;
 };
 

@@ -148,6 +148,15 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     if (document_.isEyeDropper)
         paintIcon(painter, Icon::eyedropper, eyeDropperPlace(),
                   withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
+    limitMemory(painter);
+}
+
+void CanvasView::limitMemory(QPainter& painter) {
+    if (picture_.cachedBytes() <= ScreenPicture::maxCachedBytes) return;
+    const QRect inSight =
+        DevicePixels(painter, QPointF(0, 0)).touchedBy(visibleRegion().boundingRect());
+    picture_.dropTilesOutside({inSight.left(), inSight.top(), inSight.left() + inSight.width(),
+                               inSight.top() + inSight.height()});
 }
 
 void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
@@ -160,7 +169,7 @@ void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
     const QRect part = pixels.touchedBy(exposed) & whole;
     if (part.isEmpty()) return;
     frame_.resize(static_cast<std::size_t>(part.width()) * part.height() * 4);
-    QImage frame(frame_.data(), part.width(), part.height(), part.width() * 4,
+    QImage frame(frame_.data(), part.width(), part.height(), qsizetype(part.width()) * 4,
                  QImage::Format_ARGB32_Premultiplied);
 
     picture_.paint(document_, deviceScale(), pixelsOf(frame, part.topLeft()));

@@ -65,6 +65,7 @@ private:
     void paintPicture(QPainter& painter, const QRect& exposed);
     void paintOutline(QImage& frame, QPoint origin, const Outline& outline) const;
     QRectF eyeDropperPlace() const;
+    void limitMemory(QPainter& painter);
     void paintEyeDropper(QPainter& painter) const;
     void showPointerOfTool();
 

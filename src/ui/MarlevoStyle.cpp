@@ -150,6 +150,8 @@ void MarlevoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             paintFocusRing(*painter, widget->rect(), radius);
         return;
     }
+    if (element == PE_PanelScrollAreaCorner)
+        return painter->fillRect(option->rect, option->palette.window());
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 

@@ -2,6 +2,7 @@
 #include "ui/SmallButton.h"
 #include "ui/ZoomRange.h"
 
+#include <QAccessible>
 #include <QTranslator>
 
 using namespace marlevo;
@@ -36,6 +37,11 @@ private Q_SLOTS:
         RunningApp s;
         QCOMPARE(texts(s), QStringList({"1280×720", "0 strokes", "100%", "Background"}));
         drawStroke(s.document);
+        s.document.isEraser = true;
+        // Assistive technology is told the same of the canvas, as it is when it asks.
+        auto* canvas = QAccessible::queryAccessibleInterface(&s.window.canvasView());
+        QCOMPARE(canvas->role(), QAccessible::Canvas);
+        QCOMPARE(canvas->text(QAccessible::Description), "1280 × 720 px, Eraser, single_stroke");
         s.document.canvasSize = {800.9, 1e30};
         s.document.zoom = 0.49375;
         s.document.activeLayerIndex = -1;
