@@ -66,7 +66,7 @@ void measureFirstShow(Bench& bench) {
                        {"painted", median(ours)}};
     if (bench.arguments.contains("peer")) {
         std::vector<double> peer;
-        for (int i = 0; i < (rounds + 1) / 2; ++i)
+        for (int i = 0; i < 1 + rounds / 4; ++i)
             peer.push_back(paintWithQt(hundredThousand, canvas));
         result["qt"] = median(peer);
     }

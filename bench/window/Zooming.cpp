@@ -18,7 +18,7 @@ void measureZooming(Bench& bench) {
         real.show(scribbles(static_cast<std::size_t>(strokes), canvas), canvas);
 
         const QRect slider = real.control("Zoom");
-        const int step = bench.isQuick ? 8 : 1;
+        const int step = bench.isQuick ? 8 : 3;
         std::vector<QPoint> way;
         for (int x = slider.left(); x <= slider.right(); x += step)
             way.emplace_back(x, slider.center().y());
