@@ -75,6 +75,12 @@ bool ScreenPicture::Contents::isSameView(const Contents& other) const {
            scale == other.scale && hasGrid == other.hasGrid;
 }
 
+void ScreenPicture::setGridColor(const Color& color) {
+    if (color == gridColor_) return;
+    gridColor_ = color;
+    releaseMemory();
+}
+
 std::optional<std::vector<IntRect>> ScreenPicture::takeChanges(const DrawingDocument& document,
                                                                double scale) {
     follow(document, scale);

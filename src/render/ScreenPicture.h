@@ -28,7 +28,8 @@ public:
     /// What all tiles together may take beyond those in sight.
     static constexpr std::size_t maxCachedBytes = std::size_t{96} << 20;
 
-    explicit ScreenPicture(Color gridColor = {0.56, 0.56, 0.58, 0.2}) : gridColor_(gridColor) {}
+    /// What the grid is drawn in. With another colour than before everything counts as changed.
+    void setGridColor(const Color& color);
 
     /// Follows the document, seen with `scale` device pixels for a canvas pixel, and gives the
     /// areas of what was painted that would be painted otherwise now, each of them once; nothing
@@ -91,7 +92,7 @@ private:
     void renderImage(const LayerRun& run, const PixelBuffer& part) const;
     void renderStrokes(std::vector<StrokeInSight> strokes, const PixelBuffer& part) const;
 
-    Color gridColor_;
+    Color gridColor_{0.5, 0.5, 0.5, 0.2};
     Contents contents_;
     TileMap<Tile, tileSide> tiles_;
     StrokeInProgress strokeInProgress_;

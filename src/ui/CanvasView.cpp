@@ -3,6 +3,8 @@
 #include "platform/qt/QtItemProviders.h"
 #include "render/SelectionOutline.h"
 #include "ui/CanvasAccessibility.h"
+#include "ui/Colors.h"
+#include "ui/DesktopLook.h"
 #include "ui/DevicePixels.h"
 #include "ui/DisplaySize.h"
 #include "ui/Icons.h"
@@ -31,6 +33,7 @@ constexpr double outlineWidth = 2;
 constexpr double outlineDash = 5;
 constexpr double outlineGap = 3;
 
+constexpr double gridOpacity = 0.2;
 constexpr double eyeDropperOpacity = 0.4;
 
 PixelBuffer pixelsOf(QImage& image, QPoint origin) {
@@ -67,7 +70,14 @@ CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     installCanvasAccessibility();
     setAcceptDrops(true);
     setAccessibleName(tr("Canvas"));
+    takeColors();
+    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this, &CanvasView::takeColors);
     updateWhatChanged();
+}
+
+void CanvasView::takeColors() {
+    picture_.setGridColor(toColor(withOpacity(semanticColor(SemanticColor::gray), gridOpacity)));
+    update();
 }
 
 /// Looks at what changed once the current event is over: until then a stroke that joins its layer

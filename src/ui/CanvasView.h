@@ -55,6 +55,7 @@ private:
         static Overlay of(const DrawingDocument& document);
     };
 
+    void takeColors();
     void follow(DocumentProperty property);
     void updateWhatChanged();
     void updateOverlay();

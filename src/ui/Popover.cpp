@@ -125,11 +125,12 @@ bool Popover::event(QEvent* event) {
 bool Popover::eventFilter(QObject* watched, QEvent* event) {
     if (watched == window() && event->type() == QEvent::Resize) place();
     if (watched == window() && event->type() == QEvent::WindowDeactivate) dismiss();
-    if (!isPress(event->type())) return false;
-    const auto* pressed = qobject_cast<QWidget*>(watched);
-    if (pressed == nullptr || pressed == this || isAncestorOf(pressed)) return false;
+    const bool isPressed = isPress(event->type());
+    if (!isPressed && event->type() != QEvent::FocusIn) return false;
+    const auto* reached = qobject_cast<QWidget*>(watched);
+    if (reached == nullptr || reached == this || isAncestorOf(reached)) return false;
     dismiss();
-    return pressed->window() == window();
+    return isPressed && reached->window() == window();
 }
 
 // Round and round among the controls of the popover.

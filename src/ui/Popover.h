@@ -7,7 +7,8 @@ namespace marlevo {
 
 /// A panel that points at a control of its window, on the control's trailing side. It takes the
 /// keyboard while it is open and goes away, for good, on Escape, on a press anywhere else (which
-/// does nothing more) and when its window is left.
+/// does nothing more), when something else takes the keyboard, such as a sheet, and when its window
+/// is left.
 class Popover : public QWidget {
     Q_OBJECT
 

@@ -21,8 +21,10 @@ QString withoutMnemonic(QString title) {
     return title.remove(appended).remove('&');
 }
 
-void addKey(QTreeWidgetItem& section, const QString& title, const QKeySequence& key) {
-    new QTreeWidgetItem(&section, {title, key.toString(QKeySequence::NativeText)});
+/// Any of the keys does it.
+void addKeys(QTreeWidgetItem& section, const QString& title, const QList<QKeySequence>& keys) {
+    new QTreeWidgetItem(&section,
+                        {title, QKeySequence::listToString(keys, QKeySequence::NativeText)});
 }
 
 }  // namespace
@@ -65,17 +67,17 @@ QTreeWidgetItem* ShortcutsDialog::addSection(const QString& title) {
 void ShortcutsDialog::addMenu(QTreeWidgetItem& section, const QMenu& menu) {
     for (const QAction* const action : menu.actions()) {
         if (!action->shortcut().isEmpty())
-            addKey(section, withoutMnemonic(action->text()), action->shortcut());
+            addKeys(section, withoutMnemonic(action->text()), action->shortcuts());
         if (action->menu() != nullptr) addMenu(section, *action->menu());
     }
 }
 
 void ShortcutsDialog::addKeysWithoutMenuItem() {
     QTreeWidgetItem& section = *addSection(tr("Tools and View"));
-    addKey(section, tr("Eraser"), Qt::CTRL | Qt::Key_E);
-    addKey(section, tr("Zoom In"), Qt::CTRL | Qt::Key_Equal);
-    addKey(section, tr("Zoom Out"), Qt::CTRL | Qt::Key_Minus);
-    addKey(section, tr("Delete Selected Stroke"), Qt::Key_Delete);
+    addKeys(section, tr("Eraser"), {Qt::CTRL | Qt::Key_E});
+    addKeys(section, tr("Zoom In"), {Qt::CTRL | Qt::Key_Equal});
+    addKeys(section, tr("Zoom Out"), {Qt::CTRL | Qt::Key_Minus});
+    addKeys(section, tr("Delete Selected Stroke"), {Qt::Key_Delete, Qt::Key_Backspace});
 }
 
 }  // namespace marlevo

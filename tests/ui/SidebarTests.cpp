@@ -303,7 +303,7 @@ private Q_SLOTS:
         QCOMPARE(s.panels.save->proposedName, std::string("Drawing-1280x720.tiff"));
     }
 
-    void theExportPopoverGoesAtAPressElsewhereAndAtEscape() {
+    void theExportPopoverGoesAtAPressElsewhereAtEscapeAndWithTheKeyboard() {
         SidebarSetting s;
         const auto isOpen = [&] { return s.find<ExportPopover>("Export as") != nullptr; };
         s.click("Export");
@@ -317,6 +317,12 @@ private Q_SLOTS:
         QTest::keyClick(s.window.focusWidget(), Qt::Key_Down);
         QCOMPARE(QApplication::focusWidget()->accessibleName(), "PNG");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!isOpen());
+        QCOMPARE(QApplication::focusWidget(), s.field);
+
+        s.click("Export");
+        QVERIFY(isOpen());
+        s.field->setFocus();
         QTRY_VERIFY(!isOpen());
         QCOMPARE(QApplication::focusWidget(), s.field);
     }
