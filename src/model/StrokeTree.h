@@ -39,10 +39,10 @@ struct Node : RefCounted {
 /// Where each stroke of a leaf paints. Side by side, so that a search goes through little memory,
 /// looks at several strokes at a time and touches none but those it finds.
 struct LeafBoxes {
-    std::array<float, fanOut> minX;
-    std::array<float, fanOut> minY;
-    std::array<float, fanOut> maxX;
-    std::array<float, fanOut> maxY;
+    std::array<float, fanOut> minX{};
+    std::array<float, fanOut> minY{};
+    std::array<float, fanOut> maxX{};
+    std::array<float, fanOut> maxY{};
 
     LeafBoxes() {
         for (std::size_t i = 0; i < fanOut; ++i)

@@ -10,7 +10,7 @@ namespace marlevo {
 
 namespace {
 
-constexpr QSize smallestSize(700, 500);
+constexpr QSize smallestContent(700, 500);
 
 // What a desktop's panels and the window's own frame take of the screen.
 constexpr QSize screenReserve(20, 60);
@@ -33,9 +33,9 @@ DocumentWindow::DocumentWindow(MarlevoApp& app)
     connect(&content_, &ContentView::showNewCanvasChanged, &menus_, &MenuCommands::setBehindSheet);
     menus_.setBehindSheet(content_.showNewCanvas());
 
-    setMinimumSize(smallestSize);
+    content_.setMinimumSize(smallestContent);
     const QSize room = screen()->availableSize() - screenReserve;
-    resize(sizeHint().boundedTo(room).expandedTo(smallestSize));
+    resize(sizeHint().boundedTo(room).expandedTo(smallestContent));
 }
 
 void DocumentWindow::closeDismissingPanels() {

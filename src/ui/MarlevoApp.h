@@ -2,7 +2,7 @@
 
 #include "platform/NotificationCenter.h"
 #include "platform/Services.h"
-#include "ui/FocusedDocument.h"
+#include "ui/DrawingDocumentKey.h"
 
 #include <QObject>
 #include <QPointer>
@@ -33,7 +33,7 @@ public:
     ~MarlevoApp() override;
 
     const Services& services() const { return services_; }
-    FocusedDocument& focusedDocument() { return focusedDocument_; }
+    DrawingDocumentKey& focusedDocument() { return focusedDocument_; }
     NotificationCenter& notifications() { return notifications_; }
 
     /// Opens a window with a fresh drawing, which goes away when it is closed.
@@ -63,7 +63,7 @@ private:
 
     Services services_;
     NotificationCenter notifications_;
-    FocusedDocument focusedDocument_;
+    DrawingDocumentKey focusedDocument_;
     std::vector<QPointer<DocumentWindow>> windows_;
     QPointer<SettingsWindow> settings_;
     bool isQuitting_ = false;

@@ -19,7 +19,7 @@ MenuCommands::MenuCommands(MarlevoApp& app, QWidget* window) : QMenuBar(window),
     addMenu(new WindowMenu(app, *window));
     addMenu(new HelpMenu(*this));
 
-    connect(&app.focusedDocument(), &FocusedDocument::changed, this,
+    connect(&app.focusedDocument(), &DrawingDocumentKey::changed, this,
             &MenuCommands::followFocusedDocument);
     followFocusedDocument();
 }

@@ -6,8 +6,9 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// The document of the frontmost document window, or none: what the menu commands act on.
-class FocusedDocument final : public QObject {
+/// What the focused value `drawingDocument` is kept under: the document of the frontmost document
+/// window, or none. The menu commands act on it.
+class DrawingDocumentKey final : public QObject {
     Q_OBJECT
 
 public:

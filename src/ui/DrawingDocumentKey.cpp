@@ -1,8 +1,8 @@
-#include "ui/FocusedDocument.h"
+#include "ui/DrawingDocumentKey.h"
 
 namespace marlevo {
 
-void FocusedDocument::set(DrawingDocument* document) {
+void DrawingDocumentKey::set(DrawingDocument* document) {
     if (document == document_) return;
     document_ = document;
     Q_EMIT changed();
