@@ -3,7 +3,7 @@
 #include "io/Base64.h"
 #include "io/DocumentFields.h"
 #include "io/JsonSyntax.h"
-#include "io/OnTwoThreads.h"
+#include "platform/ParallelFor.h"
 
 #include <simdjson.h>
 
@@ -34,7 +34,7 @@ constexpr bool isRequired<std::optional<Value>> = false;
 /// parser does not know it.
 class RecordReader {
 public:
-    enum class Strokes : unsigned char { oneByOne, onTwoThreads };
+    enum class Strokes : unsigned char { oneByOne, inParallel };
 
     RecordReader(std::string_view text, Strokes strokes) : text_(text), strokes_(strokes) {}
 
@@ -154,7 +154,7 @@ private:
 
         constexpr std::size_t batch = 128;
         std::atomic<bool> isFaultless = true;
-        onTwoThreads((texts.size() + batch - 1) / batch, [&](std::size_t number) {
+        parallelFor((texts.size() + batch - 1) / batch, [&](std::size_t number) {
             RecordReader reader({}, Strokes::oneByOne);
             const std::size_t end = std::min(texts.size(), (number + 1) * batch);
             for (std::size_t i = number * batch; i < end && isFaultless; ++i) {
@@ -342,7 +342,7 @@ Result<DocumentData> readDocumentData(const PaddedBytes& contents) {
 
     constexpr std::size_t longText = std::size_t{1} << 20;
     if (text.size() >= longText) {
-        auto document = RecordReader(text, RecordReader::Strokes::onTwoThreads).readFaultless();
+        auto document = RecordReader(text, RecordReader::Strokes::inParallel).readFaultless();
         if (document) return std::move(*document);
     }
     return RecordReader(text, RecordReader::Strokes::oneByOne).read();

@@ -4,7 +4,7 @@
 #include "io/DocumentFields.h"
 #include "io/JsonText.h"
 #include "io/KeyPath.h"
-#include "io/OnTwoThreads.h"
+#include "platform/ParallelFor.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,7 +33,7 @@ public:
     }
 
     void run() {
-        onTwoThreads(parts_.size(), [this](std::size_t i) {
+        parallelFor(parts_.size(), [this](std::size_t i) {
             for (const auto& piece : parts_[i].pieces)
                 piece(parts_[i].text);
         });

@@ -2,8 +2,11 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <exception>
 #include <mutex>
+#include <system_error>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -17,8 +20,12 @@ class Helpers {
 public:
     Helpers() {
         const unsigned cores = std::thread::hardware_concurrency();
-        for (unsigned i = 1; i < cores; ++i)
-            threads_.emplace_back([this](const std::stop_token& stop) { run(stop); });
+        try {
+            for (unsigned i = 1; i < cores; ++i)
+                threads_.emplace_back([this](const std::stop_token& stop) { run(stop); });
+        } catch (const std::system_error&) {
+            // No more threads to be had: those there are, and the caller, do it all.
+        }
     }
 
     /// False when the helpers are at other work.
@@ -36,7 +43,9 @@ public:
         std::unique_lock lock(mutex_);
         work_ = nullptr;  // who comes late finds nothing
         ended_.wait(lock, [this] { return working_ == 0; });
+        const std::exception_ptr failure = std::exchange(failure_, nullptr);
         isShared_ = false;
+        if (failure) std::rethrow_exception(failure);
         return true;
     }
 
@@ -59,8 +68,14 @@ private:
     }
 
     void takePieces(const Work& work, std::size_t count) {
-        for (std::size_t i = next_++; i < count; i = next_++)
-            work(i);
+        try {
+            for (std::size_t i = next_++; i < count; i = next_++)
+                work(i);
+        } catch (...) {
+            next_ = count;  // no other piece is begun
+            const std::lock_guard lock(mutex_);
+            if (!failure_) failure_ = std::current_exception();
+        }
     }
 
     std::atomic<bool> isShared_ = false;
@@ -70,6 +85,7 @@ private:
     const Work* work_ = nullptr;
     std::size_t count_ = 0;
     std::atomic<std::size_t> next_ = 0;
+    std::exception_ptr failure_;  ///< the first that a piece of this round threw
     std::size_t round_ = 0;
     std::size_t working_ = 0;            ///< helpers
     std::vector<std::jthread> threads_;  ///< last: joined before the rest goes

@@ -9,8 +9,9 @@ namespace marlevo {
 /// use, and returns when all are done. The calling thread works too; with one core, or while
 /// another call is under way, it does everything itself.
 ///
-/// `work` must not throw. What it does with one index must not touch what it does with another; all
-/// of it is visible to the caller afterwards.
+/// What the work does with one index must not touch what it does with another; all of it is visible
+/// to the caller afterwards. The first exception that it throws comes out here when all threads
+/// have stopped; some indices are then left out.
 void parallelFor(std::size_t count, const std::function<void(std::size_t)>& work);
 
 }  // namespace marlevo

@@ -20,10 +20,10 @@ std::optional<RasterImage> makeRaster(RasterSize size, std::uint8_t fill, Draw d
     try {
         bytes.assign(static_cast<std::size_t>(stride) * static_cast<std::size_t>(size.height),
                      fill);
+        draw(PixelBuffer{bytes.data(), stride, {0, 0, size.width, size.height}});
     } catch (const std::bad_alloc&) {
         return std::nullopt;
     }
-    draw(PixelBuffer{bytes.data(), stride, {0, 0, size.width, size.height}});
     return RasterImage(size.width, size.height, std::move(bytes));
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -34,6 +35,16 @@ TEST(ParallelFor, WorksWithinItselfAndOnSeveralThreadsAtOnce) {
         nested();
     }
     EXPECT_EQ(sum, 2 * 200 * 5 * 3);
+}
+
+TEST(ParallelFor, PassesOnWhatAPieceThrowsAndWorksAgain) {
+    for (std::size_t bad = 0; bad < 40; ++bad) {
+        const auto work = [&](std::size_t i) {
+            if (i % 40 == bad) throw std::bad_alloc();
+        };
+        EXPECT_THROW(parallelFor(200, work), std::bad_alloc) << bad;
+        ASSERT_THAT(runsOfEach(20), Each(1)) << bad;
+    }
 }
 
 }  // namespace
