@@ -62,6 +62,18 @@ bool isInSight(const Path& path, const DeviceFrame& frame, const VisibleRange& r
     return left <= range.right && right >= range.left && top <= range.bottom && bottom >= range.top;
 }
 
+/// A pen as wide and as high as it is on the device.
+struct Pen {
+    double width;
+    double height;
+
+    bool isVisible() const { return width > 0 && height > 0; }
+    double reach() const { return std::max({width, height, 1.0}) / 2; }
+
+    /// The choice must not depend on the target, or its bands would not fit together.
+    bool drawsByDistance() const { return width == height && width <= maxWidthByDistance; }
+};
+
 bool isWhole(double value) { return value == std::floor(value); }
 
 }  // namespace
@@ -78,6 +90,10 @@ struct BitmapContext::Rasterizer {
 
     PackedColor pack(const Color& color) const {
         return packColor(color, state.alpha, target.order);
+    }
+
+    Pen pen(double lineWidth) const {
+        return {lineWidth * std::abs(state.frame.scaleX), lineWidth * std::abs(state.frame.scaleY)};
     }
 
     /// Flattens what can be seen of the path, to `flattened`; false if that is nothing.
@@ -126,6 +142,8 @@ void BitmapContext::scale(double x, double y) {
 
 void BitmapContext::setAlpha(double alpha) { rasterizer_->state.alpha = alpha; }
 
+double BitmapContext::alpha() const { return rasterizer_->state.alpha; }
+
 void BitmapContext::fillRect(const Rect& rect, const Color& color) {
     const DeviceFrame& frame = rasterizer_->state.frame;
     const auto [left, right] = std::minmax(
@@ -152,37 +170,37 @@ void BitmapContext::fillPath(const Path& path, const Color& color) {
 }
 
 void BitmapContext::strokePath(const Path& path, const Color& color, double lineWidth) {
-    const DeviceFrame& frame = rasterizer_->state.frame;
     const PackedColor packed = rasterizer_->pack(color);
-    const double width = lineWidth * std::abs(frame.scaleX);
-    const double height = lineWidth * std::abs(frame.scaleY);
-    if (packed.alpha == 0 || !(width > 0) || !(height > 0)) return;
-    const double reach = std::max({width, height, 1.0}) / 2;
+    const Pen pen = rasterizer_->pen(lineWidth);
+    if (packed.alpha == 0 || !pen.isVisible()) return;
 
-    // The choice must not depend on the target, or its bands would not fit together.
-    if (width == height && width <= maxWidthByDistance) {
-        if (!rasterizer_->flattenVisible(path, reach, SubPathEnds::asGiven)) return;
-        strokeByDistance(rasterizer_->flattened, width, rasterizer_->target, packed);
+    if (pen.drawsByDistance()) {
+        if (!rasterizer_->flattenVisible(path, pen.reach(), SubPathEnds::asGiven)) return;
+        strokeByDistance(rasterizer_->flattened, pen.width, rasterizer_->target, packed);
     } else {
         // A corner of the outline depends on the segments before and behind it.
-        if (!rasterizer_->flattenWhole(path, reach)) return;
+        const DeviceFrame& frame = rasterizer_->state.frame;
+        if (!rasterizer_->flattenWhole(path, pen.reach())) return;
         strokeOutline(rasterizer_->flattened, lineWidth, frame.scaleX, frame.scaleY,
                       rasterizer_->outline);
         fillOutline(rasterizer_->outline, rasterizer_->target, packed);
     }
 }
 
-bool BitmapContext::addCovered(const Path& path, const Color& color, double lineWidth,
-                               CoveredPixels& covered) {
-    const DeviceFrame& frame = rasterizer_->state.frame;
-    const double width = lineWidth * std::abs(frame.scaleX);
-    const double height = lineWidth * std::abs(frame.scaleY);
-    // A pen thinner than a pixel covers none.
-    if (rasterizer_->pack(color).alpha < 255 || width != height || !(width >= 1) ||
-        width > maxWidthByDistance)
-        return true;
-    if (!rasterizer_->flattenVisible(path, width / 2, SubPathEnds::asGiven)) return false;
-    return addCoveredByDistance(rasterizer_->flattened, width, rasterizer_->target.area, covered);
+std::optional<PackedColor> BitmapContext::holdStroke(const Path& path, const Color& color,
+                                                     double lineWidth, HeldCoverage& held) {
+    const PackedColor packed = rasterizer_->pack(color);
+    const Pen pen = rasterizer_->pen(lineWidth);
+    if (pen.isVisible() && !pen.drawsByDistance()) return std::nullopt;
+    if (packed.alpha > 0 && pen.isVisible() &&
+        rasterizer_->flattenVisible(path, pen.reach(), SubPathEnds::asGiven)) {
+        holdByDistance(rasterizer_->flattened, pen.width, rasterizer_->target.area, packed, held);
+    }
+    return packed;
+}
+
+void BitmapContext::blendHeld(std::span<const HeldBlock> blocks, PackedColor color) {
+    marlevo::blendHeld(blocks, rasterizer_->target, color);
 }
 
 void BitmapContext::drawImage(const RasterImage& image, const Rect& rect) {

@@ -1,10 +1,13 @@
 #pragma once
 
-#include "graphics/CoveredPixels.h"
+#include "graphics/Blend.h"
 #include "graphics/GraphicsContext.h"
+#include "graphics/HeldCoverage.h"
 #include "graphics/PixelBuffer.h"
 
 #include <memory>
+#include <optional>
+#include <span>
 
 namespace marlevo {
 
@@ -38,15 +41,19 @@ public:
     void restoreState() override;
     void scale(double x, double y) override;
     void setAlpha(double alpha) override;
+    double alpha() const;
     void fillRect(const Rect& rect, const Color& color) override;
     void fillPath(const Path& path, const Color& color) override;
     void strokePath(const Path& path, const Color& color, double lineWidth) override;
     void drawImage(const RasterImage& image, const Rect& rect) override;
 
-    /// Draws nothing, and adds to `covered` pixels that strokePath() would cover wholly and with an
-    /// opaque colour, as far as that is told easily. False when strokePath() would touch none but
-    /// covered pixels.
-    bool addCovered(const Path& path, const Color& color, double lineWidth, CoveredPixels& covered);
+    /// Draws nothing, but holds what strokePath() would blend into pixels that are not covered yet,
+    /// and gives the colour for blendHeld(). Nothing for a stroke that is not drawn by distances.
+    std::optional<PackedColor> holdStroke(const Path& path, const Color& color, double lineWidth,
+                                          HeldCoverage& held);
+
+    /// Blends what was held of one stroke.
+    void blendHeld(std::span<const HeldBlock> blocks, PackedColor color);
 
 private:
     struct Rasterizer;

@@ -52,12 +52,6 @@ bool CoveredPixels::containsAll(const IntRect& part) const {
     return true;
 }
 
-bool CoveredPixels::isOpen(int left, int top) const {
-    const int strip = (left - left_) / blockWidth;
-    const int block = (top - top_) / blockHeight;
-    return isInside(left, top) && open_[indexOf(strip, block)] != 0;
-}
-
 void CoveredPixels::addBlock(int left, int top, std::uint32_t bits) {
     if (!isInside(left, top)) return;
     const int strip = (left - left_) / blockWidth;

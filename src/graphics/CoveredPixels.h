@@ -3,6 +3,7 @@
 #include "graphics/DistanceField.h"
 #include "graphics/IntRect.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -20,11 +21,32 @@ public:
     bool containsAll(const IntRect& part) const;
     bool containsAll() const { return openPixels_ == 0; }
 
-    /// How many of the area's pixels are not covered.
-    int openPixels() const { return openPixels_; }
+    /// The share of the area's pixels that are not covered.
+    double openShare() const {
+        return double(openPixels_) / std::max(area_.width() * area_.height(), 1);
+    }
 
-    /// Whether a pixel of the block at a device position is not covered.
-    bool isOpen(int left, int top) const;
+    /// Which pixels of the block at a device position are not covered, in the order of addBlock().
+    std::uint32_t openPixelsOf(int left, int top) const {
+        return isInside(left, top) ? open_[indexOf((left - left_) / DistanceField::blockWidth,
+                                                   (top - top_) / DistanceField::blockHeight)]
+                                   : 0U;
+    }
+
+    /// Whether any of `count` blocks below each other, the uppermost at a device position within
+    /// the area, has a pixel that is not covered.
+    bool anyOpen(int left, int top, int count) const {
+        const std::uint64_t* const words =
+            openBlocks_.data() + wordOf((left - left_) / DistanceField::blockWidth, 0);
+        const int first = (top - top_) / DistanceField::blockHeight;
+        const int end = first + count;
+        for (int block = first; block < end; block = (block / 64 + 1) * 64) {
+            const std::uint64_t fromBlock = words[block / 64] >> (block % 64);
+            const int inWord = std::min(end - block, 64 - block % 64);
+            if ((fromBlock & (~std::uint64_t{0} >> (64 - inWord))) != 0) return true;
+        }
+        return false;
+    }
 
     /// Adds those pixels of the block at a device position whose bits are set: the lowest bit
     /// stands for the block's first pixel, row after row. Blocks outside the area are no matter.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 
 namespace marlevo {
 
@@ -14,6 +15,7 @@ struct IntRect {
 
     int width() const { return right - left; }
     int height() const { return bottom - top; }
+    std::int64_t area() const { return isEmpty() ? 0 : std::int64_t{width()} * height(); }
     bool isEmpty() const { return right <= left || bottom <= top; }
 
     IntRect intersectedWith(const IntRect& other) const {

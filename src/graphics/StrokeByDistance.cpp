@@ -2,9 +2,9 @@
 
 #include "graphics/DistanceField.h"
 #include "graphics/RoundPen.h"
-#include "graphics/SegmentInStrip.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -14,293 +14,126 @@
 #include <hwy/foreach_target.h>
 // After foreach_target.h, which says what to compile it for.
 #include "graphics/BlendVector-inl.h"
+#include "graphics/SegmentDistances-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 
-constexpr int blockWidth = DistanceField::blockWidth;
-constexpr int blockHeight = DistanceField::blockHeight;
-using Block = DistanceField::Block;
-
 #if HWY_TARGET != HWY_SCALAR
 
-/// Lowers the distances of consecutive blocks to those from a segment, in the very operations of
-/// SegmentInStrip::squaredDistance.
-HWY_INLINE void lowerDistances(Block* blocks, int count, float firstRow,
-                               const SegmentInStrip& segment) {
-    const hn::CappedTag<float, DistanceField::blockPixels> d;
-    const hn::RebindToSigned<decltype(d)> di;
-    constexpr int lanes = static_cast<int>(hn::MaxLanes(d));
-    constexpr int columns = std::min(lanes, blockWidth);
-    constexpr int rows = lanes / columns;
-    constexpr int pixelsPerStep = rows * blockWidth;
-
-    const auto index = hn::Iota(di, 0);
-    const auto column = hn::ConvertTo(d, hn::And(index, hn::Set(di, columns - 1)));
-    const auto row = hn::ConvertTo(d, hn::ShiftRight<3>(index));
-    const auto cosine = hn::Set(d, segment.cosine);
-    const auto sine = hn::Set(d, segment.sine);
-    const auto halfLength = hn::Set(d, segment.halfLength);
-
-    for (int left = 0; left < blockWidth; left += columns) {
-        const auto x = hn::Add(column, hn::Set(d, static_cast<float>(left)));
-        const auto across = hn::Sub(hn::Set(d, segment.across), hn::Mul(x, sine));
-        const auto along = hn::Add(hn::Set(d, segment.along), hn::Mul(x, cosine));
-        auto y = hn::Add(hn::Set(d, firstRow), row);
-        float* squares = blocks->squares + left;
-        for (int i = 0; i < count * blockHeight; i += rows) {
-            const auto off = hn::Add(across, hn::Mul(y, cosine));
-            const auto from = hn::Abs(hn::Add(along, hn::Mul(y, sine)));
-            const auto past = hn::Max(hn::Sub(from, halfLength), hn::Zero(d));
-            const auto square = hn::Add(hn::Mul(off, off), hn::Mul(past, past));
-            hn::Store(hn::Min(square, hn::Load(d, squares)), d, squares);
-            y = hn::Add(y, hn::Set(d, static_cast<float>(rows)));
-            squares += pixelsPerStep;
-        }
-    }
-}
-
-/// Turns a block's distances into coverages, as RoundPen::coverage does, and makes it far again.
-HWY_INLINE void takeCoverage(Block& block, const RoundPen& pen, std::int32_t* coverage) {
-    const hn::CappedTag<float, DistanceField::blockPixels> d;
-    const hn::RebindToSigned<decltype(d)> di;
-    const auto edge = hn::Set(d, pen.edge);
-    const auto full = hn::Set(d, pen.full);
-    for (std::size_t i = 0; i < std::size(block.squares); i += hn::Lanes(d)) {
-        const auto inside = hn::Sub(edge, hn::Sqrt(hn::Load(d, block.squares + i)));
-        const auto share = hn::Min(hn::Max(inside, hn::Zero(d)), hn::Set(d, 1.0F));
-        const auto rounded = hn::Add(hn::Mul(share, full), hn::Set(d, 0.5F));
-        hn::Store(hn::ConvertTo(di, rounded), di, coverage + i);
-        hn::Store(hn::Set(d, DistanceField::far), d, block.squares + i);
-    }
-}
-
-HWY_INLINE void blendRow(std::uint8_t* pixels, const std::int32_t* coverage, PackedColor packed) {
+HWY_INLINE void blendRow(std::uint8_t* pixels, const std::uint8_t* coverage, PackedColor packed) {
     const hn::CappedTag<std::uint32_t, blockWidth> d32;
-    const hn::RebindToSigned<decltype(d32)> di;
+    const hn::Rebind<std::uint8_t, decltype(d32)> dCoverage;
     const hn::Repartition<std::uint16_t, decltype(d32)> d16;
     const hn::Repartition<std::uint8_t, decltype(d32)> dBytes;
     const auto color = spread(d32, loadPixelOfColor(d32, packed));
     const auto alpha = hn::Set(d16, packed.alpha);
     for (std::size_t i = 0; i < blockWidth; i += hn::Lanes(d32)) {
         const auto below = hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * i));
-        const auto cover = hn::BitCast(d32, hn::Load(di, coverage + i));
+        const auto cover = hn::PromoteTo(d32, hn::LoadU(dCoverage, coverage + i));
         const auto blended = blendPixels(d32, below, cover, color, alpha);
         hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + 4 * i);
     }
 }
 
+/// A bit for each pixel of a block that is covered by at least so much.
+HWY_INLINE std::uint32_t coveredBy(const std::uint8_t* coverage, std::uint8_t least) {
+    const hn::FixedTag<std::uint8_t, DistanceField::blockPixels> d;
+    const auto known = hn::LoadU(d, coverage);
+    const auto isCovered = hn::Eq(hn::Max(known, hn::Set(d, least)), known);
+    std::array<std::uint8_t, DistanceField::blockPixels> bits{};  // a whole vector is written
+    hn::StoreMaskBits(d, isCovered, bits.data());
+    return bits[0] | static_cast<std::uint32_t>(bits[1]) << 8;
+}
+
 #else
 
-void lowerDistances(Block* blocks, int count, float firstRow, const SegmentInStrip& segment) {
-    float row = firstRow;
-    for (int block = 0; block < count; ++block) {
-        float* square = blocks[block].squares;
-        for (int y = 0; y < blockHeight; ++y, ++row) {
-            for (int x = 0; x < blockWidth; ++x, ++square) {
-                *square = std::min(*square, segment.squaredDistance(static_cast<float>(x), row));
-            }
-        }
-    }
+void blendRow(std::uint8_t* pixels, const std::uint8_t* coverage, PackedColor color) {
+    for (int i = 0; i < blockWidth; ++i)
+        blendPixel(pixels + 4 * i, color, coverage[i]);
 }
 
-void takeCoverage(Block& block, const RoundPen& pen, std::int32_t* coverage) {
-    for (float& square : block.squares) {
-        *coverage++ = pen.coverage(square);
-        square = DistanceField::far;
-    }
-}
-
-void blendRow(std::uint8_t* pixels, const std::int32_t* coverage, PackedColor color) {
-    for (int i = 0; i < blockWidth; ++i) {
-        blendPixel(pixels + 4 * i, color, static_cast<std::uint8_t>(coverage[i]));
-    }
+std::uint32_t coveredBy(const std::uint8_t* coverage, std::uint8_t least) {
+    std::uint32_t bits = 0;
+    for (std::size_t i = 0; i < DistanceField::blockPixels; ++i)
+        bits |= (coverage[i] >= least ? 1U : 0U) << i;
+    return bits;
 }
 
 #endif
 
-/// Lowers a field's distances to those of segments.
-class SegmentPainter {
-public:
-    SegmentPainter(DistanceField& field, double reach)
-        : field_(field), reach_(reach), left_(field.left() - reach), top_(field.top() - reach),
-          right_(field.left() + field.stripCount() * blockWidth + reach),
-          bottom_(field.top() + field.blocksPerStrip() * blockHeight + reach) {}
+using BlockCoverage = std::array<std::uint8_t, DistanceField::blockPixels>;
 
-    void add(Point a, Point b) {
-        const double length = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
-        if (length <= maxPieceLength) {
-            addPiece(a, b);
-        } else {
-            addInPieces(a, b, length);
-        }
-    }
-
-private:
-    // Keeps the rounding errors of coordinates relative to a piece below 1/2000 of a pixel.
-    static constexpr double maxPieceLength = 2048;
-
-    // Where the pieces meet depends on the segment only; those out of reach are skipped.
-    void addInPieces(Point a, Point b, double length) {
-        double first = 0;
-        double last = 1;
-        clip(a.x, b.x, left_, right_, first, last);
-        clip(a.y, b.y, top_, bottom_, first, last);
-        if (!(first <= last)) return;
-        const double count = std::ceil(length / maxPieceLength);
-        const auto pointAt = [&](int piece) {
-            const double t = piece / count;
-            return Point{a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};
-        };
-        const auto start = static_cast<int>(std::max(std::floor(first * count) - 1, 0.0));
-        const auto end = static_cast<int>(std::min(std::floor(last * count) + 2, count));
-        for (int piece = start; piece < end; ++piece) {
-            addPiece(pointAt(piece), pointAt(piece + 1));
-        }
-    }
-
-    static void clip(double a, double b, double low, double high, double& first, double& last) {
-        if (a == b) return;
-        const double atLow = (low - a) / (b - a);
-        const double atHigh = (high - a) / (b - a);
-        first = std::max(first, std::min(atLow, atHigh));
-        last = std::min(last, std::max(atLow, atHigh));
-    }
-
-    HWY_INLINE void addPiece(Point a, Point b) {
-        const double minX = std::min(a.x, b.x);
-        const double maxX = std::max(a.x, b.x);
-        const double minY = std::min(a.y, b.y);
-        const double maxY = std::max(a.y, b.y);
-        if (maxX < left_ || minX > right_ || maxY < top_ || minY > bottom_) return;
-
-        const MeasuredSegment measured(a, b);
-        const int firstStrip = std::max(toStrip(minX - reach_), 0);
-        const int lastStrip = std::min(toStrip(maxX + reach_), field_.stripCount() - 1);
-        const double dx = b.x - a.x;
-        const bool isNarrow = std::abs(dx) <= blockWidth;
-        const double slope = isNarrow ? 0 : (b.y - a.y) / dx;
-        for (int strip = firstStrip; strip <= lastStrip; ++strip) {
-            const double x = field_.left() + strip * blockWidth;
-            double fromY = minY;
-            double toY = maxY;
-            if (!isNarrow) {
-                const double right = x + blockWidth;
-                const double y1 = a.y + (std::max(x - reach_, minX) - a.x) * slope;
-                const double y2 = a.y + (std::min(right + reach_, maxX) - a.x) * slope;
-                fromY = std::min(y1, y2);
-                toY = std::max(y1, y2);
-            }
-            const int first = std::max(toBlock(fromY - reach_), 0);
-            const int last = std::min(toBlock(toY + reach_), field_.blocksPerStrip() - 1);
-            if (first > last) continue;
-            field_.markTouched(strip, first, last);
-
-            const double firstRow = field_.top() + first * blockHeight - measured.anchorRow;
-            lowerDistances(field_.strip(strip) + first, last - first + 1,
-                           static_cast<float>(firstRow), SegmentInStrip(measured, x));
-        }
-    }
-
-    int toStrip(double x) const {
-        return static_cast<int>(std::floor((x - field_.left()) / blockWidth));
-    }
-    int toBlock(double y) const {
-        return static_cast<int>(std::floor((y - field_.top()) / blockHeight));
-    }
-
-    DistanceField& field_;
-    double reach_;
-    double left_;
-    double top_;
-    double right_;
-    double bottom_;
-};
-
-void addSegments(DistanceField& field, const FlattenedPath& path, double reach) {
-    SegmentPainter painter(field, reach);
-    for (const FlattenedPath::SubPath& part : path.subPaths) {
-        const std::span<const Point> points = path.pointsOf(part);
-        if (part.closed || points.size() == 1) painter.add(points.back(), points.front());
-        for (std::size_t i = 1; i < points.size(); ++i)
-            painter.add(points[i - 1], points[i]);
-    }
-}
-
-/// Adds the pixels that the field covers wholly, and makes it far again. False when it touches no
-/// block that was not covered already.
-bool addCovered(DistanceField& field, const RoundPen& pen, CoveredPixels& covered) {
-    bool touchesOpen = false;
+/// Calls take(left, top, coverage) for each block that the field touches, and makes it far again.
+template <typename Take>
+HWY_INLINE void takeBlocks(DistanceField& field, const RoundPen& pen, Take take) {
     for (int strip = 0; strip < field.stripCount(); ++strip) {
         const int left = field.left() + strip * blockWidth;
         Block* const blocks = field.strip(strip);
         field.takeTouched(strip, [&](int index) {
-            const int top = field.top() + index * blockHeight;
-            if (!covered.isOpen(left, top)) {
-                std::fill(std::begin(blocks[index].squares), std::end(blocks[index].squares),
-                          DistanceField::far);
-                return;
-            }
-            touchesOpen = true;
-            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
-            takeCoverage(blocks[index], pen, coverage);
-            std::uint32_t bits = 0;
-            for (std::size_t i = 0; i < DistanceField::blockPixels; ++i)
-                bits |= (coverage[i] == 255 ? 1U : 0U) << i;
-            if (bits != 0) covered.addBlock(left, top, bits);
+            BlockCoverage coverage;
+            takeCoverage(blocks[index], pen, coverage.data());
+            take(left, field.top() + index * blockHeight, coverage);
         });
     }
-    return touchesOpen;
+}
+
+/// Calls each(x, y, coverage of that pixel) for those pixels of a block that lie in `area`.
+template <typename Each>
+HWY_INLINE void forEachPixel(int left, int top, const BlockCoverage& coverage, const IntRect& area,
+                             Each each) {
+    const int firstX = std::max(left, area.left);
+    const int endX = std::min(left + blockWidth, area.right);
+    const int endY = std::min(top + blockHeight, area.bottom);
+    for (int y = std::max(top, area.top); y < endY; ++y)
+        for (int x = firstX; x < endX; ++x)
+            each(x, y, coverage[std::size_t(y - top) * blockWidth + std::size_t(x - left)]);
+}
+
+HWY_INLINE void blendBlock(int left, int top, const BlockCoverage& coverage,
+                           const PixelBuffer& target, PackedColor color) {
+    const IntRect& area = target.area;
+    const bool isInside = left >= area.left && left + blockWidth <= area.right && top >= area.top &&
+                          top + blockHeight <= area.bottom;
+    if (isInside) {
+        for (int row = 0; row < blockHeight; ++row)
+            blendRow(target.pixel(left, top + row), coverage.data() + row * blockWidth, color);
+    } else {
+        forEachPixel(left, top, coverage, area, [&](int x, int y, std::uint8_t covered) {
+            blendPixel(target.pixel(x, y), color, covered);
+        });
+    }
 }
 
 /// Raises the mask's coverages to those of the field, and makes the field far again.
 void raiseToField(DistanceField& field, const RoundPen& pen, const CoverageMask& mask) {
-    for (int strip = 0; strip < field.stripCount(); ++strip) {
-        const int x = field.left() + strip * blockWidth;
-        const int left = std::max(x, mask.area.left);
-        const int right = std::min(x + blockWidth, mask.area.right);
-        Block* const blocks = field.strip(strip);
-        field.takeTouched(strip, [&](int index) {
-            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
-            takeCoverage(blocks[index], pen, coverage);
-            for (int row = 0; row < blockHeight; ++row) {
-                const int y = field.top() + index * blockHeight + row;
-                if (y < mask.area.top || y >= mask.area.bottom) continue;
-                const std::int32_t* const ofRow = coverage + std::ptrdiff_t{row} * blockWidth - x;
-                for (int i = left; i < right; ++i) {
-                    std::uint8_t& known = *mask.pixel(i, y);
-                    known = std::max(known, static_cast<std::uint8_t>(ofRow[i]));
-                }
-            }
+    takeBlocks(field, pen, [&](int left, int top, const BlockCoverage& coverage) {
+        forEachPixel(left, top, coverage, mask.area, [&](int x, int y, std::uint8_t covered) {
+            std::uint8_t& known = *mask.pixel(x, y);
+            known = std::max(known, covered);
         });
-    }
+    });
 }
 
 void blendField(DistanceField& field, const RoundPen& pen, const PixelBuffer& target,
                 PackedColor color) {
-    for (int strip = 0; strip < field.stripCount(); ++strip) {
-        const int x = field.left() + strip * blockWidth;
-        const int left = std::max(x, target.area.left);
-        const int right = std::min(x + blockWidth, target.area.right);
-        Block* const blocks = field.strip(strip);
-        field.takeTouched(strip, [&](int index) {
-            HWY_ALIGN std::int32_t coverage[DistanceField::blockPixels];
-            takeCoverage(blocks[index], pen, coverage);
-            for (int row = 0; row < blockHeight; ++row) {
-                const int y = field.top() + index * blockHeight + row;
-                if (y < target.area.top || y >= target.area.bottom) continue;
-                const std::int32_t* const ofRow = coverage + std::ptrdiff_t{row} * blockWidth;
-                if (right - left == blockWidth) {
-                    blendRow(target.pixel(left, y), ofRow, color);
-                } else {
-                    for (int i = left; i < right; ++i) {
-                        blendPixel(target.pixel(i, y), color,
-                                   static_cast<std::uint8_t>(ofRow[i - x]));
-                    }
-                }
-            }
-        });
-    }
+    takeBlocks(field, pen, [&](int left, int top, const BlockCoverage& coverage) {
+        blendBlock(left, top, coverage, target, color);
+    });
+}
+
+/// Holds what the field covers of pixels that are not covered yet, and makes it far again.
+void holdField(DistanceField& field, const RoundPen& pen, HeldCoverage& held, bool isOpaque) {
+    takeBlocks(field, pen, [&](int left, int top, const BlockCoverage& coverage) {
+        if ((held.covered.openPixelsOf(left, top) & coveredBy(coverage.data(), 1)) == 0) return;
+        held.blocks.push_back({left, top, coverage});
+        if (isOpaque) held.covered.addBlock(left, top, coveredBy(coverage.data(), 255));
+    });
+}
+
+void blendBlocks(std::span<const HeldBlock> blocks, const PixelBuffer& target, PackedColor color) {
+    for (const HeldBlock& block : blocks)
+        blendBlock(block.left, block.top, block.coverage, target, color);
 }
 
 }  // namespace marlevo::HWY_NAMESPACE
@@ -310,8 +143,9 @@ HWY_AFTER_NAMESPACE();
 namespace marlevo {
 
 HWY_EXPORT(addSegments);
-HWY_EXPORT(addCovered);
+HWY_EXPORT(blendBlocks);
 HWY_EXPORT(blendField);
+HWY_EXPORT(holdField);
 HWY_EXPORT(raiseToField);
 
 namespace {
@@ -339,9 +173,11 @@ IntRect touchedArea(const FlattenedPath& path, double reach, const IntRect& area
             toPixel(std::ceil(maxY + reach), area.top, area.bottom)};
 }
 
-/// Calls take(field, pen, band) with the distances in each band of `area` that the pen touches.
+/// Calls take(field, pen, band) with the distances in each band of `area` that the pen touches,
+/// which may be left out where all is covered.
 template <typename Take>
-void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& area, Take take) {
+void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                 const CoveredPixels* covered, Take take) {
     if (!(deviceWidth > 0) || area.isEmpty()) return;
     const RoundPen pen(deviceWidth);
     const IntRect touched = touchedArea(path, pen.reach, area);
@@ -353,7 +189,7 @@ void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& a
         const IntRect band{touched.left, top, touched.right,
                            std::min(top + bandHeight, touched.bottom)};
         field.reset(band);
-        HWY_DYNAMIC_DISPATCH(addSegments)(field, path, pen.reach);
+        HWY_DYNAMIC_DISPATCH(addSegments)(field, path, pen.reach, covered);
         take(field, pen, band);
     }
 }
@@ -363,7 +199,7 @@ void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& a
 void strokeByDistance(const FlattenedPath& path, double deviceWidth, const PixelBuffer& target,
                       PackedColor color) {
     if (color.alpha == 0) return;
-    forEachBand(path, deviceWidth, target.area,
+    forEachBand(path, deviceWidth, target.area, nullptr,
                 [&](DistanceField& field, const RoundPen& pen, const IntRect& band) {
                     PixelBuffer pixels = target;
                     pixels.area = band;
@@ -373,21 +209,24 @@ void strokeByDistance(const FlattenedPath& path, double deviceWidth, const Pixel
 }
 
 void coverByDistance(const FlattenedPath& path, double deviceWidth, const CoverageMask& mask) {
-    forEachBand(path, deviceWidth, mask.area,
+    forEachBand(path, deviceWidth, mask.area, nullptr,
                 [&](DistanceField& field, const RoundPen& pen, const IntRect& band) {
                     const CoverageMask part{mask.pixel(band.left, band.top), mask.stride, band};
                     HWY_DYNAMIC_DISPATCH(raiseToField)(field, pen, part);
                 });
 }
 
-bool addCoveredByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
-                          CoveredPixels& covered) {
-    bool touchesOpen = false;
-    forEachBand(path, deviceWidth, area,
+void holdByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                    PackedColor color, HeldCoverage& held) {
+    if (color.alpha == 0) return;
+    forEachBand(path, deviceWidth, area, &held.covered,
                 [&](DistanceField& field, const RoundPen& pen, const IntRect&) {
-                    if (HWY_DYNAMIC_DISPATCH(addCovered)(field, pen, covered)) touchesOpen = true;
+                    HWY_DYNAMIC_DISPATCH(holdField)(field, pen, held, color.alpha == 255);
                 });
-    return touchesOpen;
+}
+
+void blendHeld(std::span<const HeldBlock> blocks, const PixelBuffer& target, PackedColor color) {
+    HWY_DYNAMIC_DISPATCH(blendBlocks)(blocks, target, color);
 }
 
 IntRect areaByDistance(const FlattenedPath& path, double deviceWidth) {

@@ -2,9 +2,11 @@
 
 #include "graphics/Blend.h"
 #include "graphics/CoverageMask.h"
-#include "graphics/CoveredPixels.h"
+#include "graphics/HeldCoverage.h"
 #include "graphics/PixelBuffer.h"
 #include "graphics/Polyline.h"
+
+#include <span>
 
 namespace marlevo {
 
@@ -25,10 +27,14 @@ void strokeByDistance(const FlattenedPath& path, double deviceWidth, const Pixel
 /// Raises the coverages of `mask` to those with which strokeByDistance() would draw the polyline.
 void coverByDistance(const FlattenedPath& path, double deviceWidth, const CoverageMask& mask);
 
-/// Adds the pixels of `area` that strokeByDistance() would cover wholly; false when it would touch
-/// none there that is not covered already.
-bool addCoveredByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
-                          CoveredPixels& covered);
+/// Holds what strokeByDistance() would blend into the pixels of `area` that are not covered yet,
+/// and covers those that it would make opaque.
+void holdByDistance(const FlattenedPath& path, double deviceWidth, const IntRect& area,
+                    PackedColor color, HeldCoverage& held);
+
+/// Blends what was held of one stroke. Pixels that are covered by what was held before it get bytes
+/// that mean nothing until that is blended too.
+void blendHeld(std::span<const HeldBlock> blocks, const PixelBuffer& target, PackedColor color);
 
 /// The pixels that strokeByDistance() may touch.
 IntRect areaByDistance(const FlattenedPath& path, double deviceWidth);

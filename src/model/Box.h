@@ -20,6 +20,10 @@ struct Box {
     /// points.
     static Box paintedBy(const StrokeSummary& strokes);
 
+    bool touches(const Box& other) const {
+        return !(minX > other.maxX || maxX < other.minX || minY > other.maxY || maxY < other.minY);
+    }
+
 private:
     static Box outwards(double minX, double minY, double maxX, double maxY, double margin);
 };

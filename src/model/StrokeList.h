@@ -57,9 +57,9 @@ public:
     /// What all strokes add up to.
     StrokeSummary summary() const;
 
-    /// Calls `visitor(index, stroke)` in order for each stroke that paints something, or has a
-    /// point, within `margin` of the area, and perhaps for one that only nearly does. Stops when
-    /// the visitor answers false; false if it did.
+    /// Calls `visitor(index, stroke, its box)` in order for each stroke that paints something, or
+    /// has a point, within `margin` of the area, and perhaps for one that only nearly does. Stops
+    /// when the visitor answers false; false if it did. Does not itself look into the strokes.
     template <typename Visitor>
     bool visitNear(const Rect& area, double margin, Visitor&& visitor) const {
         const stroke_tree::Search search(area, margin);

@@ -150,7 +150,8 @@ template <typename Visitor>
 bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Search& search,
            Visitor& visitor) {
     for (std::size_t i = 0; i < size; ++i)
-        if (leaf.boxes.touches(i, search.box) != 0 && !visitor(index + i, leaf.slots[i]->stroke))
+        if (leaf.boxes.touches(i, search.box) != 0 &&
+            !visitor(index + i, leaf.slots[i]->stroke, leaf.boxes[i]))
             return false;
     return true;
 }

@@ -78,16 +78,6 @@ void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) {
     context.setAlpha(1);
 }
 
-bool coverByStroke(BitmapContext& context, const Stroke& stroke, double height,
-                   CoveredPixels& covered) {
-    if (stroke.isFill) return true;
-    context.setAlpha(stroke.opacity);
-    const bool isSeen =
-        context.addCovered(pathOfStroke(stroke, height), stroke.color, stroke.lineWidth, covered);
-    context.setAlpha(1);
-    return isSeen;
-}
-
 std::optional<RasterImage> renderLayer(const Layer& layer, CanvasSize canvas, Size size,
                                        const ImageDecoder& decode) {
     const auto raster = RasterSize::truncating(size.width, size.height);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "graphics/BitmapContext.h"
 #include "graphics/GraphicsContext.h"
 #include "model/CanvasSize.h"
 #include "model/Layer.h"
@@ -26,11 +25,6 @@ void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, Canva
 
 /// The stroke must have at least two points; a line runs to the second.
 void drawStroke(GraphicsContext& context, const Stroke& stroke, double height);
-
-/// Adds pixels that drawStroke() covers wholly and opaquely; false when all that it touches was
-/// covered already.
-bool coverByStroke(BitmapContext& context, const Stroke& stroke, double height,
-                   CoveredPixels& covered);
 
 /// The layer on white, stretched from the canvas to `size`, whose sides are truncated to whole
 /// pixels; its visibility does not matter. Nothing when a side is below 1 or memory is short.

@@ -2,6 +2,7 @@
 
 #include "graphics/IntRect.h"
 #include "graphics/Rect.h"
+#include "model/Box.h"
 #include "model/Stroke.h"
 
 #include <algorithm>
@@ -27,6 +28,13 @@ inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {
         return device < farthest ? static_cast<int>(std::max(device, -farthest)) : 1 << 30;
     };
     return {low(bounds.minX()), low(bounds.minY()), high(bounds.maxX()), high(bounds.maxY())};
+}
+
+/// The same for what paints within a box.
+inline IntRect paintedArea(const Box& box, double scale) {
+    const double left = box.minX;
+    const double top = box.minY;
+    return paintedArea({{left, top}, {box.maxX - left, box.maxY - top}}, 0, scale);
 }
 
 inline IntRect paintedArea(const Stroke& stroke, double scale) {

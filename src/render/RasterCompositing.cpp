@@ -4,7 +4,7 @@
 #include "render/LayerPainting.h"
 #include "render/LayerRun.h"
 #include "render/MakeRaster.h"
-#include "render/VisibleStrokes.h"
+#include "render/StrokesInSight.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -42,17 +42,14 @@ std::optional<RasterImage> DrawingDocument::renderCGImage() const {
         const auto decode = [this](const Bytes& file) { return decodedImages_.image(file); };
         const std::vector<IntRect> bands = bandsOf(picture.area);
         forEachRun(layers, decode, [&](const LayerRun& run) {
-            auto strokes = strokesInSight(run, bands, 1);
+            const StrokesInSight strokes(run, picture.area, 1);
             parallelFor(bands.size(), [&](std::size_t i) {
                 BitmapContext context(picture.part(bands[i]), DeviceFrame::yUp(height));
                 drawLayerImageIfPresent(context, *run.layers.front(), canvas, height,
                                         [&](const Bytes&) { return run.image; });
-                const auto cover = [&](const Stroke& stroke, CoveredPixels& covered) {
-                    return coverByStroke(context, stroke, height, covered);
-                };
-                for (const StrokeInSight& seen :
-                     withoutHidden(std::move(strokes[i]), bands[i], cover))
-                    drawStroke(context, *seen.stroke, height);
+                strokes.draw(bands[i], context, [&](GraphicsContext& to, const Stroke& stroke) {
+                    if (stroke.points.size() >= 2) drawStroke(to, stroke, height);
+                });
             });
         });
     });

@@ -8,11 +8,13 @@
 #include "render/LayerRun.h"
 #include "render/PaintedArea.h"
 #include "render/PictureDifference.h"
-#include "render/VisibleStrokes.h"
+#include "render/StrokesInSight.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
+#include <thread>
 #include <utility>
 
 namespace marlevo {
@@ -37,27 +39,66 @@ Rect onCanvas(const IntRect& area, double scale) {
     return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
 }
 
-/// Areas of fewer pixels are painted faster than another thread wakes up.
-constexpr int leastPixelsToShare = 1 << 14;
+/// What is left of a rectangle when `end`, which has three of its edges, is cut off.
+IntRect without(const IntRect& end, const IntRect& all) {
+    if (end.bottom < all.bottom) return {all.left, end.bottom, all.right, all.bottom};
+    if (end.top > all.top) return {all.left, all.top, all.right, end.top};
+    if (end.right < all.right) return {end.right, all.top, all.right, all.bottom};
+    return {all.left, all.top, end.left, all.bottom};
+}
 
-/// Takes few areas apart so that each core gets some of them; not many, since strokes that lie in
-/// two pieces are prepared twice.
-std::vector<PixelBuffer> cutForAllCores(const std::vector<PixelBuffer>& areas) {
-    constexpr int enough = 4;
-    constexpr int leastRows = 32;
-    int pixels = 0;
-    for (const PixelBuffer& part : areas)
-        pixels += part.area.width() * part.area.height();
-    if (std::ssize(areas) >= enough || pixels < leastPixelsToShare) return areas;
-    std::vector<PixelBuffer> pieces;
-    const int pixelsOfPiece = pixels / 2;
-    for (const PixelBuffer& part : areas) {
-        const int rows = std::max(pixelsOfPiece / part.area.width(), leastRows);
-        for (IntRect piece = part.area; piece.top < part.area.bottom; piece.top = piece.bottom) {
-            piece.bottom = std::min(piece.top + rows, part.area.bottom);
-            pieces.push_back(part.part(piece));
-        }
+/// Takes from `stale` what lies in `asked`, a margin around it, and as much more as it takes to
+/// leave a rectangle.
+IntRect takeAround(const IntRect& asked, IntRect& stale) {
+    constexpr int margin = 64;
+    IntRect rows = stale;
+    if (asked.bottom + margin < stale.bottom) {
+        rows.bottom = asked.bottom + margin;
+    } else {
+        rows.top = std::max(stale.top, asked.top - margin);
     }
+    IntRect columns = stale;
+    if (asked.right + margin < stale.right) {
+        columns.right = asked.right + margin;
+    } else {
+        columns.left = std::max(stale.left, asked.left - margin);
+    }
+    const IntRect taken = rows.area() < columns.area() ? rows : columns;
+    stale = without(taken, stale);
+    return taken;
+}
+
+/// Less is painted faster than another thread wakes up.
+constexpr int leastPixelsToShare = 1 << 14;
+constexpr std::size_t leastStrokesToShare = 64;
+
+/// Cuts an area across its longer side into at most `count` pieces that are not too slim.
+void cut(const PixelBuffer& part, int count, std::vector<PixelBuffer>& pieces) {
+    constexpr int slimmest = 16;
+    const IntRect& area = part.area;
+    const bool isWide = area.width() > area.height();
+    const int length = isWide ? area.width() : area.height();
+    const int step = std::max((length + count - 1) / count, slimmest);
+    for (int at = 0; at < length; at += step) {
+        const int end = std::min(at + step, length);
+        pieces.push_back(
+            part.part(isWide ? IntRect{area.left + at, area.top, area.left + end, area.bottom}
+                             : IntRect{area.left, area.top + at, area.right, area.top + end}));
+    }
+}
+
+/// Takes large areas apart so that each core gets its share; not further, since strokes that lie in
+/// two pieces are prepared twice.
+std::vector<PixelBuffer> cutForAllCores(const std::vector<PixelBuffer>& areas,
+                                        std::size_t strokes) {
+    const auto cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+    std::int64_t pixels = 0;
+    for (const PixelBuffer& part : areas)
+        pixels += part.area.area();
+    if (pixels < leastPixelsToShare && strokes < leastStrokesToShare) return areas;
+    std::vector<PixelBuffer> pieces;
+    for (const PixelBuffer& part : areas)
+        cut(part, static_cast<int>(1 + part.area.area() * cores / (pixels + 1)), pieces);
     return pieces;
 }
 
@@ -70,9 +111,19 @@ ScreenPicture::Contents ScreenPicture::Contents::of(const DrawingDocument& docum
             document.canvasSize, scale, document.showGrid};
 }
 
-bool ScreenPicture::Contents::isSameView(const Contents& other) const {
+/// What lies below the layers, and where it ends.
+bool ScreenPicture::Contents::hasSameGround(const Contents& other) const {
     return background == other.background && canvasSize == other.canvasSize &&
-           scale == other.scale && hasGrid == other.hasGrid;
+           hasGrid == other.hasGrid;
+}
+
+IntRect ScreenPicture::Contents::canvasPixels() const {
+    // Where an edge lies within a pixel, all of that pixel may be painted.
+    constexpr double farthest = 1 << 30;
+    const auto edge = [farthest](double device) {
+        return static_cast<int>(std::ceil(std::min(std::max(device, 0.0), farthest)));
+    };
+    return {0, 0, edge(canvasSize.width * scale), edge(canvasSize.height * scale)};
 }
 
 void ScreenPicture::setGridColor(const Color& color) {
@@ -97,33 +148,65 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
                           const PixelBuffer& target) {
     follow(document, scale);
     if (!canBeShown(scale) || target.area.isEmpty()) return;
-    renderStaleTiles(document, target.area);
-    tiles_.forEachKnownTile(target.area, [&](Tile& tile) {
-        copyPixels(tile.pixels(), target, tile.area.intersectedWith(target.area));
+    const IntRect seen = target.area.intersectedWith(contents_.canvasPixels());
+    if (seen != target.area) clearPixels(target);
+    if (seen.isEmpty()) return;
+    renderStaleTiles(document, seen);
+    tiles_.forEachKnownTile(seen, [&](Tile& tile) {
+        copyPixels(tile.pixels(), target, tile.area.intersectedWith(seen));
     });
-    strokeInProgress_.paint(target);
+    strokeInProgress_.paint(target.part(seen));
+}
+
+std::size_t ScreenPicture::cachedBytes() const {
+    std::size_t tiles = tiles_.size();
+    for (const OtherScale& other : otherScales_)
+        tiles += other.tiles.size();
+    return tiles * tileBytes;
+}
+
+void ScreenPicture::limitMemory(const IntRect& inSight) {
+    while (cachedBytes() > maxCachedBytes && !otherScales_.empty())
+        otherScales_.erase(otherScales_.begin());
+    if (cachedBytes() > maxCachedBytes) tiles_.dropTilesOutside(inSight);
 }
 
 void ScreenPicture::releaseMemory() {
     tiles_.clear();
+    otherScales_.clear();
     isAllChanged_ = true;
 }
 
 void ScreenPicture::follow(const DrawingDocument& document, double scale) {
     Contents next = Contents::of(document, scale);
     const std::optional<Stroke>& inProgress = document.currentStroke;
-    if (!next.isSameView(contents_) || !canBeShown(scale)) {
+    if (!next.hasSameGround(contents_) || !canBeShown(scale) || !canBeShown(contents_.scale)) {
         releaseMemory();
         strokeInProgress_.update(inProgress, scale);
     } else {
         showDifference(next.layers, document);
+        if (scale != contents_.scale) {
+            changeScale(scale);
+            strokeInProgress_.update(inProgress, scale);
+        }
     }
     document.decodedImages().keepOnly(next.layers);
     contents_ = std::move(next);
 }
 
+void ScreenPicture::changeScale(double scale) {
+    otherScales_.push_back({contents_.scale, std::exchange(tiles_, {})});
+    const auto known = std::ranges::find(otherScales_, scale, &OtherScale::scale);
+    if (known != otherScales_.end()) {
+        tiles_ = std::move(known->tiles);
+        otherScales_.erase(known);
+    }
+    isAllChanged_ = true;
+}
+
 void ScreenPicture::showDifference(const LayerList& after, const DrawingDocument& document) {
     const auto difference = PictureDifference::between(contents_.layers, after, contents_.scale);
+    if (!difference.isEmpty()) otherScales_.clear();
     const std::optional<Stroke>& inProgress = document.currentStroke;
     // A stroke that has just joined its layer goes on looking as it did.
     const bool isJoining = !inProgress && difference.damage.empty() &&
@@ -166,24 +249,24 @@ void ScreenPicture::paintOver(const IntRect& area, Paint paint) {
 
 void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntRect& area) {
     std::vector<PixelBuffer> stale;
+    IntRect whole;
     tiles_.forEachTile(area, [&](Tile& tile) {
-        if (!tile.stale.isEmpty()) stale.push_back(tile.pixels().part(tile.stale));
-        tile.stale = {};
+        if (tile.stale.intersectedWith(area).isEmpty()) return;
+        tile.stale = tile.stale.intersectedWith(contents_.canvasPixels());
+        const IntRect part = takeAround(area, tile.stale);
+        stale.push_back(tile.pixels().part(part));
+        whole = whole.unitedWith(part);
     });
     if (stale.empty()) return;
 
-    const std::vector<PixelBuffer> parts = cutForAllCores(stale);
-    std::vector<IntRect> areas;
-    areas.reserve(parts.size());
-    for (const PixelBuffer& part : parts)
-        areas.push_back(part.area);
-    parallelFor(parts.size(), [&](std::size_t i) { renderBackground(parts[i]); });
+    parallelFor(stale.size(), [&](std::size_t i) { renderBackground(stale[i]); });
     const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
     forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
-        auto strokes = strokesInSight(run, areas, contents_.scale);
+        const StrokesInSight strokes(run, whole, contents_.scale);
+        const auto parts = cutForAllCores(stale, strokes.count());
         parallelFor(parts.size(), [&](std::size_t i) {
             if (run.image) renderImage(run, parts[i]);
-            renderStrokes(std::move(strokes[i]), parts[i]);
+            renderStrokes(strokes, parts[i]);
         });
     });
 }
@@ -204,14 +287,9 @@ void ScreenPicture::renderImage(const LayerRun& run, const PixelBuffer& part) co
     context.drawImage(*run.image, contents_.canvasRect());
 }
 
-void ScreenPicture::renderStrokes(std::vector<StrokeInSight> strokes,
-                                  const PixelBuffer& part) const {
+void ScreenPicture::renderStrokes(const StrokesInSight& strokes, const PixelBuffer& part) const {
     BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-    const auto cover = [&](const Stroke& stroke, CoveredPixels& covered) {
-        return coverOnScreen(context, stroke, covered);
-    };
-    for (const StrokeInSight& seen : withoutHidden(std::move(strokes), part.area, cover))
-        drawOnScreen(context, *seen.stroke);
+    strokes.draw(part.area, context, drawOnScreen);
 }
 
 }  // namespace marlevo

@@ -15,14 +15,15 @@
 namespace marlevo {
 
 struct LayerRun;
-struct StrokeInSight;
+class StrokesInSight;
 
 /// The document's picture as its window shows it: background, grid, layers and the stroke in
 /// progress, at device resolution.
 ///
-/// The finished picture is kept as tiles for one scale, a pure function of the document's values;
-/// a change repaints only what differs. Areas and pixels lie on a device plane whose origin is the
-/// canvas's top left corner. Used on the user-interface thread.
+/// The finished picture is kept as tiles, a pure function of the document's values; a change
+/// repaints only what differs. While only the scale changes, the tiles of other scales are kept
+/// too, so that going back to one costs nothing. Areas and pixels lie on a device plane whose
+/// origin is the canvas's top left corner. Used on the user-interface thread.
 class ScreenPicture {
 public:
     /// What all tiles together may take beyond those in sight.
@@ -37,20 +38,20 @@ public:
     std::optional<std::vector<IntRect>> takeChanges(const DrawingDocument& document, double scale);
 
     /// Paints the pixels of `target`, which are in the order of the screen's; what they held before
-    /// is replaced. Follows the document too, and keeps what that changes to be taken later. A
-    /// scale that is not a positive number paints nothing.
+    /// is replaced, and nothing is seen beyond the canvas. Follows the document too, and keeps what
+    /// that changes to be taken later. A scale that is not a positive number paints nothing.
     void paint(const DrawingDocument& document, double scale, const PixelBuffer& target);
 
-    /// Memory of the tiles; to be kept below maxCachedBytes by dropping those out of sight. What
-    /// was painted of a dropped tile must be painted again before it is shown.
-    std::size_t cachedBytes() const { return tiles_.size() * tileBytes; }
-    void dropTilesOutside(const IntRect& inSight) { tiles_.dropTilesOutside(inSight); }
+    /// Where the tiles take more than maxCachedBytes, drops some: those of other scales, then those
+    /// out of sight. What was painted of a dropped tile must be painted again before it is shown.
+    void limitMemory(const IntRect& inSight);
+    std::size_t cachedBytes() const;
 
     /// Drops all tiles; everything counts as changed.
     void releaseMemory();
 
 private:
-    /// The values that the finished picture is made of.
+    /// What the finished picture is made of.
     struct Contents {
         LayerList layers;
         Color background;
@@ -59,7 +60,8 @@ private:
         bool hasGrid = false;
 
         static Contents of(const DrawingDocument& document, double scale);
-        bool isSameView(const Contents& other) const;
+        bool hasSameGround(const Contents& other) const;
+        IntRect canvasPixels() const;
         Rect canvasRect() const { return {{0, 0}, {canvasSize.width, canvasSize.height}}; }
     };
 
@@ -78,10 +80,18 @@ private:
         std::unique_ptr<std::uint8_t[]> bytes;
     };
 
-    static constexpr int tileSide = 256;
+    static constexpr int tileSide = 512;
     static constexpr std::size_t tileBytes = std::size_t{tileSide} * tileSide * 4;
 
+    using Tiles = TileMap<Tile, tileSide>;
+
+    struct OtherScale {
+        double scale;
+        Tiles tiles;
+    };
+
     void follow(const DrawingDocument& document, double scale);
+    void changeScale(double scale);
     void showDifference(const LayerList& after, const DrawingDocument& document);
     void markStale(const IntRect& area);
     void markChanged(const IntRect& area);
@@ -90,11 +100,12 @@ private:
     void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
     void renderBackground(const PixelBuffer& part) const;
     void renderImage(const LayerRun& run, const PixelBuffer& part) const;
-    void renderStrokes(std::vector<StrokeInSight> strokes, const PixelBuffer& part) const;
+    void renderStrokes(const StrokesInSight& strokes, const PixelBuffer& part) const;
 
     Color gridColor_{0.5, 0.5, 0.5, 0.2};
     Contents contents_;
-    TileMap<Tile, tileSide> tiles_;
+    Tiles tiles_;
+    std::vector<OtherScale> otherScales_;  ///< of the same contents; left longest ago comes first
     StrokeInProgress strokeInProgress_;
     bool isAllChanged_ = true;
 };

@@ -165,8 +165,8 @@ void CanvasView::limitMemory(QPainter& painter) {
     if (picture_.cachedBytes() <= ScreenPicture::maxCachedBytes) return;
     const QRect inSight =
         DevicePixels(painter, QPointF(0, 0)).touchedBy(visibleRegion().boundingRect());
-    picture_.dropTilesOutside({inSight.left(), inSight.top(), inSight.left() + inSight.width(),
-                               inSight.top() + inSight.height()});
+    picture_.limitMemory({inSight.left(), inSight.top(), inSight.left() + inSight.width(),
+                          inSight.top() + inSight.height()});
 }
 
 void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {

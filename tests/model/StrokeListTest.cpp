@@ -241,7 +241,7 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrder) {
                 expected.push_back(at);
         }
         std::vector<std::size_t> found;
-        twin.list.visitNear(area, 0, [&](std::size_t at, const Stroke& stroke) {
+        twin.list.visitNear(area, 0, [&](std::size_t at, const Stroke& stroke, const Box&) {
             EXPECT_EQ(stroke.color, twin.plain[at].color);
             found.push_back(at);
             return true;
@@ -265,7 +265,7 @@ TEST(StrokeList, VisitMissesNothingByRounding) {
         list.append(stroke);
     }
     for (std::size_t wanted = 0; wanted < places.size(); ++wanted)
-        EXPECT_FALSE(list.visitNear({places[wanted], {}}, 0, [&](std::size_t at, const Stroke&) {
+        EXPECT_FALSE(list.visitNear({places[wanted], {}}, 0, [&](std::size_t at, const Stroke&, const Box&) {
             return at != wanted;
         })) << wanted;
 }
@@ -280,7 +280,7 @@ TEST(StrokeList, VisitStopsWhenTold) {
         list.append(stroke);
     }
     std::vector<std::size_t> found;
-    const auto visitor = [&](std::size_t index, const Stroke&) {
+    const auto visitor = [&](std::size_t index, const Stroke&, const Box&) {
         found.push_back(index);
         return found.size() % 2 != 0;
     };

@@ -1,4 +1,4 @@
-#include "render/VisibleStrokes.h"
+#include "render/StrokesInSight.h"
 
 #include "render/DrawOnScreen.h"
 #include "tests/support/Strokes.h"
@@ -42,23 +42,14 @@ Layer scribbles(int count, int oddOnes, unsigned seed) {
     return layer;
 }
 
-std::vector<std::uint8_t> drawn(const std::vector<const Stroke*>& strokes, double scale) {
-    std::vector<std::uint8_t> bytes(std::size_t{260} * 200 * 4, 0xD0);
-    BitmapContext context({bytes.data(), 260 * 4, wholeArea, PixelOrder::bgra},
-                          DeviceFrame::yDown(scale));
-    for (const Stroke* stroke : strokes)
-        drawOnScreen(context, *stroke);
-    return bytes;
-}
+/// A picture of the whole area, of which parts may be drawn.
+struct Picture {
+    std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(std::size_t{260} * 200 * 4, 0xD0);
 
-std::vector<const Stroke*> pointers(const std::vector<StrokeInSight>& strokes) {
-    std::vector<const Stroke*> result;
-    for (const StrokeInSight& each : strokes)
-        result.push_back(each.stroke);
-    return result;
-}
+    PixelBuffer pixels() { return {bytes.data(), 260 * 4, wholeArea, PixelOrder::bgra}; }
+};
 
-TEST(VisibleStrokes, WithoutTheHiddenOnesThePictureIsTheSame) {
+TEST(StrokesInSight, GiveThePictureOfAllStrokesAndSpareTheHiddenOnes) {
     struct Case {
         int count;
         int oddOnes;
@@ -67,26 +58,35 @@ TEST(VisibleStrokes, WithoutTheHiddenOnesThePictureIsTheSame) {
     };
     const std::array cases{Case{9000, 1000, 1, true},   Case{9000, 30, 1, false},
                            Case{14000, 200, 0.7, true}, Case{600, 50, 1, false},
-                           Case{9000, 50, 0.1, false},  Case{2000, 1, 1, false}};
+                           Case{9000, 50, 0.1, false},  Case{2000, 1, 1, false},
+                           Case{60, 3, 1, false},       Case{100, 3, 1, false},
+                           Case{400, 100, 2.5, false},  Case{12000, 2, 1, false}};
+    const std::array<std::vector<IntRect>, 2> cuts{
+        {{wholeArea}, {{0, 0, 131, 77}, {131, 0, 260, 77}, {0, 77, 260, 200}}}};
     for (unsigned i = 0; i < cases.size(); ++i) {
         const Case& each = cases[i];
         const Layer layer = scribbles(each.count, each.oddOnes, i);
-        std::vector<const Stroke*> all;
+        Picture expected;
+        BitmapContext plain(expected.pixels(), DeviceFrame::yDown(each.scale));
         for (const Stroke& stroke : layer.strokes)
-            all.push_back(&stroke);
+            drawOnScreen(plain, stroke);
 
-        std::vector<std::uint8_t> scratch(std::size_t{260} * 200 * 4);
-        BitmapContext context({scratch.data(), 260 * 4, wholeArea, PixelOrder::bgra},
-                              DeviceFrame::yDown(each.scale));
-        const std::array areas{wholeArea};
-        const auto inSight = strokesInSight({{&layer}, {}}, areas, each.scale);
-        const auto visible =
-            withoutHidden(inSight[0], wholeArea, [&](const Stroke& stroke, CoveredPixels& covered) {
-                return coverOnScreen(context, stroke, covered);
-            });
-        EXPECT_EQ(drawn(pointers(visible), each.scale), drawn(all, each.scale)) << "case " << i;
-        if (each.hidesMost) {
-            EXPECT_LT(visible.size() * 2, all.size()) << "case " << i;
+        const StrokesInSight strokes({{&layer}, {}}, wholeArea, each.scale);
+        for (const std::vector<IntRect>& parts : cuts) {
+            Picture picture;
+            std::size_t drawn = 0;
+            for (const IntRect& part : parts) {
+                BitmapContext context(picture.pixels().part(part), DeviceFrame::yDown(each.scale));
+                strokes.draw(part, context, [&](GraphicsContext& to, const Stroke& stroke) {
+                    ++drawn;
+                    drawOnScreen(to, stroke);
+                });
+            }
+            EXPECT_TRUE(picture.bytes == expected.bytes)
+                << "case " << i << " in " << parts.size() << " parts";
+            if (each.hidesMost) {
+                EXPECT_LT(drawn, parts.size() * layer.strokes.size() / 3) << "case " << i;
+            }
         }
     }
 }
@@ -96,17 +96,21 @@ TEST(CoveredPixels, KnowsWhatIsLeftOpen) {
     CoveredPixels covered(area);
     EXPECT_FALSE(covered.containsAll({-5, 3, -4, 4}));
     EXPECT_TRUE(covered.containsAll({-9, 3, -5, 10}));  // outside
-    EXPECT_EQ(covered.openPixels(), 25 * 7);
+    EXPECT_EQ(covered.openShare(), 1);
     for (int y = 2; y < 10; y += 2) {
         for (int x = -8; x < 20; x += 8)
             covered.addBlock(x, y, x == 8 && y == 4 ? 0xFFFE : 0xFFFF);
     }
     EXPECT_FALSE(covered.containsAll());
-    EXPECT_EQ(covered.openPixels(), 1);
+    EXPECT_EQ(covered.openShare(), 1.0 / (25 * 7));
     EXPECT_TRUE(covered.containsAll({-5, 3, 8, 10}));
     EXPECT_FALSE(covered.containsAll({-5, 3, 9, 10}));
-    EXPECT_TRUE(covered.isOpen(8, 4));
-    EXPECT_FALSE(covered.isOpen(0, 4));
+    EXPECT_EQ(covered.openPixelsOf(8, 4), 1U);
+    EXPECT_EQ(covered.openPixelsOf(0, 4), 0U);
+    EXPECT_EQ(covered.openPixelsOf(800, 400), 0U);
+    EXPECT_TRUE(covered.anyOpen(8, 2, 4));
+    EXPECT_FALSE(covered.anyOpen(8, 6, 2));
+    EXPECT_FALSE(covered.anyOpen(0, 2, 4));
     covered.addBlock(8, 4, 1);
     EXPECT_TRUE(covered.containsAll());
     covered.addBlock(800, 400, 0xFFFF);  // no matter

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "graphics/CoveredPixels.h"
+#include "graphics/DistanceField.h"
+#include "graphics/IntRect.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace marlevo {
+
+/// What one stroke covers of one block of pixels, which lies like those of a DistanceField.
+struct HeldBlock {
+    int left = 0;  ///< the block's first pixel on the device plane
+    int top = 0;
+    std::array<std::uint8_t, DistanceField::blockPixels> coverage{};  ///< row after row
+};
+
+/// Coverages of strokes that come from the topmost down, kept to be blended from the lowest up.
+/// Where one is opaque, nothing of those below is kept.
+struct HeldCoverage {
+    explicit HeldCoverage(const IntRect& area) : covered(area) {}
+
+    CoveredPixels covered;  ///< opaquely, by strokes that were held
+    std::vector<HeldBlock> blocks;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "graphics/BitmapContext.h"
+#include "graphics/HeldCoverage.h"
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+namespace marlevo {
+
+/// Draws from the top down: each operation comes to lie below those before it.
+///
+/// Keeps what they cover until finish(), and nothing of what is hidden: where opaque strokes lie in
+/// many layers over each other, the lower ones cost little. The pixels get the bytes that the
+/// operations give in reverse order on the other context.
+class ReverseContext final : public GraphicsContext {
+public:
+    /// Draws on the pixels `area` of what `target` draws on and in its frame, which must stay as it
+    /// is until finish().
+    ReverseContext(BitmapContext& target, const IntRect& area) : target_(target), held_(area) {}
+
+    /// Whether nothing that comes now can be seen in this part of the area, as far as it is known.
+    bool hides(const IntRect& part) const { return held_.covered.containsAll(part); }
+    bool hidesAll() const { return held_.covered.containsAll(); }
+
+    /// The share of the area's pixels where something that comes now may be seen.
+    double openShare() const { return held_.covered.openShare(); }
+
+    /// Whether it holds so much that finish() should come now.
+    bool isFull() const { return held_.blocks.size() >= maxHeldBlocks; }
+
+    /// Blends all that was drawn over the pixels, on which what lies below must be drawn by now.
+    void finish();
+
+    void saveState() override { target_.saveState(); }
+    void restoreState() override { target_.restoreState(); }
+    void scale(double x, double y) override { target_.scale(x, y); }
+    void setAlpha(double alpha) override { target_.setAlpha(alpha); }
+    void fillRect(const Rect& rect, const Color& color) override;
+    void fillPath(const Path& path, const Color& color) override;
+    void strokePath(const Path& path, const Color& color, double lineWidth) override;
+    void drawImage(const RasterImage& image, const Rect& rect) override;
+
+private:
+    static constexpr std::size_t maxHeldBlocks = std::size_t{1} << 18;
+
+    struct Operation {
+        PackedColor color;
+        std::size_t blocks = 0;        ///< how many of the held ones are of this operation
+        std::function<void()> draw{};  ///< what is drawn as a whole when its turn comes
+    };
+
+    template <typename Draw>
+    void hold(Draw draw);
+
+    BitmapContext& target_;
+    HeldCoverage held_;
+    std::vector<Operation> operations_;
+};
+
+}  // namespace marlevo

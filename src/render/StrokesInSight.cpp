@@ -1,0 +1,60 @@
+#include "render/StrokesInSight.h"
+
+#include "graphics/ReverseContext.h"
+#include "render/PaintedArea.h"
+
+#include <cstddef>
+
+namespace marlevo {
+
+namespace {
+
+/// Fewer strokes are drawn faster as they come.
+constexpr std::size_t leastInReverse = 64;
+
+/// A sample of so many of the topmost strokes tells whether all lie in several layers over each
+/// other; where they do not, holding them costs more than it spares.
+constexpr std::size_t partOfSample = 16;
+constexpr double mostOpenAfterSample = 0.7;
+
+Rect onCanvas(const IntRect& area, double scale) {
+    return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
+}
+
+}  // namespace
+
+StrokesInSight::StrokesInSight(const LayerRun& run, const IntRect& area, double scale)
+    : scale_(scale) {
+    for (const Layer* layer : run.layers) {
+        layer->strokes.visitNear(onCanvas(area, scale), penFringe / scale,
+                                 [&](std::size_t, const Stroke& stroke, const Box& box) {
+                                     found_.push_back({&stroke, box});
+                                     return true;
+                                 });
+    }
+}
+
+void StrokesInSight::draw(const IntRect& part, BitmapContext& context,
+                          const DrawStroke& drawStroke) const {
+    const Box near = Box::around(onCanvas(part, scale_), penFringe / scale_);
+    std::vector<const Found*> strokes;
+    for (const Found& each : found_)
+        if (each.box.touches(near)) strokes.push_back(&each);
+
+    ReverseContext fromTop(context, part);
+    std::size_t below = strokes.size();
+    if (strokes.size() >= leastInReverse) {
+        const std::size_t sampled = strokes.size() - strokes.size() / partOfSample;
+        while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
+            if (below == sampled && fromTop.openShare() > mostOpenAfterSample) break;
+            const Found& next = *strokes[--below];
+            if (!fromTop.hides(paintedArea(next.box, scale_))) drawStroke(fromTop, *next.stroke);
+        }
+    }
+    if (!fromTop.hidesAll())
+        for (std::size_t i = 0; i < below; ++i)
+            drawStroke(context, *strokes[i]->stroke);
+    fromTop.finish();
+}
+
+}  // namespace marlevo
