@@ -40,8 +40,8 @@ struct Node : RefCounted {
 /// looks at several strokes at a time and touches none but those it finds.
 struct LeafBoxes {
     std::array<float, fanOut> minX{};
-    std::array<float, fanOut> minY{};
     std::array<float, fanOut> maxX{};
+    std::array<float, fanOut> minY{};
     std::array<float, fanOut> maxY{};
 
     LeafBoxes() {
@@ -56,22 +56,36 @@ struct LeafBoxes {
         maxY[at] = box.maxY;
     }
 
+    /// Asks for the memory ahead of a search, which goes through leaves faster than they arrive.
+    void prefetch() const {
+        constexpr std::size_t cacheLine = 64;
+        const auto* const bytes = reinterpret_cast<const std::byte*>(this);
+        for (std::size_t at = 0; at < sizeof minX + sizeof maxX; at += cacheLine)
+            __builtin_prefetch(bytes + at);
+    }
+
     Box operator[](std::size_t at) const { return {minX[at], minY[at], maxX[at], maxY[at]}; }
 
-    /// Said in the negative, so that an area which is not a number is touched; in whole numbers and
-    /// without branches, for the compiler to look at four strokes at once.
-    std::int32_t touches(std::size_t at, const Box& area) const {
-        const std::int32_t isBeside =
-            (minX[at] > area.maxX ? 1 : 0) | (maxX[at] < area.minX ? 1 : 0);
-        const std::int32_t isAboveOrBelow =
-            (minY[at] > area.maxY ? 1 : 0) | (maxY[at] < area.minY ? 1 : 0);
-        return 1 - (isBeside | isAboveOrBelow);
+    bool touches(std::size_t at, const Box& area) const {
+        return (isBeside(at, area) | isAboveOrBelow(at, area)) == 0;
     }
-    bool anyTouches(const Box& area) const {
+
+    /// May be true for none. Most searches are for little, and this looks at half of the memory.
+    bool mayTouch(const Box& area) const {
         std::int32_t any = 0;
         for (std::size_t i = 0; i < fanOut; ++i)
-            any |= touches(i, area);
+            any |= 1 - isBeside(i, area);
         return any != 0;
+    }
+
+private:
+    // Said in the negative, so that an area which is not a number is touched; in whole numbers and
+    // without branches, for the compiler to look at four strokes at once.
+    std::int32_t isBeside(std::size_t at, const Box& area) const {
+        return (minX[at] > area.maxX ? 1 : 0) | (maxX[at] < area.minX ? 1 : 0);
+    }
+    std::int32_t isAboveOrBelow(std::size_t at, const Box& area) const {
+        return (minY[at] > area.maxY ? 1 : 0) | (maxY[at] < area.minY ? 1 : 0);
     }
 };
 
@@ -150,24 +164,30 @@ template <typename Visitor>
 bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Search& search,
            Visitor& visitor) {
     for (std::size_t i = 0; i < size; ++i)
-        if (leaf.boxes.touches(i, search.box) != 0 &&
+        if (leaf.boxes.touches(i, search.box) &&
             !visitor(index + i, leaf.slots[i]->stroke, leaf.boxes[i]))
             return false;
     return true;
 }
+
+/// How many leaves a search asks the memory for before it gets there; measured.
+inline constexpr std::size_t leavesAhead = 4;
 
 /// The same for all strokes below a node; whole subtrees are left out by their summary.
 template <typename Visitor>
 bool visit(const Node& node, std::size_t index, const Search& search, Visitor& visitor) {
     if (node.isLeaf()) {
         const Leaf& leaf = asLeaf(node);
-        return !leaf.boxes.anyTouches(search.box) ||
+        return !leaf.boxes.mayTouch(search.box) ||
                visit(leaf, leaf.summary.count, index, search, visitor);
     }
     if (!search.reaches(node.summary)) return true;
-    for (const Ref<Node>& child : asBranch(node).nodes()) {
-        if (!visit(*child, index, search, visitor)) return false;
-        index += child->summary.count;
+    const std::span<const Ref<Node>> children = asBranch(node).nodes();
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        if (node.height == 1 && i + leavesAhead < children.size())
+            asLeaf(*children[i + leavesAhead]).boxes.prefetch();
+        if (!visit(*children[i], index, search, visitor)) return false;
+        index += children[i]->summary.count;
     }
     return true;
 }

@@ -146,16 +146,21 @@ std::optional<std::vector<IntRect>> ScreenPicture::takeChanges(const DrawingDocu
 
 void ScreenPicture::paint(const DrawingDocument& document, double scale,
                           const PixelBuffer& target) {
-    follow(document, scale);
+    prepare(document, scale, target.area);
     if (!canBeShown(scale) || target.area.isEmpty()) return;
     const IntRect seen = target.area.intersectedWith(contents_.canvasPixels());
     if (seen != target.area) clearPixels(target);
     if (seen.isEmpty()) return;
-    renderStaleTiles(document, seen);
     tiles_.forEachKnownTile(seen, [&](Tile& tile) {
         copyPixels(tile.pixels(), target, tile.area.intersectedWith(seen));
     });
     strokeInProgress_.paint(target.part(seen));
+}
+
+void ScreenPicture::prepare(const DrawingDocument& document, double scale, const IntRect& area) {
+    follow(document, scale);
+    if (canBeShown(scale))
+        renderStaleTiles(document, area.intersectedWith(contents_.canvasPixels()));
 }
 
 std::size_t ScreenPicture::cachedBytes() const {

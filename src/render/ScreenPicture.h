@@ -42,6 +42,9 @@ public:
     /// that changes to be taken later. A scale that is not a positive number paints nothing.
     void paint(const DrawingDocument& document, double scale, const PixelBuffer& target);
 
+    /// Does at once what painting several parts of `area` would do one by one.
+    void prepare(const DrawingDocument& document, double scale, const IntRect& area);
+
     /// Where the tiles take more than maxCachedBytes, drops some: those of other scales, then those
     /// out of sight. What was painted of a dropped tile must be painted again before it is shown.
     void limitMemory(const IntRect& inSight);

@@ -36,10 +36,12 @@ constexpr double outlineGap = 3;
 constexpr double gridOpacity = 0.2;
 constexpr double eyeDropperOpacity = 0.4;
 
+IntRect toIntRect(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
 PixelBuffer pixelsOf(QImage& image, QPoint origin) {
-    return {image.bits(),
-            image.bytesPerLine(),
-            {origin.x(), origin.y(), origin.x() + image.width(), origin.y() + image.height()},
+    return {image.bits(), image.bytesPerLine(), toIntRect(QRect(origin, image.size())),
             PixelOrder::bgra};
 }
 
@@ -150,32 +152,26 @@ void CanvasView::updateDevicePixels(const QRectF& area) {
 
 void CanvasView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
+    const DevicePixels pixels(painter, QPointF(0, 0));
+    picture_.prepare(document_, deviceScale(), toIntRect(pixels.touchedBy(event->rect())));
     const bool hasDesk = testAttribute(Qt::WA_OpaquePaintEvent);
     for (const QRect& exposed : event->region()) {
         if (hasDesk) painter.fillRect(exposed, palette().window());
-        paintPicture(painter, exposed);
+        paintPicture(pixels, exposed);
     }
     if (document_.isEyeDropper)
         paintIcon(painter, Icon::eyedropper, eyeDropperPlace(),
                   withOpacity(semanticColor(SemanticColor::blue), eyeDropperOpacity));
-    limitMemory(painter);
+    if (picture_.cachedBytes() > ScreenPicture::maxCachedBytes)
+        picture_.limitMemory(toIntRect(pixels.touchedBy(visibleRegion().boundingRect())));
 }
 
-void CanvasView::limitMemory(QPainter& painter) {
-    if (picture_.cachedBytes() <= ScreenPicture::maxCachedBytes) return;
-    const QRect inSight =
-        DevicePixels(painter, QPointF(0, 0)).touchedBy(visibleRegion().boundingRect());
-    picture_.limitMemory({inSight.left(), inSight.top(), inSight.left() + inSight.width(),
-                          inSight.top() + inSight.height()});
-}
-
-void CanvasView::paintPicture(QPainter& painter, const QRect& exposed) {
+void CanvasView::paintPicture(const DevicePixels& pixels, const QRect& exposed) {
     const double ratio = devicePixelRatioF();
     const QSizeF size = displaySize(document_.canvasSize, document_.zoom) * ratio;
     const QRect whole(0, 0, static_cast<int>(std::ceil(size.width())),
                       static_cast<int>(std::ceil(size.height())));
 
-    const DevicePixels pixels(painter, QPointF(0, 0));
     const QRect part = pixels.touchedBy(exposed) & whole;
     if (part.isEmpty()) return;
     frame_.resize(static_cast<std::size_t>(part.width()) * part.height() * 4);

@@ -14,6 +14,8 @@
 
 namespace marlevo {
 
+class DevicePixels;
+
 /// The drawing surface: shows the document's picture and turns the pointer into calls of the
 /// document's editing operations. Its owner keeps it exactly as large as the canvas is shown.
 ///
@@ -63,10 +65,9 @@ private:
     void updateDevicePixels(const QRectF& area);
 
     double deviceScale() const { return document_.zoom * devicePixelRatioF(); }
-    void paintPicture(QPainter& painter, const QRect& exposed);
+    void paintPicture(const DevicePixels& pixels, const QRect& exposed);
     void paintOutline(QImage& frame, QPoint origin, const Outline& outline) const;
     QRectF eyeDropperPlace() const;
-    void limitMemory(QPainter& painter);
     void paintEyeDropper(QPainter& painter) const;
     void showPointerOfTool();
 
