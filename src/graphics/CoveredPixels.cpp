@@ -10,6 +10,13 @@ namespace {
 constexpr int blockWidth = DistanceField::blockWidth;
 constexpr int blockHeight = DistanceField::blockHeight;
 
+/// A bit for each pixel of a block's row at `left` that lies in the columns from … end − 1.
+std::uint16_t bitsBetween(int from, int end, int left) {
+    const int first = std::clamp(from - left, 0, blockWidth);
+    const int last = std::clamp(end - left, first, blockWidth);
+    return static_cast<std::uint16_t>((1 << last) - (1 << first));
+}
+
 }  // namespace
 
 CoveredPixels::CoveredPixels(const IntRect& area)
@@ -21,15 +28,14 @@ CoveredPixels::CoveredPixels(const IntRect& area)
       open_(static_cast<std::size_t>(stripCount_) * blocksPerStrip_),
       openBlocks_(static_cast<std::size_t>(stripCount_) * wordCount_) {
     for (int strip = 0; strip < stripCount_; ++strip) {
+        const Bits inRow = bitsBetween(area.left, area.right, left_ + strip * blockWidth);
         for (int block = 0; block < blocksPerStrip_; ++block) {
-            Bits& open = open_[indexOf(strip, block)];
-            for (int i = 0; i < blockWidth * blockHeight; ++i) {
-                const int x = left_ + strip * blockWidth + i % blockWidth;
-                const int y = top_ + block * blockHeight + i / blockWidth;
-                const bool isInside =
-                    x >= area.left && x < area.right && y >= area.top && y < area.bottom;
-                open = static_cast<Bits>(open | (isInside ? 1U << i : 0U));
-            }
+            const int top = top_ + block * blockHeight;
+            Bits open = 0;
+            for (int row = 0; row < blockHeight; ++row)
+                if (top + row >= area.top && top + row < area.bottom)
+                    open = static_cast<Bits>(open | inRow << (row * blockWidth));
+            open_[indexOf(strip, block)] = open;
             openBlocks_[wordOf(strip, block)] |= std::uint64_t{1} << (block % 64);
         }
     }

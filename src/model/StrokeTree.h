@@ -56,14 +56,6 @@ struct LeafBoxes {
         maxY[at] = box.maxY;
     }
 
-    /// Asks for the memory ahead of a search, which goes through leaves faster than they arrive.
-    void prefetch() const {
-        constexpr std::size_t cacheLine = 64;
-        const auto* const bytes = reinterpret_cast<const std::byte*>(this);
-        for (std::size_t at = 0; at < sizeof minX + sizeof maxX; at += cacheLine)
-            __builtin_prefetch(bytes + at);
-    }
-
     Box operator[](std::size_t at) const { return {minX[at], minY[at], maxX[at], maxY[at]}; }
 
     bool touches(std::size_t at, const Box& area) const {
@@ -107,6 +99,15 @@ struct Leaf : Node {
     void erase(std::size_t at);
     void truncate(std::size_t size);
     void summarise();
+
+    /// Asks the memory for what a search looks at first.
+    void prefetch() const {
+        constexpr std::size_t cacheLine = 64;
+        const auto* const bytes = reinterpret_cast<const std::byte*>(&boxes);
+        for (std::size_t at = 0; at < sizeof boxes.minX + sizeof boxes.maxX; at += cacheLine)
+            __builtin_prefetch(bytes + at);
+        __builtin_prefetch(&summary);
+    }
 
     std::atomic<std::size_t> filled = 0;
     std::array<Ref<Record>, fanOut> slots;
@@ -185,7 +186,7 @@ bool visit(const Node& node, std::size_t index, const Search& search, Visitor& v
     const std::span<const Ref<Node>> children = asBranch(node).nodes();
     for (std::size_t i = 0; i < children.size(); ++i) {
         if (node.height == 1 && i + leavesAhead < children.size())
-            asLeaf(*children[i + leavesAhead]).boxes.prefetch();
+            asLeaf(*children[i + leavesAhead]).prefetch();
         if (!visit(*children[i], index, search, visitor)) return false;
         index += children[i]->summary.count;
     }

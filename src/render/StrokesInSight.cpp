@@ -41,19 +41,21 @@ void StrokesInSight::draw(const IntRect& part, BitmapContext& context,
     for (const Found& each : found_)
         if (each.box.touches(near)) strokes.push_back(&each);
 
-    ReverseContext fromTop(context, part);
     std::size_t below = strokes.size();
-    if (strokes.size() >= leastInReverse) {
-        const std::size_t sampled = strokes.size() - strokes.size() / partOfSample;
-        while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
-            if (below == sampled && fromTop.openShare() > mostOpenAfterSample) break;
-            const Found& next = *strokes[--below];
-            if (!fromTop.hides(paintedArea(next.box, scale_))) drawStroke(fromTop, *next.stroke);
-        }
-    }
-    if (!fromTop.hidesAll())
+    const auto drawBelow = [&] {
         for (std::size_t i = 0; i < below; ++i)
             drawStroke(context, *strokes[i]->stroke);
+    };
+    if (strokes.size() < leastInReverse) return drawBelow();
+
+    ReverseContext fromTop(context, part);
+    const std::size_t sampled = below - below / partOfSample;
+    while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
+        if (below == sampled && fromTop.openShare() > mostOpenAfterSample) break;
+        const Found& next = *strokes[--below];
+        if (!fromTop.hides(paintedArea(next.box, scale_))) drawStroke(fromTop, *next.stroke);
+    }
+    if (!fromTop.hidesAll()) drawBelow();
     fromTop.finish();
 }
 
