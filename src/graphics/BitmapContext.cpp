@@ -144,6 +144,8 @@ void BitmapContext::setAlpha(double alpha) { rasterizer_->state.alpha = alpha; }
 
 double BitmapContext::alpha() const { return rasterizer_->state.alpha; }
 
+const IntRect& BitmapContext::area() const { return rasterizer_->target.area; }
+
 void BitmapContext::fillRect(const Rect& rect, const Color& color) {
     const DeviceFrame& frame = rasterizer_->state.frame;
     const auto [left, right] = std::minmax(

@@ -42,6 +42,10 @@ public:
     void scale(double x, double y) override;
     void setAlpha(double alpha) override;
     double alpha() const;
+
+    /// The part of the device plane that is drawn on.
+    const IntRect& area() const;
+
     void fillRect(const Rect& rect, const Color& color) override;
     void fillPath(const Path& path, const Color& color) override;
     void strokePath(const Path& path, const Color& color, double lineWidth) override;

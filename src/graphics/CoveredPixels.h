@@ -18,6 +18,7 @@ public:
     /// None of the pixels in `area`; those outside count as covered.
     explicit CoveredPixels(const IntRect& area);
 
+    /// Looks at whole blocks: false if one that the part touches has a pixel that is not covered.
     bool containsAll(const IntRect& part) const;
     bool containsAll() const { return openPixels_ == 0; }
 

@@ -18,7 +18,8 @@ struct HeldBlock {
 };
 
 /// Coverages of strokes that come from the topmost down, kept to be blended from the lowest up.
-/// Where one is opaque, nothing of those below is kept.
+/// Of those below, blocks that opaque ones
+/// hide wholly are not kept.
 struct HeldCoverage {
     explicit HeldCoverage(const IntRect& area) : covered(area) {}
 

@@ -1,6 +1,7 @@
 #include "graphics/ReverseContext.h"
 
 #include <span>
+#include <utility>
 
 namespace marlevo {
 
@@ -22,7 +23,7 @@ void ReverseContext::finish() {
 
 template <typename Draw>
 void ReverseContext::hold(Draw draw) {
-    operations_.push_back({{}, 0, [this, draw, alpha = target_.alpha()] {
+    operations_.push_back({{}, 0, [this, draw = std::move(draw), alpha = target_.alpha()] {
                                target_.setAlpha(alpha);
                                draw(target_);
                            }});
@@ -33,6 +34,7 @@ void ReverseContext::fillRect(const Rect& rect, const Color& color) {
 }
 
 void ReverseContext::fillPath(const Path& path, const Color& color) {
+    heldElements_ += path.elements().size();
     hold([path, color](BitmapContext& target) { target.fillPath(path, color); });
 }
 
@@ -42,6 +44,7 @@ void ReverseContext::strokePath(const Path& path, const Color& color, double lin
         if (held_.blocks.size() > before)
             operations_.push_back({*packed, held_.blocks.size() - before});
     } else {
+        heldElements_ += path.elements().size();
         hold([=](BitmapContext& target) { target.strokePath(path, color, lineWidth); });
     }
 }

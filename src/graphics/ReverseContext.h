@@ -11,14 +11,13 @@ namespace marlevo {
 
 /// Draws from the top down: each operation comes to lie below those before it.
 ///
-/// Keeps what they cover until finish(), and nothing of what is hidden: where opaque strokes lie in
+/// Keeps what they cover until finish(), except where opaque strokes hide it: where these lie in
 /// many layers over each other, the lower ones cost little. The pixels get the bytes that the
-/// operations give in reverse order on the other context.
+/// operations give in reverse order on the other context. To be used once.
 class ReverseContext final : public GraphicsContext {
 public:
-    /// Draws on the pixels `area` of what `target` draws on and in its frame, which must stay as it
-    /// is until finish().
-    ReverseContext(BitmapContext& target, const IntRect& area) : target_(target), held_(area) {}
+    /// Draws on what `target` draws on and in its frame, which must stay as it is until finish().
+    explicit ReverseContext(BitmapContext& target) : target_(target), held_(target.area()) {}
 
     /// Whether nothing that comes now can be seen in this part of the area, as far as it is known.
     bool hides(const IntRect& part) const { return held_.covered.containsAll(part); }
@@ -28,7 +27,9 @@ public:
     double openShare() const { return held_.covered.openShare(); }
 
     /// Whether it holds so much that finish() should come now.
-    bool isFull() const { return held_.blocks.size() >= maxHeldBlocks; }
+    bool isFull() const {
+        return held_.blocks.size() >= maxHeldBlocks || heldElements_ >= maxHeldElements;
+    }
 
     /// Blends all that was drawn over the pixels, on which what lies below must be drawn by now.
     void finish();
@@ -44,6 +45,7 @@ public:
 
 private:
     static constexpr std::size_t maxHeldBlocks = std::size_t{1} << 18;
+    static constexpr std::size_t maxHeldElements = std::size_t{1} << 16;  // of paths
 
     struct Operation {
         PackedColor color;
@@ -57,6 +59,7 @@ private:
     BitmapContext& target_;
     HeldCoverage held_;
     std::vector<Operation> operations_;
+    std::size_t heldElements_ = 0;
 };
 
 }  // namespace marlevo

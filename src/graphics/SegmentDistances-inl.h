@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <span>
 
 #if defined(MARLEVO_GRAPHICS_SEGMENT_DISTANCES_INL_H) == defined(HWY_TARGET_TOGGLE)
 #ifdef MARLEVO_GRAPHICS_SEGMENT_DISTANCES_INL_H
@@ -22,6 +23,8 @@
 
 HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
 
 constexpr int blockWidth = DistanceField::blockWidth;
 constexpr int blockHeight = DistanceField::blockHeight;

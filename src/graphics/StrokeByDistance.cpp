@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <iterator>
 
 // Compiles this file once for each instruction set; must come before what includes Highway.
 #undef HWY_TARGET_INCLUDE
@@ -185,12 +184,19 @@ void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& a
 
     thread_local DistanceField field;
     const int bandHeight = std::max(maxFieldPixels / touched.width(), 2);
-    for (int top = touched.top; top < touched.bottom; top += bandHeight) {
-        const IntRect band{touched.left, top, touched.right,
-                           std::min(top + bandHeight, touched.bottom)};
+    int bottom = 0;
+    for (int top = touched.top; top < touched.bottom; top = bottom) {
+        // Bands end where blocks do: what lies in two of them would be taken twice.
+        bottom = std::min((top + bandHeight) & -DistanceField::blockHeight, touched.bottom);
+        const IntRect band{touched.left, top, touched.right, bottom};
         field.reset(band);
         HWY_DYNAMIC_DISPATCH(addSegments)(field, path, pen.reach, covered);
-        take(field, pen, band);
+        try {
+            take(field, pen, band);
+        } catch (...) {
+            field = {};  // what was not taken must not show in the next stroke
+            throw;
+        }
     }
 }
 

@@ -14,6 +14,11 @@ namespace marlevo {
 /// which are drawn wider than they are.
 inline constexpr double penFringe = 1.5;
 
+/// Device pixels as an area of the canvas, `scale` of them a canvas pixel.
+inline Rect onCanvas(const IntRect& area, double scale) {
+    return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
+}
+
 /// The device pixels that may change when something with these point bounds and pen width is drawn
 /// at `scale` device pixels a canvas pixel. Bounds that are no numbers may change everything.
 inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {

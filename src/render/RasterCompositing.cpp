@@ -47,7 +47,7 @@ std::optional<RasterImage> DrawingDocument::renderCGImage() const {
                 BitmapContext context(picture.part(bands[i]), DeviceFrame::yUp(height));
                 drawLayerImageIfPresent(context, *run.layers.front(), canvas, height,
                                         [&](const Bytes&) { return run.image; });
-                strokes.draw(bands[i], context, [&](GraphicsContext& to, const Stroke& stroke) {
+                strokes.draw(context, [&](GraphicsContext& to, const Stroke& stroke) {
                     if (stroke.points.size() >= 2) drawStroke(to, stroke, height);
                 });
             });

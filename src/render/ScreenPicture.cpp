@@ -35,10 +35,6 @@ void clearPixels(const PixelBuffer& part) {
     }
 }
 
-Rect onCanvas(const IntRect& area, double scale) {
-    return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
-}
-
 /// What is left of a rectangle when `end`, which has three of its edges, is cut off.
 IntRect without(const IntRect& end, const IntRect& all) {
     if (end.bottom < all.bottom) return {all.left, end.bottom, all.right, all.bottom};
@@ -121,7 +117,7 @@ IntRect ScreenPicture::Contents::canvasPixels() const {
     // Where an edge lies within a pixel, all of that pixel may be painted.
     constexpr double farthest = 1 << 30;
     const auto edge = [farthest](double device) {
-        return static_cast<int>(std::ceil(std::min(std::max(device, 0.0), farthest)));
+        return device > 0 ? static_cast<int>(std::ceil(std::min(device, farthest))) : 0;
     };
     return {0, 0, edge(canvasSize.width * scale), edge(canvasSize.height * scale)};
 }
@@ -200,7 +196,7 @@ void ScreenPicture::follow(const DrawingDocument& document, double scale) {
 }
 
 void ScreenPicture::changeScale(double scale) {
-    otherScales_.push_back({contents_.scale, std::exchange(tiles_, {})});
+    if (tiles_.size() > 0) otherScales_.push_back({contents_.scale, std::exchange(tiles_, {})});
     const auto known = std::ranges::find(otherScales_, scale, &OtherScale::scale);
     if (known != otherScales_.end()) {
         tiles_ = std::move(known->tiles);
@@ -263,7 +259,16 @@ void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntR
         whole = whole.unitedWith(part);
     });
     if (stale.empty()) return;
+    try {
+        render(document, stale, whole);
+    } catch (...) {
+        releaseMemory();  // rather than show tiles that are half painted
+        throw;
+    }
+}
 
+void ScreenPicture::render(const DrawingDocument& document, const std::vector<PixelBuffer>& stale,
+                           const IntRect& whole) const {
     parallelFor(stale.size(), [&](std::size_t i) { renderBackground(stale[i]); });
     const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
     forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
@@ -294,7 +299,7 @@ void ScreenPicture::renderImage(const LayerRun& run, const PixelBuffer& part) co
 
 void ScreenPicture::renderStrokes(const StrokesInSight& strokes, const PixelBuffer& part) const {
     BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-    strokes.draw(part.area, context, drawOnScreen);
+    strokes.draw(context, drawOnScreen);
 }
 
 }  // namespace marlevo

@@ -42,7 +42,8 @@ public:
     /// that changes to be taken later. A scale that is not a positive number paints nothing.
     void paint(const DrawingDocument& document, double scale, const PixelBuffer& target);
 
-    /// Does at once what painting several parts of `area` would do one by one.
+    /// Renders at once what several paints of parts of `area`, which are to follow, would render
+    /// one by one.
     void prepare(const DrawingDocument& document, double scale, const IntRect& area);
 
     /// Where the tiles take more than maxCachedBytes, drops some: those of other scales, then those
@@ -101,6 +102,8 @@ private:
     template <typename Paint>
     void paintOver(const IntRect& area, Paint paint);
     void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
+    void render(const DrawingDocument& document, const std::vector<PixelBuffer>& stale,
+                const IntRect& whole) const;
     void renderBackground(const PixelBuffer& part) const;
     void renderImage(const LayerRun& run, const PixelBuffer& part) const;
     void renderStrokes(const StrokesInSight& strokes, const PixelBuffer& part) const;

@@ -17,10 +17,6 @@ constexpr std::size_t leastInReverse = 64;
 constexpr std::size_t partOfSample = 16;
 constexpr double mostOpenAfterSample = 0.7;
 
-Rect onCanvas(const IntRect& area, double scale) {
-    return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
-}
-
 }  // namespace
 
 StrokesInSight::StrokesInSight(const LayerRun& run, const IntRect& area, double scale)
@@ -34,9 +30,8 @@ StrokesInSight::StrokesInSight(const LayerRun& run, const IntRect& area, double 
     }
 }
 
-void StrokesInSight::draw(const IntRect& part, BitmapContext& context,
-                          const DrawStroke& drawStroke) const {
-    const Box near = Box::around(onCanvas(part, scale_), penFringe / scale_);
+void StrokesInSight::draw(BitmapContext& context, const DrawStroke& drawStroke) const {
+    const Box near = Box::around(onCanvas(context.area(), scale_), penFringe / scale_);
     std::vector<const Found*> strokes;
     for (const Found& each : found_)
         if (each.box.touches(near)) strokes.push_back(&each);
@@ -48,7 +43,7 @@ void StrokesInSight::draw(const IntRect& part, BitmapContext& context,
     };
     if (strokes.size() < leastInReverse) return drawBelow();
 
-    ReverseContext fromTop(context, part);
+    ReverseContext fromTop(context);
     const std::size_t sampled = below - below / partOfSample;
     while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
         if (below == sampled && fromTop.openShare() > mostOpenAfterSample) break;

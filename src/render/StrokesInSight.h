@@ -24,9 +24,9 @@ public:
 
     std::size_t count() const { return found_.size(); }
 
-    /// Draws what may be seen of them in `part` on a context for those pixels. The strokes deepest
+    /// Draws on a context what may be seen of them there. The strokes deepest
     /// below opaque ones are left out: an opaque pixel is the same whatever was below it.
-    void draw(const IntRect& part, BitmapContext& context, const DrawStroke& drawStroke) const;
+    void draw(BitmapContext& context, const DrawStroke& drawStroke) const;
 
 private:
     struct Found {

@@ -68,7 +68,6 @@ private:
     void paintPicture(const DevicePixels& pixels, const QRect& exposed);
     void paintOutline(QImage& frame, QPoint origin, const Outline& outline) const;
     QRectF eyeDropperPlace() const;
-    void paintEyeDropper(QPainter& painter) const;
     void showPointerOfTool();
 
     QPointF position(const QMouseEvent& event) const;

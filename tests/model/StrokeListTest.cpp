@@ -265,9 +265,10 @@ TEST(StrokeList, VisitMissesNothingByRounding) {
         list.append(stroke);
     }
     for (std::size_t wanted = 0; wanted < places.size(); ++wanted)
-        EXPECT_FALSE(list.visitNear({places[wanted], {}}, 0, [&](std::size_t at, const Stroke&, const Box&) {
-            return at != wanted;
-        })) << wanted;
+        EXPECT_FALSE(
+            list.visitNear({places[wanted], {}}, 0,
+                           [&](std::size_t at, const Stroke&, const Box&) { return at != wanted; }))
+            << wanted;
 }
 
 TEST(StrokeList, VisitStopsWhenTold) {
