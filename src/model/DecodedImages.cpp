@@ -1,9 +1,11 @@
 #include "model/DecodedImages.h"
 
 #include "platform/ImageCodec.h"
+#include "platform/ParallelFor.h"
 
 #include <algorithm>
 #include <numeric>
+#include <thread>
 
 namespace marlevo {
 
@@ -16,17 +18,49 @@ std::optional<RasterImage> DecodedImages::image(const Bytes& file) {
         std::rotate(known, known + 1, entries_.end());
         return entries_.back().image;
     }
-    Entry entry{file, codec_->decode(file.span())};
-    std::optional<RasterImage> result = entry.image;
+    const std::optional<RasterImage> decoded = codec_->decode(file.span());
+    keep({file, decoded});
+    return decoded;
+}
+
+void DecodedImages::decodeAhead(const LayerList& layers) {
+    if (codec_ == nullptr) return;
+    std::vector<Entry> missing;
+    for (const Layer& layer : layers) {
+        if (!layer.isVisible || !layer.imageData || holds(*layer.imageData)) continue;
+        if (std::ranges::none_of(
+                missing, [&](const Entry& each) { return each.file.sharesWith(*layer.imageData); }))
+            missing.push_back({*layer.imageData, std::nullopt});
+    }
+    // A few at a time: how large an image is, is not known before.
+    const std::size_t step = std::max(std::thread::hardware_concurrency(), 1U);
+    std::size_t largest = 0;
+    for (std::size_t from = 0; from < missing.size(); from += step) {
+        const std::size_t count = std::min(step, missing.size() - from);
+        if (bytes_ + count * largest > maxBytes) return;
+        parallelFor(count, [&](std::size_t i) {
+            Entry& entry = missing[from + i];
+            entry.image = codec_->decode(entry.file.span());
+        });
+        for (std::size_t i = from; i < from + count; ++i) {
+            largest = std::max(largest, missing[i].size());
+            keep(std::move(missing[i]));
+        }
+    }
+}
+
+void DecodedImages::keep(Entry entry) {
+    bytes_ += entry.size();
     entries_.push_back(std::move(entry));
-    std::size_t total =
-        std::accumulate(entries_.begin(), entries_.end(), std::size_t{0},
-                        [](std::size_t sum, const Entry& each) { return sum + each.size(); });
-    while (total > maxBytes) {
-        total -= entries_.front().size();
+    while (bytes_ > maxBytes) {
+        bytes_ -= entries_.front().size();
         entries_.erase(entries_.begin());
     }
-    return result;
+}
+
+bool DecodedImages::holds(const Bytes& file) const {
+    return std::ranges::any_of(entries_,
+                               [&](const Entry& each) { return each.file.sharesWith(file); });
 }
 
 std::optional<RasterImage> DecodedImages::known(const Bytes& file) const {
@@ -41,6 +75,8 @@ void DecodedImages::keepOnly(const LayerList& layers) {
             return layer.isVisible && layer.imageData && layer.imageData->sharesWith(entry.file);
         });
     });
+    bytes_ = std::accumulate(entries_.begin(), entries_.end(), std::size_t{0},
+                             [](std::size_t sum, const Entry& each) { return sum + each.size(); });
 }
 
 }  // namespace marlevo

@@ -25,6 +25,9 @@ public:
     /// The picture in the file, sharing its pixels; nothing when it cannot be decoded.
     std::optional<RasterImage> image(const Bytes& file);
 
+    /// Decodes on all cores what the visible layers want, as far as it can be kept.
+    void decodeAhead(const LayerList& layers);
+
     /// The picture in the file if it is at hand, without decoding.
     std::optional<RasterImage> known(const Bytes& file) const;
 
@@ -39,8 +42,12 @@ private:
         std::size_t size() const { return image ? image->bytes().size() : 0; }
     };
 
+    bool holds(const Bytes& file) const;
+    void keep(Entry entry);
+
     const ImageCodec* codec_;
     std::vector<Entry> entries_;  ///< most recently used last
+    std::size_t bytes_ = 0;       ///< of all their images
 };
 
 }  // namespace marlevo

@@ -37,6 +37,7 @@ std::optional<RasterImage> DrawingDocument::renderCGImage() const {
             const Rect whole{{0, 0}, {static_cast<double>(size->width), height}};
             BitmapContext(picture, DeviceFrame::yUp(height)).fillRect(whole, backgroundColor);
         }
+        decodedImages_.decodeAhead(layers);
         // Workers see values only, never the document.
         const CanvasSize canvas = canvasSize;
         const auto decode = [this](const Bytes& file) { return decodedImages_.image(file); };

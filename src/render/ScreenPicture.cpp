@@ -269,6 +269,7 @@ void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntR
 
 void ScreenPicture::render(const DrawingDocument& document, const std::vector<PixelBuffer>& stale,
                            const IntRect& whole) const {
+    document.decodedImages().decodeAhead(contents_.layers);
     parallelFor(stale.size(), [&](std::size_t i) { renderBackground(stale[i]); });
     const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
     forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
