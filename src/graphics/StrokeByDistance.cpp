@@ -96,7 +96,8 @@ HWY_INLINE void blendBlock(int left, int top, const BlockCoverage& coverage,
                           top + blockHeight <= area.bottom;
     if (isInside) {
         for (int row = 0; row < blockHeight; ++row)
-            blendRow(target.pixel(left, top + row), coverage.data() + row * blockWidth, color);
+            blendRow(target.pixel(left, top + row),
+                     coverage.data() + std::ptrdiff_t{row} * blockWidth, color);
     } else {
         forEachPixel(left, top, coverage, area, [&](int x, int y, std::uint8_t covered) {
             blendPixel(target.pixel(x, y), color, covered);

@@ -18,7 +18,7 @@ std::optional<RasterImage> DecodedImages::image(const Bytes& file) {
         std::rotate(known, known + 1, entries_.end());
         return entries_.back().image;
     }
-    const std::optional<RasterImage> decoded = codec_->decode(file.span());
+    std::optional<RasterImage> decoded = codec_->decode(file.span());
     keep({file, decoded});
     return decoded;
 }

@@ -90,7 +90,7 @@ private:
     using Tiles = TileMap<Tile, tileSide>;
 
     struct OtherScale {
-        double scale;
+        double scale = 0;
         Tiles tiles;
     };
 

@@ -30,7 +30,7 @@ public:
 
 private:
     struct Found {
-        const Stroke* stroke;
+        const Stroke* stroke = nullptr;
         Box box;
     };
 
