@@ -24,8 +24,8 @@ public:
 
     std::size_t count() const { return found_.size(); }
 
-    /// Draws on a context what may be seen of them there. The strokes deepest
-    /// below opaque ones are left out: an opaque pixel is the same whatever was below it.
+    /// Draws on a context what may be seen of them there. Those deep below opaque ones are left
+    /// out: an opaque pixel is the same whatever was below it.
     void draw(BitmapContext& context, const DrawStroke& drawStroke) const;
 
 private:
