@@ -1,7 +1,7 @@
 #pragma once
 
+#include "model/IntrusivePtr.h"
 #include "model/Layer.h"
-#include "model/Ref.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -42,15 +42,15 @@ public:
 
     /// For changing the layer: it becomes this list's own.
     Layer& operator[](std::size_t index) {
-        Ref<Entry>& entry = layers_[index];
-        if (!entry.isUnique()) entry = Ref<Entry>::make(*entry);
+        IntrusivePtr<Entry>& entry = layers_[index];
+        if (!entry.isUnique()) entry = IntrusivePtr<Entry>::make(*entry);
         return entry->layer;
     }
     Layer& back() { return (*this)[size() - 1]; }
 
-    void push_back(Layer layer) { layers_.push_back(Ref<Entry>::make(std::move(layer))); }
+    void push_back(Layer layer) { layers_.push_back(IntrusivePtr<Entry>::make(std::move(layer))); }
     void insert(std::size_t index, Layer layer) {
-        layers_.insert(layers_.begin() + index, Ref<Entry>::make(std::move(layer)));
+        layers_.insert(layers_.begin() + index, IntrusivePtr<Entry>::make(std::move(layer)));
     }
     void erase(std::size_t index) { layers_.erase(layers_.begin() + index); }
 
@@ -60,7 +60,7 @@ private:
         Layer layer;
     };
 
-    std::vector<Ref<Entry>> layers_;
+    std::vector<IntrusivePtr<Entry>> layers_;
 };
 
 /// Goes through a list in order; a change of the list invalidates it.
@@ -95,7 +95,7 @@ public:
 
 private:
     friend class LayerList;
-    using Entries = std::vector<Ref<Entry>>::const_iterator;
+    using Entries = std::vector<IntrusivePtr<Entry>>::const_iterator;
 
     explicit Iterator(Entries entry) : entry_(entry) {}
 

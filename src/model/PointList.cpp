@@ -28,16 +28,16 @@ void PointList::Block::stretchTo(Point point) {
 }
 
 PointList::PointList(std::vector<Point> points) {
-    if (!points.empty()) block_ = Ref<Block>::make(std::move(points));
+    if (!points.empty()) block_ = IntrusivePtr<Block>::make(std::move(points));
 }
 
 void PointList::append(Point point) {
     if (!block_) {
-        block_ = Ref<Block>::make(std::vector<Point>{point});
+        block_ = IntrusivePtr<Block>::make(std::vector<Point>{point});
         return;
     }
     if (!block_.isUnique()) {
-        auto copy = Ref<Block>::make(*block_);
+        auto copy = IntrusivePtr<Block>::make(*block_);
         copy->points.reserve(2 * block_->points.size());
         block_ = std::move(copy);
     }
@@ -48,7 +48,7 @@ void PointList::append(Point point) {
 void PointList::shrinkToFit() {
     // A copy has no spare room. Other owners keep the block they have.
     if (block_ && block_->points.capacity() > block_->points.size())
-        block_ = Ref<Block>::make(*block_);
+        block_ = IntrusivePtr<Block>::make(*block_);
 }
 
 Rect PointList::bounds() const {

@@ -2,7 +2,7 @@
 
 #include "graphics/Point.h"
 #include "graphics/Rect.h"
-#include "model/Ref.h"
+#include "model/IntrusivePtr.h"
 
 #include <cstddef>
 #include <initializer_list>
@@ -52,7 +52,7 @@ private:
         Point greatest;
     };
 
-    Ref<Block> block_;
+    IntrusivePtr<Block> block_;
 };
 
 }  // namespace marlevo

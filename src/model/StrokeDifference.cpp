@@ -19,11 +19,11 @@ using stroke_tree::Record;
 /// A leaf's strokes as one version knows them: versions may share an open leaf and differ in how
 /// much of it is theirs.
 struct Run {
-    explicit Run(std::span<const Ref<Record>> records)
+    explicit Run(std::span<const IntrusivePtr<Record>> records)
         : first(records.data()), size(records.size()) {}
     auto operator<=>(const Run&) const = default;
 
-    const Ref<Record>* first;
+    const IntrusivePtr<Record>* first;
     std::size_t size;
 };
 
@@ -49,7 +49,7 @@ void descend(Nodes& nodes) {
     nodes = std::move(children);
 }
 
-std::vector<Run> runs(const Nodes& leaves, std::span<const Ref<Record>> tail) {
+std::vector<Run> runs(const Nodes& leaves, std::span<const IntrusivePtr<Record>> tail) {
     std::vector<Run> runs;
     for (const Node* leaf : leaves)
         runs.emplace_back(asLeaf(*leaf).records());

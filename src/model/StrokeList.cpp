@@ -14,7 +14,7 @@ const Stroke& StrokeList::operator[](std::size_t index) const {
     return recordsFrom(index).front()->stroke;
 }
 
-std::span<const Ref<Record>> StrokeList::recordsFrom(std::size_t index) const {
+std::span<const IntrusivePtr<Record>> StrokeList::recordsFrom(std::size_t index) const {
     if (index < treeSize()) return stroke_tree::recordsFrom(*tree_, index);
     return tail().subspan(index - treeSize());
 }
@@ -29,14 +29,14 @@ Leaf& StrokeList::ownTail() {
     if (tail_.isUnique())
         tail_->truncate(tailSize_);
     else
-        tail_ = Ref<Leaf>::make(*tail_, tailSize_);
+        tail_ = IntrusivePtr<Leaf>::make(*tail_, tailSize_);
     return *tail_;
 }
 
 void StrokeList::append(Stroke stroke) {
     stroke.points.shrinkToFit();
-    const auto record = Ref<Record>::make(std::move(stroke));
-    if (!tail_) tail_ = Ref<Leaf>::make();
+    const auto record = IntrusivePtr<Record>::make(std::move(stroke));
+    if (!tail_) tail_ = IntrusivePtr<Leaf>::make();
     if (!tail_->appendAfter(tailSize_, record)) ownTail().appendAfter(tailSize_, record);
     if (++tailSize_ < stroke_tree::fanOut) return;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "graphics/Rect.h"
-#include "model/Ref.h"
+#include "model/IntrusivePtr.h"
 #include "model/Stroke.h"
 #include "model/StrokeSummary.h"
 #include "model/StrokeTree.h"
@@ -77,16 +77,17 @@ private:
     friend struct StrokeDifference;
 
     std::size_t treeSize() const { return tree_ ? tree_->summary.count : 0; }
-    std::span<const Ref<stroke_tree::Record>> tail() const {
+    std::span<const IntrusivePtr<stroke_tree::Record>> tail() const {
         if (tailSize_ == 0) return {};
         return {tail_->slots.data(), tailSize_};
     }
-    std::span<const Ref<stroke_tree::Record>> recordsFrom(std::size_t index) const;
+    std::span<const IntrusivePtr<stroke_tree::Record>> recordsFrom(std::size_t index) const;
     stroke_tree::Leaf& ownTail();
 
-    Ref<stroke_tree::Node> tree_;
-    Ref<stroke_tree::Leaf> tail_;  ///< its first `tailSize_` strokes follow those of the tree
-    std::uint32_t tailSize_ = 0;   ///< less than a full leaf
+    IntrusivePtr<stroke_tree::Node> tree_;
+    IntrusivePtr<stroke_tree::Leaf>
+        tail_;                    ///< its first `tailSize_` strokes follow those of the tree
+    std::uint32_t tailSize_ = 0;  ///< less than a full leaf
 };
 
 /// Goes through a list in order; a change of the list invalidates it.
@@ -124,8 +125,8 @@ private:
 
     const StrokeList* list_ = nullptr;
     std::size_t index_ = 0;
-    const Ref<stroke_tree::Record>* record_ = nullptr;
-    const Ref<stroke_tree::Record>* leafEnd_ = nullptr;
+    const IntrusivePtr<stroke_tree::Record>* record_ = nullptr;
+    const IntrusivePtr<stroke_tree::Record>* leafEnd_ = nullptr;
 };
 
 inline StrokeList::Iterator StrokeList::begin() const { return {*this, 0}; }

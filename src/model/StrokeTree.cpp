@@ -9,13 +9,13 @@ namespace {
 /// Makes this owner the only one of the node, by a copy if need be. With every node above owned
 /// likewise, the node may then be changed.
 template <typename NodeType>
-NodeType& own(Ref<Node>& node) {
-    if (!node.isUnique()) node = Ref<NodeType>::make(static_cast<const NodeType&>(*node));
+NodeType& own(IntrusivePtr<Node>& node) {
+    if (!node.isUnique()) node = IntrusivePtr<NodeType>::make(static_cast<const NodeType&>(*node));
     return static_cast<NodeType&>(*node);
 }
 
 template <typename T>
-void closeGap(std::array<Ref<T>, fanOut>& slots, std::size_t at, std::size_t size) {
+void closeGap(std::array<IntrusivePtr<T>, fanOut>& slots, std::size_t at, std::size_t size) {
     std::move(slots.begin() + at + 1, slots.begin() + size, slots.begin() + at);
     slots[size - 1] = {};
 }
@@ -40,14 +40,14 @@ bool hasRoomForLeaf(const Node& node) {
     return branch.childCount < fanOut || hasRoomForLeaf(*branch.last());
 }
 
-Ref<Node> branchOver(Ref<Node> child) {
-    auto branch = Ref<Branch>::make(child->height + 1);
+IntrusivePtr<Node> branchOver(IntrusivePtr<Node> child) {
+    auto branch = IntrusivePtr<Branch>::make(child->height + 1);
     branch->append(std::move(child));
     branch->summarise();
     return branch;
 }
 
-void appendBelow(Ref<Node>& node, Ref<Node> leaf) {
+void appendBelow(IntrusivePtr<Node>& node, IntrusivePtr<Node> leaf) {
     Branch& branch = own<Branch>(node);
     if (hasRoomForLeaf(*branch.last())) {
         appendBelow(branch.last(), std::move(leaf));
@@ -59,7 +59,7 @@ void appendBelow(Ref<Node>& node, Ref<Node> leaf) {
     branch.summarise();
 }
 
-void eraseBelow(Ref<Node>& node, std::size_t index) {
+void eraseBelow(IntrusivePtr<Node>& node, std::size_t index) {
     if (node->isLeaf()) {
         Leaf& leaf = own<Leaf>(node);
         leaf.erase(index);
@@ -68,7 +68,7 @@ void eraseBelow(Ref<Node>& node, std::size_t index) {
     }
     Branch& branch = own<Branch>(node);
     const Place place = findChild(branch, index);
-    Ref<Node>& child = branch.children[place.child];
+    IntrusivePtr<Node>& child = branch.children[place.child];
     eraseBelow(child, place.index);
     if (child->summary.count == 0) branch.erase(place.child);
     branch.summarise();
@@ -82,7 +82,7 @@ Leaf::Leaf(const Leaf& other, std::size_t size) : Node(0), filled(size) {
         boxes.set(i, other.boxes[i]);
 }
 
-bool Leaf::appendAfter(std::size_t known, const Ref<Record>& record) {
+bool Leaf::appendAfter(std::size_t known, const IntrusivePtr<Record>& record) {
     // Two versions on two threads may both want the slot.
     if (known == fanOut || !filled.compare_exchange_strong(known, known + 1)) return false;
     slots[known] = record;
@@ -95,7 +95,7 @@ void Leaf::replace(std::size_t at, Stroke stroke) {
     if (slots[at].isUnique())
         slots[at]->stroke = std::move(stroke);
     else
-        slots[at] = Ref<Record>::make(std::move(stroke));
+        slots[at] = IntrusivePtr<Record>::make(std::move(stroke));
 }
 
 void Leaf::erase(std::size_t at) {
@@ -116,7 +116,7 @@ void Leaf::truncate(std::size_t size) {
 
 void Leaf::summarise() {
     summary = {};
-    for (const Ref<Record>& record : records())
+    for (const IntrusivePtr<Record>& record : records())
         summary.add(StrokeSummary::of(record->stroke));
 }
 
@@ -127,11 +127,11 @@ void Branch::erase(std::size_t at) {
 
 void Branch::summarise() {
     summary = {};
-    for (const Ref<Node>& child : nodes())
+    for (const IntrusivePtr<Node>& child : nodes())
         summary.add(child->summary);
 }
 
-std::span<const Ref<Record>> recordsFrom(const Node& root, std::size_t index) {
+std::span<const IntrusivePtr<Record>> recordsFrom(const Node& root, std::size_t index) {
     const Node* node = &root;
     while (!node->isLeaf()) {
         const Place place = findChild(asBranch(*node), index);
@@ -141,7 +141,7 @@ std::span<const Ref<Record>> recordsFrom(const Node& root, std::size_t index) {
     return asLeaf(*node).records().subspan(index);
 }
 
-void appendLeaf(Ref<Node>& root, Ref<Node> leaf) {
+void appendLeaf(IntrusivePtr<Node>& root, IntrusivePtr<Node> leaf) {
     if (!root) {
         root = std::move(leaf);
         return;
@@ -150,19 +150,19 @@ void appendLeaf(Ref<Node>& root, Ref<Node> leaf) {
     appendBelow(root, std::move(leaf));
 }
 
-void erase(Ref<Node>& root, std::size_t index) {
+void erase(IntrusivePtr<Node>& root, std::size_t index) {
     eraseBelow(root, index);
     if (root->summary.count == 0) {
         root = {};
         return;
     }
     while (!root->isLeaf() && asBranch(*root).childCount == 1) {
-        Ref<Node> child = asBranch(*root).last();
+        IntrusivePtr<Node> child = asBranch(*root).last();
         root = std::move(child);
     }
 }
 
-void replace(Ref<Node>& root, std::size_t index, Stroke stroke) {
+void replace(IntrusivePtr<Node>& root, std::size_t index, Stroke stroke) {
     if (root->isLeaf()) {
         Leaf& leaf = own<Leaf>(root);
         leaf.replace(index, std::move(stroke));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Box.h"
-#include "model/Ref.h"
+#include "model/IntrusivePtr.h"
 #include "model/Stroke.h"
 #include "model/StrokeSummary.h"
 
@@ -91,10 +91,10 @@ struct Leaf : Node {
     /// The first `size` strokes of another leaf.
     Leaf(const Leaf& other, std::size_t size);
 
-    std::span<const Ref<Record>> records() const { return {slots.data(), filled}; }
+    std::span<const IntrusivePtr<Record>> records() const { return {slots.data(), filled}; }
 
     /// Puts the record behind the first `known` ones unless the slot is taken or there is none.
-    bool appendAfter(std::size_t known, const Ref<Record>& record);
+    bool appendAfter(std::size_t known, const IntrusivePtr<Record>& record);
     void replace(std::size_t at, Stroke stroke);
     void erase(std::size_t at);
     void truncate(std::size_t size);
@@ -110,23 +110,23 @@ struct Leaf : Node {
     }
 
     std::atomic<std::size_t> filled = 0;
-    std::array<Ref<Record>, fanOut> slots;
+    std::array<IntrusivePtr<Record>, fanOut> slots;
     LeafBoxes boxes;  ///< of the strokes in the slots
 };
 
 struct Branch : Node {
     explicit Branch(unsigned nodeHeight) : Node(nodeHeight) {}
 
-    std::span<const Ref<Node>> nodes() const { return {children.data(), childCount}; }
-    Ref<Node>& last() { return children[childCount - 1]; }
-    const Ref<Node>& last() const { return children[childCount - 1]; }
+    std::span<const IntrusivePtr<Node>> nodes() const { return {children.data(), childCount}; }
+    IntrusivePtr<Node>& last() { return children[childCount - 1]; }
+    const IntrusivePtr<Node>& last() const { return children[childCount - 1]; }
 
-    void append(Ref<Node> child) { children[childCount++] = std::move(child); }
+    void append(IntrusivePtr<Node> child) { children[childCount++] = std::move(child); }
     void erase(std::size_t at);
     void summarise();
 
     std::size_t childCount = 0;
-    std::array<Ref<Node>, fanOut> children;
+    std::array<IntrusivePtr<Node>, fanOut> children;
 };
 
 inline Leaf& asLeaf(Node& node) { return static_cast<Leaf&>(node); }
@@ -135,15 +135,15 @@ inline Branch& asBranch(Node& node) { return static_cast<Branch&>(node); }
 inline const Branch& asBranch(const Node& node) { return static_cast<const Branch&>(node); }
 
 /// The strokes from an index to the end of their leaf.
-std::span<const Ref<Record>> recordsFrom(const Node& root, std::size_t index);
+std::span<const IntrusivePtr<Record>> recordsFrom(const Node& root, std::size_t index);
 
 /// Appends a leaf that is complete; the root may be absent.
-void appendLeaf(Ref<Node>& root, Ref<Node> leaf);
+void appendLeaf(IntrusivePtr<Node>& root, IntrusivePtr<Node> leaf);
 
 /// Removes a stroke; the root is absent afterwards if that was the last.
-void erase(Ref<Node>& root, std::size_t index);
+void erase(IntrusivePtr<Node>& root, std::size_t index);
 
-void replace(Ref<Node>& root, std::size_t index, Stroke stroke);
+void replace(IntrusivePtr<Node>& root, std::size_t index, Stroke stroke);
 
 /// What StrokeList::visitNear() looks for.
 struct Search {
@@ -183,7 +183,7 @@ bool visit(const Node& node, std::size_t index, const Search& search, Visitor& v
                visit(leaf, leaf.summary.count, index, search, visitor);
     }
     if (!search.reaches(node.summary)) return true;
-    const std::span<const Ref<Node>> children = asBranch(node).nodes();
+    const std::span<const IntrusivePtr<Node>> children = asBranch(node).nodes();
     for (std::size_t i = 0; i < children.size(); ++i) {
         if (node.height == 1 && i + leavesAhead < children.size())
             asLeaf(*children[i + leavesAhead]).prefetch();
