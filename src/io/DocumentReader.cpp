@@ -43,11 +43,12 @@ public:
         const bool isRead = readRoot(document, 0);
         if (!isRead || sawProblem_) {
             // After a problem the parser has skipped text that nobody looked at.
-            if (const auto fault = JsonSyntax::findFault(text_)) return describe(*fault);
+            if (const auto fault = JsonSyntax::findFault(text_))
+                return Unexpected(describe(*fault));
         }
         if (isRead) return document;
         const bool hasPath = !problem_.path.text().empty();
-        return Failure{problem_.path.text() + (hasPath ? ": " : "") + problem_.text};
+        return Unexpected(Failure{problem_.path.text() + (hasPath ? ": " : "") + problem_.text});
     }
 
     /// The document if nothing in it is wrong; why it is not, only read() can say.
@@ -320,8 +321,8 @@ private:
         const auto isCharacterStart = [](char c) { return (c & 0xC0) != 0x80; };
         const auto column = 1 + std::count_if(lastLine.begin(), lastLine.end(), isCharacterStart);
         const std::string& path = fault.path.text();
-        return Failure{(path.empty() ? "" : path + ": ") + "line " + std::to_string(line) +
-                       ", column " + std::to_string(column) + ": " + std::string(fault.reason)};
+        return {(path.empty() ? "" : path + ": ") + "line " + std::to_string(line) + ", column " +
+                std::to_string(column) + ": " + std::string(fault.reason)};
     }
 
     std::string_view text_;

@@ -197,7 +197,7 @@ Result<TextBlocks> writeDocumentData(const DocumentData& document) {
     if (plan.isFinite()) return plan.takeText();
     KeyPath path;
     findNonFinite(document, path);
-    return Failure{path.text() + ": the number is not finite"};
+    return Unexpected(Failure{path.text() + ": the number is not finite"});
 }
 
 }  // namespace marlevo

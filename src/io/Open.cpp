@@ -18,12 +18,12 @@ namespace {
 Result<DocumentData> readDocument(const std::filesystem::path& file) {
     try {
         const auto contents = readWholeFile(file);
-        if (!contents) return Failure{contents.error()};
+        if (!contents) return Unexpected(contents.error());
         auto data = readDocumentData(*contents);
-        if (!data) return Failure{file.string() + ": " + data.error()};
+        if (!data) return Unexpected(Failure{file.string() + ": " + data.error().text});
         return data;
     } catch (const std::bad_alloc&) {
-        return outOfMemoryFailure(file);
+        return Unexpected(outOfMemoryFailure(file));
     }
 }
 
@@ -32,7 +32,7 @@ Result<DocumentData> readDocument(const std::filesystem::path& file) {
 std::optional<DocumentData> loadDrawing(const std::filesystem::path& file, Console* console) {
     auto data = readDocument(file);
     if (data) return *std::move(data);
-    if (console) console->writeLine("Load failed: " + data.error());
+    if (console) console->writeLine("Load failed: " + data.error().text);
     return std::nullopt;
 }
 

@@ -31,8 +31,10 @@ Result<PaddedBytes> readWholeFile(const std::filesystem::path& path) {
     const FileDescriptor file(uninterrupted(
         [&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }));
     struct stat status {};
-    if (!file || ::fstat(file.get(), &status) != 0) return fileFailure(path, lastSystemError());
-    if (!S_ISREG(status.st_mode)) return notRegularFailure(path, S_ISDIR(status.st_mode));
+    if (!file || ::fstat(file.get(), &status) != 0)
+        return Unexpected(fileFailure(path, lastSystemError()));
+    if (!S_ISREG(status.st_mode))
+        return Unexpected(notRegularFailure(path, S_ISDIR(status.st_mode)));
 
     const auto size = static_cast<std::size_t>(status.st_size);
     try {
@@ -40,12 +42,12 @@ Result<PaddedBytes> readWholeFile(const std::filesystem::path& path) {
         std::uint8_t beyond = 0;
         const ssize_t count = readInto(contents.span(), file);
         const ssize_t more = count < 0 ? -1 : readInto({&beyond, 1}, file);
-        if (more < 0) return fileFailure(path, lastSystemError());
+        if (more < 0) return Unexpected(fileFailure(path, lastSystemError()));
         if (static_cast<std::size_t>(count) != size || more != 0)
-            return Failure{path.string() + ": The file changed while it was read"};
+            return Unexpected(Failure{path.string() + ": The file changed while it was read"});
         return contents;
     } catch (const std::bad_alloc&) {
-        return outOfMemoryFailure(path);
+        return Unexpected(outOfMemoryFailure(path));
     }
 }
 

@@ -20,7 +20,7 @@ Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesy
     try {
         return writeDocumentData(document.encodeDocumentData());
     } catch (const std::bad_alloc&) {
-        return outOfMemoryFailure(file);
+        return Unexpected(outOfMemoryFailure(file));
     }
 }
 
@@ -29,9 +29,9 @@ Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesy
 void DrawingDocument::writeDocument(const std::filesystem::path& to) {
     // The whole text before the file is touched.
     const auto text = encodeFile(*this, to);
-    if (!text) return reportFailedSave(services_.console, text.error());
+    if (!text) return reportFailedSave(services_.console, text.error().text);
     auto written = writeWholeFile(to, text->pieces());
-    if (!written) return reportFailedSave(services_.console, written.error());
+    if (!written) return reportFailedSave(services_.console, written.error().text);
 
     flushBehind(services_.flushQueue, std::move(*written),
                 [console = services_.console](const Failure& failure) {

@@ -188,7 +188,7 @@ Result<WrittenFile> writeWholeFile(const std::filesystem::path& file,
         if (const auto error = replacement.write(pieces)) failure = fileFailure(file, error);
     if (failure) {
         replacement.undoCreation();
-        return *failure;
+        return Unexpected(*std::move(failure));
     }
     return WrittenFile(file, replacement.takeSecondDescriptor());
 }

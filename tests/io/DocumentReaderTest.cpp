@@ -67,12 +67,12 @@ Result<DocumentData> read(std::string_view text) { return readDocumentData(Padde
 
 std::string errorOf(std::string_view text) {
     const auto document = read(text);
-    return document ? "accepted" : document.error();
+    return document ? "accepted" : document.error().text;
 }
 
 TEST(DocumentReader, readsEveryField) {
     const auto document = read(sample);
-    ASSERT_TRUE(document) << document.error();
+    ASSERT_TRUE(document) << document.error().text;
     EXPECT_EQ(document->version, 1);
     EXPECT_EQ(document->canvasWidth, 1280);
     EXPECT_EQ(document->canvasHeight, 720);
@@ -118,7 +118,7 @@ TEST(DocumentReader, acceptsWhatSaysTheSameOtherwise) {
     ASSERT_TRUE(expected);
     for (const auto& [what, text] : cases) {
         const auto document = read(text);
-        ASSERT_TRUE(document) << what << ": " << document.error();
+        ASSERT_TRUE(document) << what << ": " << document.error().text;
         EXPECT_TRUE(*document == *expected) << what;
     }
 }
@@ -156,7 +156,7 @@ TEST(DocumentReader, readsNumbersToTheNearestDouble) {
     };
     for (const auto& [text, number] : cases) {
         const auto document = read(sampleWith("1280", text));
-        ASSERT_TRUE(document) << text << ": " << document.error();
+        ASSERT_TRUE(document) << text << ": " << document.error().text;
         EXPECT_EQ(std::bit_cast<std::uint64_t>(document->canvasWidth),
                   std::bit_cast<std::uint64_t>(number))
             << text;
@@ -185,7 +185,7 @@ TEST(DocumentReader, readsNumbersOfAnyLengthLikeTheStandardLibrary) {
         numbers.push_back(std::move(number));
     }
     const auto document = read(sampleWith("10, 20, 300.5, 240", list + ", 1"));
-    ASSERT_TRUE(document) << document.error();
+    ASSERT_TRUE(document) << document.error().text;
     const PointList& points = document->layers[0].strokes[0].points;
     ASSERT_EQ(points.size(), numbers.size() / 2 + 1);
     for (std::size_t i = 0; i < numbers.size(); ++i) {

@@ -14,7 +14,7 @@ namespace {
 
 std::string textOf(const DocumentData& document) {
     const auto text = writeDocumentData(document);
-    return text ? text->joined() : "error: " + text.error();
+    return text ? text->joined() : "error: " + text.error().text;
 }
 
 /// Documents of every shape, with numbers of every kind of bit pattern.
@@ -176,7 +176,7 @@ TEST(DocumentWriter, randomDocumentsComeBackBitForBit) {
         const DocumentData document = RandomDocument(seed).make(seed % 10 == 0 ? 3000 : 8);
         const std::string text = textOf(document);
         const auto copy = readDocumentData(PaddedBytes(text));
-        ASSERT_TRUE(copy) << seed << ": " << copy.error();
+        ASSERT_TRUE(copy) << seed << ": " << copy.error().text;
         EXPECT_TRUE(*copy == document) << seed;
         EXPECT_EQ(textOf(*copy), text) << seed;  // tells −0 from 0, which == does not
     }

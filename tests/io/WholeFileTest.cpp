@@ -22,12 +22,12 @@ std::string errorOfWriting(const fs::path& file, std::string_view text) {
     const std::string_view pieces[] = {text.substr(0, text.size() / 3), "",
                                        text.substr(text.size() / 3)};
     const auto written = writeWholeFile(file, pieces);
-    return written ? "" : written.error();
+    return written ? "" : written.error().text;
 }
 
 std::string errorOfReading(const fs::path& file) {
     const auto contents = readWholeFile(file);
-    return contents ? "" : contents.error();
+    return contents ? "" : contents.error().text;
 }
 
 TEST(WriteWholeFile, replacesShorterAndLongerContentsWhole) {
