@@ -18,8 +18,8 @@ public:
         FlattenedPath lines;
         const bool isFilled = shape.lineWidth == 0;
         flatten(shape.path, DeviceFrame::yDown(1), 0.005, lines,
-                isFilled ? SubPathEnds::joined : SubPathEnds::asGiven);
-        for (const auto& part : lines.subPaths) {
+                isFilled ? OpenContours::close : OpenContours::keep);
+        for (const auto& part : lines.contours) {
             const auto points = lines.pointsOf(part);
             if (isFilled) continue;
             if (part.closed) markNear(points.back(), points.front(), shape.lineWidth / 2);
@@ -78,7 +78,7 @@ private:
             int direction;
         };
         std::vector<std::vector<Crossing>> rows(static_cast<std::size_t>(sceneHeight) * 8);
-        for (const auto& part : lines.subPaths) {
+        for (const auto& part : lines.contours) {
             const auto points = lines.pointsOf(part);
             Point a = points.back();
             for (const Point b : points) {

@@ -97,7 +97,7 @@ struct BitmapContext::Rasterizer {
     }
 
     /// Flattens what can be seen of the path, to `flattened`; false if that is nothing.
-    bool flattenVisible(const Path& path, double reach, SubPathEnds ends) {
+    bool flattenVisible(const Path& path, double reach, OpenContours ends) {
         const VisibleRange visible = visibleRange(target.area, reach);
         if (!isInSight(path, state.frame, visible)) return false;
         flatten(path, state.frame, flatteningTolerance, flattened, ends, visible);
@@ -167,7 +167,7 @@ void BitmapContext::fillRect(const Rect& rect, const Color& color) {
 
 void BitmapContext::fillPath(const Path& path, const Color& color) {
     const PackedColor packed = rasterizer_->pack(color);
-    if (packed.alpha == 0 || !rasterizer_->flattenVisible(path, 0, SubPathEnds::joined)) return;
+    if (packed.alpha == 0 || !rasterizer_->flattenVisible(path, 0, OpenContours::close)) return;
     fillOutline(rasterizer_->flattened, rasterizer_->target, packed);
 }
 
@@ -177,7 +177,7 @@ void BitmapContext::strokePath(const Path& path, const Color& color, double line
     if (packed.alpha == 0 || !pen.isVisible()) return;
 
     if (pen.drawsByDistance()) {
-        if (!rasterizer_->flattenVisible(path, pen.reach(), SubPathEnds::asGiven)) return;
+        if (!rasterizer_->flattenVisible(path, pen.reach(), OpenContours::keep)) return;
         strokeByDistance(rasterizer_->flattened, pen.width, rasterizer_->target, packed);
     } else {
         // A corner of the outline depends on the segments before and behind it.
@@ -195,13 +195,13 @@ std::optional<PackedColor> BitmapContext::holdStroke(const Path& path, const Col
     const Pen pen = rasterizer_->pen(lineWidth);
     if (pen.isVisible() && !pen.drawsByDistance()) return std::nullopt;
     if (packed.alpha > 0 && pen.isVisible() &&
-        rasterizer_->flattenVisible(path, pen.reach(), SubPathEnds::asGiven)) {
+        rasterizer_->flattenVisible(path, pen.reach(), OpenContours::keep)) {
         holdByDistance(rasterizer_->flattened, pen.width, rasterizer_->target.area, packed, held);
     }
     return packed;
 }
 
-void BitmapContext::blendHeld(std::span<const HeldBlock> blocks, PackedColor color) {
+void BitmapContext::blendHeld(std::span<const CoverageBlock> blocks, PackedColor color) {
     marlevo::blendHeld(blocks, rasterizer_->target, color);
 }
 

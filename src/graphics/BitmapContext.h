@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics/Blend.h"
+#include "graphics/DeviceFrame.h"
 #include "graphics/GraphicsContext.h"
 #include "graphics/HeldCoverage.h"
 #include "graphics/PixelBuffer.h"
@@ -10,20 +11,6 @@
 #include <span>
 
 namespace marlevo {
-
-/// How the drawing frame lies on the device plane: device = (x · scaleX + originX,
-/// y · scaleY + originY), device rows counted downwards.
-struct DeviceFrame {
-    double scaleX = 1;
-    double scaleY = 1;
-    double originX = 0;
-    double originY = 0;
-
-    /// The frame of a picture `height` pixels high: origin at its bottom left, y upwards.
-    static DeviceFrame yUp(double height) { return {1, -1, 0, height}; }
-    /// Origin at the top left, y downwards, `scale` device pixels a unit.
-    static DeviceFrame yDown(double scale) { return {scale, scale, 0, 0}; }
-};
 
 /// Draws on pixels that the caller owns.
 ///
@@ -57,7 +44,7 @@ public:
                                           HeldCoverage& held);
 
     /// Blends what was held of one stroke.
-    void blendHeld(std::span<const HeldBlock> blocks, PackedColor color);
+    void blendHeld(std::span<const CoverageBlock> blocks, PackedColor color);
 
 private:
     struct Rasterizer;

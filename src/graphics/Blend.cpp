@@ -24,7 +24,7 @@ HWY_INLINE std::size_t blendCovered(D32 d32, std::uint8_t* HWY_RESTRICT pixels,
     const hn::Repartition<std::uint16_t, D32> d16;
     const hn::Repartition<std::uint8_t, D32> dBytes;
     const hn::Rebind<std::uint8_t, D32> dCoverage;
-    const auto color = spread(d32, loadPixelOfColor(d32, packed));
+    const auto color = unpackBytes(d32, loadPixelOfColor(d32, packed));
     const auto alpha = hn::Set(d16, packed.alpha);
 
     const std::size_t lanes = hn::Lanes(d32);
@@ -50,7 +50,7 @@ HWY_INLINE std::size_t blendFully(D32 d32, std::uint8_t* pixels, std::size_t cou
     const std::size_t lanes = hn::Lanes(d32);
     std::size_t done = 0;
     for (; done + lanes <= count; done += lanes) {
-        const auto below = spread(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * done)));
+        const auto below = unpackBytes(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * done)));
         const auto even = hn::BitCast(d32, mulDiv255(d16, below.even, keep));
         const auto odd = hn::BitCast(d32, mulDiv255(d16, below.odd, keep));
         // No byte overflows into the next: colour ≤ alpha, and at most 255 − alpha is kept.

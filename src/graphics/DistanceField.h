@@ -60,7 +60,7 @@ public:
     /// Calls take(block index) for each touched block of a strip and forgets that it was touched;
     /// `take` leaves the block far.
     template <class Take>
-    void takeTouched(int strip, Take take) {
+    void drain(int strip, Take take) {
         std::uint64_t* const words = touched_.data() + static_cast<std::size_t>(strip) * wordCount_;
         for (int word = 0; word < wordCount_; ++word) {
             for (std::uint64_t bits = words[word]; bits != 0; bits &= bits - 1) {

@@ -127,7 +127,8 @@ void blendLine(std::uint8_t* HWY_RESTRICT pixels, const std::uint8_t* HWY_RESTRI
     const std::size_t lanes = hn::Lanes(d32);
     for (; done + lanes <= count; done += lanes) {
         const auto opacity = both(hn::PromoteTo(d32, hn::LoadU(dOpacity, opacities + done)));
-        auto above = spread(d32, hn::BitCast(d32, hn::LoadU(dBytes, source + channels * done)));
+        auto above =
+            unpackBytes(d32, hn::BitCast(d32, hn::LoadU(dBytes, source + channels * done)));
         above.even = mulDiv255(d16, above.even, opacity);
         above.odd = mulDiv255(d16, above.odd, opacity);
         const auto alpha = both(hn::And(hn::BitCast(d32, above.even), low));
@@ -139,7 +140,7 @@ void blendLine(std::uint8_t* HWY_RESTRICT pixels, const std::uint8_t* HWY_RESTRI
             above.odd = hn::BitCast(d16, hn::RotateRight<16>(hn::BitCast(d32, even)));
         }
         const auto below =
-            spread(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + channels * done)));
+            unpackBytes(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + channels * done)));
         const auto even = hn::Add(above.even, mulDiv255(d16, below.even, keep));
         const auto odd = hn::Add(above.odd, mulDiv255(d16, below.odd, keep));
         const auto blended =

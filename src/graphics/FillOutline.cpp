@@ -1,7 +1,7 @@
 #include "graphics/FillOutline.h"
 
-#include "graphics/CoverageBand.h"
-#include "graphics/OutlineEdges.h"
+#include "graphics/AccumulationBuffer.h"
+#include "graphics/EdgeBuilder.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -23,13 +23,13 @@ public:
 
 private:
     struct Entry {
-        OutlineEdge edge;
+        Edge edge;
         std::int32_t next;  ///< of the same band
     };
     static constexpr std::int32_t none = -1;
 
-    void addEdge(const OutlineEdge& edge);
-    void fileEdge(const OutlineEdge& edge, int band);
+    void addEdge(const Edge& edge);
+    void fileEdge(const Edge& edge, int band);
     void addFiledEdges(int band);
 
     int bandCount() const { return (box_.height() + bandRows_ - 1) / bandRows_; }
@@ -40,13 +40,13 @@ private:
 
     IntRect box_;
     int bandRows_ = 1;
-    CoverageBand band_;
+    AccumulationBuffer band_;
     std::vector<Entry> entries_;
     std::vector<std::int32_t> bandHeads_;
 };
 
 void BandFiller::fill(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color) {
-    const OutlineEdges edges(outline);
+    const EdgeBuilder edges(outline);
     box_ = target.area.intersectedWith(edges.touchedPixels());
     if (box_.isEmpty()) return;
 
@@ -58,7 +58,7 @@ void BandFiller::fill(const FlattenedPath& outline, const PixelBuffer& target, P
         area.bottom = bandBottom(band);
         band_.reset(area);
         if (band == 0)
-            edges.forEach([this](const OutlineEdge& edge) { addEdge(edge); });
+            edges.forEach([this](const Edge& edge) { addEdge(edge); });
         else
             addFiledEdges(band);
         band_.blendInto(target, color);
@@ -66,8 +66,8 @@ void BandFiller::fill(const FlattenedPath& outline, const PixelBuffer& target, P
     }
 }
 
-void BandFiller::addEdge(const OutlineEdge& edge) {
-    constexpr int one = CoverageBand::subpixels;
+void BandFiller::addEdge(const Edge& edge) {
+    constexpr int one = AccumulationBuffer::subpixels;
     if (edge.y1 <= box_.top * one || edge.y0 >= box_.bottom * one ||
         std::min(edge.x0, edge.x1) >= box_.right * one)
         return;
@@ -75,11 +75,11 @@ void BandFiller::addEdge(const OutlineEdge& edge) {
         band_.add(edge);
         if (edge.y1 > bandBottom(0) * one) fileEdge(edge, 1);
     } else {
-        fileEdge(edge, ((edge.y0 >> CoverageBand::subpixelBits) - box_.top) / bandRows_);
+        fileEdge(edge, ((edge.y0 >> AccumulationBuffer::subpixelBits) - box_.top) / bandRows_);
     }
 }
 
-void BandFiller::fileEdge(const OutlineEdge& edge, int band) {
+void BandFiller::fileEdge(const Edge& edge, int band) {
     if (band >= bandCount()) return;
     std::int32_t& head = bandHeads_[static_cast<std::size_t>(band)];
     entries_.push_back({edge, head});
@@ -88,7 +88,7 @@ void BandFiller::fileEdge(const OutlineEdge& edge, int band) {
 
 /// Adds the edges filed for a band and files those that go on for the next.
 void BandFiller::addFiledEdges(int band) {
-    const std::int32_t bottom = bandBottom(band) * CoverageBand::subpixels;
+    const std::int32_t bottom = bandBottom(band) * AccumulationBuffer::subpixels;
     for (std::int32_t at = bandHeads_[static_cast<std::size_t>(band)]; at != none;) {
         Entry& entry = entries_[static_cast<std::size_t>(at)];
         const std::int32_t next = entry.next;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "graphics/Blend.h"
+#include "graphics/FlattenedPath.h"
 #include "graphics/PixelBuffer.h"
-#include "graphics/Polyline.h"
 
 namespace marlevo {
 

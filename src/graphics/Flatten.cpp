@@ -19,7 +19,7 @@ Point lerp(Point a, Point b, double t) { return {a.x + (b.x - a.x) * t, a.y + (b
 /// Builds a FlattenedPath from device points of any size.
 class PolylineBuilder {
 public:
-    PolylineBuilder(SubPathEnds ends, FlattenedPath& out) : ends_(ends), out_(out) {}
+    PolylineBuilder(OpenContours ends, FlattenedPath& out) : ends_(ends), out_(out) {}
 
     void moveTo(Point p) {
         finishSubPath();
@@ -43,14 +43,14 @@ public:
     void close() {
         // The joining segment of points outside the range does not join their images on the border.
         if (!isInRange(current_) || !isInRange(start_)) lineTo(start_);
-        if (isDrawing_) out_.subPaths.back().closed = true;
+        if (isDrawing_) out_.contours.back().closed = true;
         moveTo(start_);
     }
 
     void finishSubPath() {
         if (!isDrawing_) return;
-        FlattenedPath::SubPath& part = out_.subPaths.back();
-        if (ends_ == SubPathEnds::joined && !part.closed) {
+        FlattenedPath::Contour& part = out_.contours.back();
+        if (ends_ == OpenContours::close && !part.closed) {
             if (!isInRange(current_) || !isInRange(start_)) addAlongBorder(current_, start_);
             part.closed = true;
         }
@@ -69,7 +69,7 @@ private:
     }
 
     void begin() {
-        out_.subPaths.push_back({out_.points.size(), 0, false});
+        out_.contours.push_back({out_.points.size(), 0, false});
         out_.points.push_back(nearestInRange(current_));
         isDrawing_ = true;
     }
@@ -89,7 +89,7 @@ private:
         out_.points.push_back(nearestInRange(b));
     }
 
-    SubPathEnds ends_;
+    OpenContours ends_;
     FlattenedPath& out_;
     Point start_;
     Point current_;
@@ -242,7 +242,7 @@ bool canDraw(const DeviceFrame& frame) {
 }  // namespace
 
 void flatten(const Path& path, const DeviceFrame& frame, double tolerance, FlattenedPath& out,
-             SubPathEnds ends, const VisibleRange& visible) {
+             OpenContours ends, const VisibleRange& visible) {
     out.clear();
     if (!canDraw(frame)) return;
     PolylineBuilder builder(ends, out);

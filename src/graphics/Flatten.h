@@ -1,18 +1,18 @@
 #pragma once
 
-#include "graphics/BitmapContext.h"
+#include "graphics/DeviceFrame.h"
+#include "graphics/FlattenedPath.h"
 #include "graphics/Path.h"
-#include "graphics/Polyline.h"
 
 namespace marlevo {
 
 /// How far, in device pixels, a flattened curve may stray from the true one.
 inline constexpr double flatteningTolerance = 0.06;
 
-/// What becomes of a sub-path that is not closed by construction.
-enum class SubPathEnds : unsigned char {
-    asGiven,  ///< it stays open, as a pen draws it
-    joined,   ///< a straight segment joins its last point to its first, as a fill sees it
+/// What flatten() does with an open contour.
+enum class OpenContours : unsigned char {
+    keep,   ///< leaves it open, for a stroke
+    close,  ///< joins its last point to its first by a straight segment, for a fill
 };
 
 /// Where curves need their full number of segments. A curve that lies outside becomes one straight
@@ -33,6 +33,6 @@ struct VisibleRange {
 /// point before it. A frame that is not finite or has a scale of 0 gives an empty path.
 /// A lone move draws nothing; a segment of length zero makes a sub-path of coinciding points.
 void flatten(const Path& path, const DeviceFrame& frame, double tolerance, FlattenedPath& out,
-             SubPathEnds ends = SubPathEnds::asGiven, const VisibleRange& visible = {});
+             OpenContours ends = OpenContours::keep, const VisibleRange& visible = {});
 
 }  // namespace marlevo

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "graphics/CoveredPixels.h"
 #include "graphics/DistanceField.h"
 #include "graphics/IntRect.h"
+#include "graphics/OcclusionMask.h"
 
 #include <array>
 #include <cstdint>
@@ -11,7 +11,7 @@
 namespace marlevo {
 
 /// What one stroke covers of one block of pixels, which lies like those of a DistanceField.
-struct HeldBlock {
+struct CoverageBlock {
     int left = 0;  ///< the block's first pixel on the device plane
     int top = 0;
     std::array<std::uint8_t, DistanceField::blockPixels> coverage{};  ///< row after row
@@ -23,8 +23,8 @@ struct HeldBlock {
 struct HeldCoverage {
     explicit HeldCoverage(const IntRect& area) : covered(area) {}
 
-    CoveredPixels covered;  ///< opaquely, by strokes that were held
-    std::vector<HeldBlock> blocks;
+    OcclusionMask covered;  ///< opaquely, by strokes that were held
+    std::vector<CoverageBlock> blocks;
 };
 
 }  // namespace marlevo

@@ -1,9 +1,9 @@
 // The distances of pixels from line segments, in vectors; included once for each instruction set,
 // hence the guard.
 
-#include "graphics/CoveredPixels.h"
 #include "graphics/DistanceField.h"
-#include "graphics/Polyline.h"
+#include "graphics/FlattenedPath.h"
+#include "graphics/OcclusionMask.h"
 #include "graphics/RoundPen.h"
 #include "graphics/SegmentInStrip.h"
 
@@ -111,7 +111,7 @@ void takeCoverage(Block& block, const RoundPen& pen, std::uint8_t* coverage) {
 class SegmentPainter {
 public:
     /// `covered` may be null.
-    SegmentPainter(DistanceField& field, double reach, const CoveredPixels* covered)
+    SegmentPainter(DistanceField& field, double reach, const OcclusionMask* covered)
         : field_(field), covered_(covered), reach_(reach), left_(field.left() - reach),
           top_(field.top() - reach), right_(field.left() + field.stripCount() * blockWidth + reach),
           bottom_(field.top() + field.blocksPerStrip() * blockHeight + reach) {}
@@ -193,8 +193,8 @@ private:
 
     bool isCovered(int strip, int first, int last) const {
         return covered_ != nullptr &&
-               !covered_->anyOpen(field_.left() + strip * blockWidth,
-                                  field_.top() + first * blockHeight, last - first + 1);
+               !covered_->anyVisible(field_.left() + strip * blockWidth,
+                                     field_.top() + first * blockHeight, last - first + 1);
     }
 
     int toStrip(double x) const {
@@ -205,7 +205,7 @@ private:
     }
 
     DistanceField& field_;
-    const CoveredPixels* covered_;
+    const OcclusionMask* covered_;
     double reach_;
     double left_;
     double top_;
@@ -214,9 +214,9 @@ private:
 };
 
 void addSegments(DistanceField& field, const FlattenedPath& path, double reach,
-                 const CoveredPixels* covered) {
+                 const OcclusionMask* covered) {
     SegmentPainter painter(field, reach, covered);
-    for (const FlattenedPath::SubPath& part : path.subPaths) {
+    for (const FlattenedPath::Contour& part : path.contours) {
         const std::span<const Point> points = path.pointsOf(part);
         if (part.closed || points.size() == 1) painter.add(points.back(), points.front());
         for (std::size_t i = 1; i < points.size(); ++i)

@@ -25,7 +25,7 @@ HWY_INLINE void blendRow(std::uint8_t* pixels, const std::uint8_t* coverage, Pac
     const hn::Rebind<std::uint8_t, decltype(d32)> dCoverage;
     const hn::Repartition<std::uint16_t, decltype(d32)> d16;
     const hn::Repartition<std::uint8_t, decltype(d32)> dBytes;
-    const auto color = spread(d32, loadPixelOfColor(d32, packed));
+    const auto color = unpackBytes(d32, loadPixelOfColor(d32, packed));
     const auto alpha = hn::Set(d16, packed.alpha);
     for (std::size_t i = 0; i < blockWidth; i += hn::Lanes(d32)) {
         const auto below = hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * i));
@@ -69,7 +69,7 @@ HWY_INLINE void takeBlocks(DistanceField& field, const RoundPen& pen, Take take)
     for (int strip = 0; strip < field.stripCount(); ++strip) {
         const int left = field.left() + strip * blockWidth;
         Block* const blocks = field.strip(strip);
-        field.takeTouched(strip, [&](int index) {
+        field.drain(strip, [&](int index) {
             BlockCoverage coverage;
             takeCoverage(blocks[index], pen, coverage.data());
             take(left, field.top() + index * blockHeight, coverage);
@@ -125,14 +125,15 @@ void blendField(DistanceField& field, const RoundPen& pen, const PixelBuffer& ta
 /// Holds what the field covers of pixels that are not covered yet, and makes it far again.
 void holdField(DistanceField& field, const RoundPen& pen, HeldCoverage& held, bool isOpaque) {
     takeBlocks(field, pen, [&](int left, int top, const BlockCoverage& coverage) {
-        if ((held.covered.openPixelsOf(left, top) & coveredBy(coverage.data(), 1)) == 0) return;
+        if ((held.covered.visiblePixelsOf(left, top) & coveredBy(coverage.data(), 1)) == 0) return;
         held.blocks.push_back({left, top, coverage});
-        if (isOpaque) held.covered.addBlock(left, top, coveredBy(coverage.data(), 255));
+        if (isOpaque) held.covered.occlude(left, top, coveredBy(coverage.data(), 255));
     });
 }
 
-void blendBlocks(std::span<const HeldBlock> blocks, const PixelBuffer& target, PackedColor color) {
-    for (const HeldBlock& block : blocks)
+void blendBlocks(std::span<const CoverageBlock> blocks, const PixelBuffer& target,
+                 PackedColor color) {
+    for (const CoverageBlock& block : blocks)
         blendBlock(block.left, block.top, block.coverage, target, color);
 }
 
@@ -177,7 +178,7 @@ IntRect touchedArea(const FlattenedPath& path, double reach, const IntRect& area
 /// which may be left out where all is covered.
 template <typename Take>
 void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& area,
-                 const CoveredPixels* covered, Take take) {
+                 const OcclusionMask* covered, Take take) {
     if (!(deviceWidth > 0) || area.isEmpty()) return;
     const RoundPen pen(deviceWidth);
     const IntRect touched = touchedArea(path, pen.reach, area);
@@ -232,7 +233,8 @@ void holdByDistance(const FlattenedPath& path, double deviceWidth, const IntRect
                 });
 }
 
-void blendHeld(std::span<const HeldBlock> blocks, const PixelBuffer& target, PackedColor color) {
+void blendHeld(std::span<const CoverageBlock> blocks, const PixelBuffer& target,
+               PackedColor color) {
     HWY_DYNAMIC_DISPATCH(blendBlocks)(blocks, target, color);
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "graphics/Blend.h"
-#include "graphics/CoverageMask.h"
+#include "graphics/FlattenedPath.h"
 #include "graphics/HeldCoverage.h"
 #include "graphics/PixelBuffer.h"
-#include "graphics/Polyline.h"
 
 #include <span>
 
@@ -34,7 +33,7 @@ void holdByDistance(const FlattenedPath& path, double deviceWidth, const IntRect
 
 /// Blends what was held of one stroke. Pixels that are covered by what was held before it get bytes
 /// that mean nothing until that is blended too.
-void blendHeld(std::span<const HeldBlock> blocks, const PixelBuffer& target, PackedColor color);
+void blendHeld(std::span<const CoverageBlock> blocks, const PixelBuffer& target, PackedColor color);
 
 /// The pixels that strokeByDistance() may touch.
 IntRect areaByDistance(const FlattenedPath& path, double deviceWidth);

@@ -11,13 +11,13 @@ namespace marlevo {
 namespace {
 
 /// Points of the line nearer together than this part of the tolerance are one.
-constexpr double joinedPart = 0.125;
+constexpr double mergeFraction = 0.125;
 
 /// No arc is finer than this part of its radius, or a vast pen would need endless corners.
-constexpr double finestArc = 1e-6;
+constexpr double minArcFraction = 1e-6;
 
 /// Stands for the infinite tangent of half a turn of 180°.
-constexpr double endlessTangent = 1e12;
+constexpr double maxTangent = 1e12;
 
 struct Segment {
     Point from;
@@ -31,7 +31,7 @@ struct Segment {
     Point normal() const { return {-direction.y, direction.x}; }
 };
 
-double toleranceOf(double radius) { return std::max(flatteningTolerance, finestArc * radius); }
+double toleranceOf(double radius) { return std::max(flatteningTolerance, minArcFraction * radius); }
 
 double dot(Point a, Point b) { return a.x * b.x + a.y * b.y; }
 double cross(Point a, Point b) { return a.x * b.y - a.y * b.x; }
@@ -95,8 +95,8 @@ private:
     }
     void endPolygon() {
         const std::size_t first =
-            out_.subPaths.empty() ? 0 : out_.subPaths.back().first + out_.subPaths.back().count;
-        out_.subPaths.push_back({first, out_.points.size() - first, true});
+            out_.contours.empty() ? 0 : out_.contours.back().first + out_.contours.back().count;
+        out_.contours.push_back({first, out_.points.size() - first, true});
     }
 
     CellEnd cellEnd(double turn, const Segment& neighbour) const;
@@ -113,7 +113,7 @@ private:
 
 void Stroker::collect(std::span<const Point> points, bool closed) {
     segments_.clear();
-    const double shortest = joinedPart * tolerance_;
+    const double shortest = mergeFraction * tolerance_;
     const auto addSegment = [&](Point from, Point to) {
         const double dx = to.x - from.x;
         const double dy = to.y - from.y;
@@ -143,10 +143,10 @@ void Stroker::collect(std::span<const Point> points, bool closed) {
         // cancellation.
         if (cosine >= 0)
             segment.turn = sine / (1 + cosine);
-        else if (std::abs(sine) * endlessTangent > 1 - cosine)
+        else if (std::abs(sine) * maxTangent > 1 - cosine)
             segment.turn = (1 - cosine) / sine;
         else
-            segment.turn = endlessTangent;
+            segment.turn = maxTangent;
         before = &segment;
     }
 }
@@ -244,7 +244,7 @@ void Stroker::addArc(Point center, Point fromNormal, Point toNormal) {
 }
 
 void addSubPaths(const FlattenedPath& line, Stroker& stroker) {
-    for (const auto& part : line.subPaths) {
+    for (const auto& part : line.contours) {
         const auto points = line.pointsOf(part);
         if (!points.empty()) stroker.add(points, part.closed);
     }
@@ -279,6 +279,6 @@ void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double sca
         p = {p.x / stretchX, p.y / stretchY};
 }
 
-double joinedDistance(double deviceWidth) { return joinedPart * toleranceOf(deviceWidth / 2); }
+double mergeDistance(double deviceWidth) { return mergeFraction * toleranceOf(deviceWidth / 2); }
 
 }  // namespace marlevo

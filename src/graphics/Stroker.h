@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics/Polyline.h"
+#include "graphics/FlattenedPath.h"
 
 namespace marlevo {
 
@@ -28,6 +28,6 @@ void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double sca
 
 /// Points of the line at most this far apart, one after the other, are drawn as one, in pixels of
 /// a pen as wide on the device.
-double joinedDistance(double deviceWidth);
+double mergeDistance(double deviceWidth);
 
 }  // namespace marlevo

@@ -1,7 +1,7 @@
 #include "io/PdfContext.h"
 
 #include "graphics/BitmapContext.h"
-#include "graphics/Polyline.h"
+#include "graphics/FlattenedPath.h"
 #include "io/EmbeddableJpeg.h"
 #include "io/PdfPath.h"
 

@@ -108,8 +108,8 @@ void addFlattened(PathWriter& writer, const Path& path, PathUse use, double fart
     const double scale = FlattenedPath::maxCoordinate / farthest;
     FlattenedPath flattened;
     flatten(path, {scale, scale, 0, 0}, flatteningTolerance * scale, flattened,
-            use == PathUse::fill ? SubPathEnds::joined : SubPathEnds::asGiven);
-    for (const FlattenedPath::SubPath& part : flattened.subPaths) {
+            use == PathUse::fill ? OpenContours::close : OpenContours::keep);
+    for (const FlattenedPath::Contour& part : flattened.contours) {
         const auto points = flattened.pointsOf(part);
         const auto place = [scale](Point p) { return Point{p.x / scale, p.y / scale}; };
         writer.move(place(points.front()));

@@ -65,7 +65,7 @@ void StrokeInProgress::startGrowing() {
     const double width = style_->lineWidth * scale_;
     const bool canGrow = style_->shapeType == Stroke::ShapeType::freehand && !style_->isFill &&
                          width > 0 && std::isfinite(width);
-    growing_ = canGrow ? GrowingStroke::make(width) : nullptr;
+    growing_ = canGrow ? IncrementalStroke::make(width) : nullptr;
     curvesDrawn_ = 0;
 }
 
@@ -76,7 +76,7 @@ IntRect StrokeInProgress::grow(std::size_t known) {
     if (count < 2) return {};
     const bool isPlain = std::all_of(
         points_.begin() + static_cast<std::ptrdiff_t>(known), points_.end(), [&](Point p) {
-            constexpr double limit = GrowingStroke::maxCoordinate;
+            constexpr double limit = IncrementalStroke::maxCoordinate;
             return std::abs(p.x * scale_) <= limit && std::abs(p.y * scale_) <= limit;
         });
     if (!isPlain || (growing_ && growing_->bytes() > maxGrowingBytes)) growing_.reset();

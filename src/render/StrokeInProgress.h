@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics/GrowingStroke.h"
+#include "graphics/IncrementalStroke.h"
 #include "graphics/IntRect.h"
 #include "graphics/PixelBuffer.h"
 #include "model/Stroke.h"
@@ -39,8 +39,8 @@ private:
     std::optional<Stroke> style_;
     std::vector<Point> points_;
     double scale_ = 0;
-    std::unique_ptr<GrowingStroke> growing_;  ///< of a stroke that is drawn piece by piece
-    std::size_t curvesDrawn_ = 0;             ///< for good
+    std::unique_ptr<IncrementalStroke> growing_;  ///< of a stroke that is drawn piece by piece
+    std::size_t curvesDrawn_ = 0;                 ///< for good
 };
 
 }  // namespace marlevo

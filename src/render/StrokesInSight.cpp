@@ -1,6 +1,6 @@
 #include "render/StrokesInSight.h"
 
-#include "graphics/ReverseContext.h"
+#include "graphics/FrontToBackContext.h"
 #include "render/PaintedArea.h"
 
 #include <cstddef>
@@ -43,15 +43,15 @@ void StrokesInSight::draw(BitmapContext& context, const DrawStroke& drawStroke) 
     };
     if (strokes.size() < leastInReverse) return drawBelow();
 
-    ReverseContext fromTop(context);
+    FrontToBackContext fromTop(context);
     const std::size_t sampled = below - below / partOfSample;
     while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
-        if (below == sampled && fromTop.openShare() > mostOpenAfterSample) break;
+        if (below == sampled && fromTop.visibleShare() > mostOpenAfterSample) break;
         const Found& next = *strokes[--below];
         if (!fromTop.hides(paintedArea(next.box, scale_))) drawStroke(fromTop, *next.stroke);
     }
     if (!fromTop.hidesAll()) drawBelow();
-    fromTop.finish();
+    fromTop.flush();
 }
 
 }  // namespace marlevo

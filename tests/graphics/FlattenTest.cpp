@@ -12,7 +12,7 @@ namespace marlevo {
 
 namespace {
 
-FlattenedPath flattened(const Path& path, SubPathEnds ends = SubPathEnds::asGiven,
+FlattenedPath flattened(const Path& path, OpenContours ends = OpenContours::keep,
                         DeviceFrame frame = DeviceFrame::yDown(1)) {
     FlattenedPath out;
     flatten(path, frame, flatteningTolerance, out, ends);
@@ -51,8 +51,8 @@ TEST(Flatten, KeepsEllipsesWithinTheTolerance) {
         Path path;
         path.addEllipse({{-radius, -radius}, {2 * radius, 2 * radius}});
         const FlattenedPath lines = flattened(path);
-        ASSERT_EQ(lines.subPaths.size(), 1U);
-        EXPECT_TRUE(lines.subPaths[0].closed);
+        ASSERT_EQ(lines.contours.size(), 1U);
+        EXPECT_TRUE(lines.contours[0].closed);
         for (double angle = 0; angle < 6.3; angle += 0.0137) {
             const Point exact{radius * std::cos(angle), radius * std::sin(angle)};
             ASSERT_LE(distanceToLines(exact, lines), flatteningTolerance * 1.001) << radius;
@@ -69,12 +69,12 @@ TEST(Flatten, SeparatesSubPathsAndDropsLoneMoves) {
     path.move({7, 7});
     path.addLine({7, 7});
     const FlattenedPath lines = flattened(path);
-    ASSERT_EQ(lines.subPaths.size(), 3U);
-    EXPECT_THAT(lines.pointsOf(lines.subPaths[0]), testing::ElementsAre(Point{2, 2}, Point{3, 2}));
-    EXPECT_FALSE(lines.subPaths[0].closed);
-    EXPECT_EQ(lines.subPaths[1].count, 4U);
-    EXPECT_TRUE(lines.subPaths[1].closed);
-    EXPECT_THAT(lines.pointsOf(lines.subPaths[2]), testing::ElementsAre(Point{7, 7}, Point{7, 7}));
+    ASSERT_EQ(lines.contours.size(), 3U);
+    EXPECT_THAT(lines.pointsOf(lines.contours[0]), testing::ElementsAre(Point{2, 2}, Point{3, 2}));
+    EXPECT_FALSE(lines.contours[0].closed);
+    EXPECT_EQ(lines.contours[1].count, 4U);
+    EXPECT_TRUE(lines.contours[1].closed);
+    EXPECT_THAT(lines.pointsOf(lines.contours[2]), testing::ElementsAre(Point{7, 7}, Point{7, 7}));
 }
 
 TEST(Flatten, LinesFromFarAwayKeepTheirPlaceInThePicture) {
@@ -97,7 +97,7 @@ TEST(Flatten, FillsWithFarCornersKeepTheirInside) {
     triangle.move({0, 0});
     triangle.addLine({100, 0});
     triangle.addLine({1e8, 1e7});
-    const FlattenedPath lines = flattened(triangle, SubPathEnds::joined);
+    const FlattenedPath lines = flattened(triangle, OpenContours::close);
     for (const auto& [x, y] : {Point{50, 1}, {90, 8.9}, {200, 10.5}, {200, 19.5}, {101, 0.5}}) {
         const bool isInside = y > (x - 100) * 0.1 && y < x * 0.1 && y > 0;
         EXPECT_EQ(windingNumber(lines, {x, y}) != 0, isInside) << x << ", " << y;
@@ -133,7 +133,7 @@ TEST(Flatten, GivesFinitePointsInRangeForAnyInput) {
             }
         }
         const DeviceFrame frame{value(), value(), value(), value()};
-        const auto ends = round % 2 == 0 ? SubPathEnds::asGiven : SubPathEnds::joined;
+        const auto ends = round % 2 == 0 ? OpenContours::keep : OpenContours::close;
         for (const FlattenedPath& lines : {flattened(path, ends), flattened(path, ends, frame)}) {
             for (const Point& p : lines.points) {
                 ASSERT_LE(std::abs(p.x), FlattenedPath::maxCoordinate);

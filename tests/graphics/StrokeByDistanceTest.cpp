@@ -65,7 +65,7 @@ TEST(StrokeByDistance, VectorsGiveTheBytesOfScalarCode) {
         for (int y = 0; y < size; ++y) {
             for (int x = 0; x < size; ++x) {
                 float least = 1e30F;
-                for (const auto& part : path.subPaths) {
+                for (const auto& part : path.contours) {
                     const auto points = path.pointsOf(part);
                     for (std::size_t i = part.closed ? 0 : 1; i < points.size(); ++i) {
                         const MeasuredSegment line(points[i == 0 ? points.size() - 1 : i - 1],

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "graphics/FlattenedPath.h"
 #include "graphics/PixelBuffer.h"
-#include "graphics/Polyline.h"
 
 #include <algorithm>
 #include <cmath>
@@ -45,7 +45,7 @@ double supersampled(int x, int y, int samples, Inside inside) {
 
 inline int windingNumber(const FlattenedPath& outline, Point p) {
     int winding = 0;
-    for (const auto& part : outline.subPaths) {
+    for (const auto& part : outline.contours) {
         const auto points = outline.pointsOf(part);
         Point a = points.back();
         for (const Point b : points) {
@@ -70,7 +70,7 @@ inline double squaredDistanceToSegment(Point p, Point a, Point b) {
 
 inline double distanceToLines(Point p, const FlattenedPath& lines) {
     double least = std::numeric_limits<double>::infinity();
-    for (const auto& part : lines.subPaths) {
+    for (const auto& part : lines.contours) {
         const auto points = lines.pointsOf(part);
         Point a = part.closed ? points.back() : points.front();
         for (const Point b : points) {
@@ -90,7 +90,7 @@ inline double coverageByRoundPen(int x, int y, const FlattenedPath& lines, doubl
 }
 
 inline void addPolygon(FlattenedPath& path, const std::vector<Point>& points, bool closed = true) {
-    path.subPaths.push_back({path.points.size(), points.size(), closed});
+    path.contours.push_back({path.points.size(), points.size(), closed});
     path.points.insert(path.points.end(), points.begin(), points.end());
 }
 

@@ -121,30 +121,5 @@ TEST(StrokesInSight, MaySpanLargeParts) {
     }
 }
 
-TEST(CoveredPixels, KnowsWhatIsLeftOpen) {
-    const IntRect area{-5, 3, 20, 10};
-    CoveredPixels covered(area);
-    EXPECT_FALSE(covered.containsAll({-5, 3, -4, 4}));
-    EXPECT_TRUE(covered.containsAll({-9, 3, -5, 10}));  // outside
-    EXPECT_EQ(covered.openShare(), 1);
-    for (int y = 2; y < 10; y += 2) {
-        for (int x = -8; x < 20; x += 8)
-            covered.addBlock(x, y, x == 8 && y == 4 ? 0xFFFE : 0xFFFF);
-    }
-    EXPECT_FALSE(covered.containsAll());
-    EXPECT_EQ(covered.openShare(), 1.0 / (25 * 7));
-    EXPECT_TRUE(covered.containsAll({-5, 3, 8, 10}));
-    EXPECT_FALSE(covered.containsAll({-5, 3, 9, 10}));
-    EXPECT_EQ(covered.openPixelsOf(8, 4), 1U);
-    EXPECT_EQ(covered.openPixelsOf(0, 4), 0U);
-    EXPECT_EQ(covered.openPixelsOf(800, 400), 0U);
-    EXPECT_TRUE(covered.anyOpen(8, 2, 4));
-    EXPECT_FALSE(covered.anyOpen(8, 6, 2));
-    EXPECT_FALSE(covered.anyOpen(0, 2, 4));
-    covered.addBlock(8, 4, 1);
-    EXPECT_TRUE(covered.containsAll());
-    covered.addBlock(800, 400, 0xFFFF);  // no matter
-}
-
 }  // namespace
 }  // namespace marlevo

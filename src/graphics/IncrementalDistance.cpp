@@ -1,6 +1,5 @@
-#include "graphics/GrowingStrokeByDistance.h"
+#include "graphics/IncrementalDistance.h"
 
-#include "graphics/CoverageMask.h"
 #include "graphics/StrokeByDistance.h"
 
 #include <algorithm>
@@ -15,13 +14,13 @@ namespace {
 FlattenedPath lineThrough(std::span<const Point> points) {
     FlattenedPath path;
     path.points.assign(points.begin(), points.end());
-    path.subPaths.push_back({0, points.size(), false});
+    path.contours.push_back({0, points.size(), false});
     return path;
 }
 
 }  // namespace
 
-IntRect GrowingStrokeByDistance::extend(std::span<const Point> fixed, Point end) {
+IntRect IncrementalDistance::extend(std::span<const Point> fixed, Point end) {
     const IntRect before = tail_.isEmpty() ? IntRect{} : areaByDistance(tail_, width_);
     std::vector<Point> points;
     if (!tail_.isEmpty()) points.push_back(tail_.points.front());
@@ -36,8 +35,7 @@ IntRect GrowingStrokeByDistance::extend(std::span<const Point> fixed, Point end)
 }
 
 /// Only those that a piece of the line comes near: what holds a slanting line is mostly empty.
-std::vector<GrowingStrokeByDistance::Tile*>
-GrowingStrokeByDistance::tilesAlong(const FlattenedPath& line) {
+std::vector<IncrementalDistance::Tile*> IncrementalDistance::tilesAlong(const FlattenedPath& line) {
     std::vector<Tile*> tiles;
     for (std::size_t i = 1; i < line.points.size(); ++i) {
         const Point a = line.points[i - 1];
@@ -59,7 +57,7 @@ GrowingStrokeByDistance::tilesAlong(const FlattenedPath& line) {
     return tiles;
 }
 
-void GrowingStrokeByDistance::blendInto(const PixelBuffer& target, PackedColor color) const {
+void IncrementalDistance::blendInto(const PixelBuffer& target, PackedColor color) const {
     const auto width = static_cast<std::size_t>(target.area.width());
     std::vector<std::uint8_t> coverage(width * static_cast<std::size_t>(target.area.height()));
     const CoverageMask whole{coverage.data(), target.area.width(), target.area};

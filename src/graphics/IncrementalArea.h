@@ -1,9 +1,9 @@
 #pragma once
 
-#include "graphics/CoverageBand.h"
-#include "graphics/GrowingStroke.h"
-#include "graphics/OutlineEdges.h"
-#include "graphics/Polyline.h"
+#include "graphics/AccumulationBuffer.h"
+#include "graphics/EdgeBuilder.h"
+#include "graphics/FlattenedPath.h"
+#include "graphics/IncrementalStroke.h"
 #include "graphics/TileMap.h"
 
 #include <cstdint>
@@ -17,9 +17,9 @@ namespace marlevo {
 /// along a segment depends on its nearest neighbours only. So the sums of the longer line are those
 /// of the shorter one without the outline of its last few segments, and with the outline that these
 /// have together with what was added.
-class GrowingOutline final : public GrowingStroke {
+class IncrementalArea final : public IncrementalStroke {
 public:
-    explicit GrowingOutline(double deviceWidth) : width_(deviceWidth) {}
+    explicit IncrementalArea(double deviceWidth) : width_(deviceWidth) {}
 
     IntRect extend(std::span<const Point> fixed, Point end) override;
     void blendInto(const PixelBuffer& target, PackedColor color) const override;
@@ -33,7 +33,7 @@ private:
         void takeRowSums();
 
         IntRect area;
-        CoverageBand cells;
+        AccumulationBuffer cells;
         std::vector<std::int32_t> rowSums;  ///< what is added to all that lies right of each row
     };
 
@@ -44,7 +44,7 @@ private:
     static int columnOfTiles(int x) { return x & -tileSide; }
 
     void changeBy(const FlattenedPath& line, Change change);
-    void addEdge(const OutlineEdge& edge);
+    void addEdge(const Edge& edge);
     FlattenedPath lastSegments() const;
     void blendTileRow(const PixelBuffer& target, PackedColor color) const;
 

@@ -10,7 +10,7 @@
 namespace marlevo {
 
 /// A straight edge in 1/256 pixel, from its upper end to its lower one: y0 < y1.
-struct OutlineEdge {
+struct Edge {
     std::int32_t x0 = 0;
     std::int32_t y0 = 0;
     std::int32_t x1 = 0;
@@ -22,7 +22,7 @@ struct OutlineEdge {
 /// Collects the signed area and cover of edges in a band of pixel rows, and turns them into
 /// coverage. What an edge adds to a cell is a function of the edge and the cell alone, never of
 /// the band, and sums of integers do not depend on order.
-class CoverageBand {
+class AccumulationBuffer {
 public:
     static constexpr int subpixelBits = 8;
     static constexpr std::int32_t subpixels = 1 << subpixelBits;
@@ -32,7 +32,7 @@ public:
 
     /// Adds the part of the edge that lies in the band's rows. What is left of the area counts
     /// for all its columns, what is right of it for none. Coordinates are within ±2²⁹.
-    void add(const OutlineEdge& edge);
+    void add(const Edge& edge);
 
     /// Blends `color` on the pixels of `target`, which must hold the whole area, by what has been
     /// collected, and leaves the band empty as after reset().

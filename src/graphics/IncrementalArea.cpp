@@ -1,6 +1,6 @@
-#include "graphics/GrowingOutline.h"
+#include "graphics/IncrementalArea.h"
 
-#include "graphics/CoverageRow.h"
+#include "graphics/AccumulationSweep.h"
 #include "graphics/Stroker.h"
 
 #include <algorithm>
@@ -35,24 +35,24 @@ IntRect areaAround(std::span<const Point> points, double reach) {
 
 }  // namespace
 
-GrowingOutline::Tile::Tile(const IntRect& place)
+IncrementalArea::Tile::Tile(const IntRect& place)
     : area(place), rowSums(static_cast<std::size_t>(tileSide)) {
     cells.reset(place);
 }
 
-void GrowingOutline::Tile::takeRowSums() {
+void IncrementalArea::Tile::takeRowSums() {
     for (int row = 0; row < tileSide; ++row)
         rowSums[static_cast<std::size_t>(row)] = cells.rowSum(area.top + row);
 }
 
-IntRect GrowingOutline::extend(std::span<const Point> fixed, Point end) {
+IntRect IncrementalArea::extend(std::span<const Point> fixed, Point end) {
     std::vector<Point> concerned;
     if (!recent_.empty()) {
         changeBy(lastSegments(), Change::remove);
         concerned.push_back(end_);
     }
     const std::size_t known = recent_.size();
-    const double joined = joinedDistance(width_);
+    const double joined = mergeDistance(width_);
     for (const Point p : fixed) {
         if (!recent_.empty()) {
             const double dx = p.x - recent_.back().x;
@@ -79,25 +79,25 @@ IntRect GrowingOutline::extend(std::span<const Point> fixed, Point end) {
     return changed;
 }
 
-FlattenedPath GrowingOutline::lastSegments() const {
+FlattenedPath IncrementalArea::lastSegments() const {
     FlattenedPath line;
     line.points = recent_;
     line.points.push_back(end_);
-    line.subPaths.push_back({0, line.points.size(), false});
+    line.contours.push_back({0, line.points.size(), false});
     return line;
 }
 
-void GrowingOutline::changeBy(const FlattenedPath& line, Change change) {
+void IncrementalArea::changeBy(const FlattenedPath& line, Change change) {
     strokeOutline(line, width_, 1, 1, outline_);
-    OutlineEdges(outline_).forEach([&](OutlineEdge edge) {
+    EdgeBuilder(outline_).forEach([&](Edge edge) {
         edge.winding *= static_cast<int>(change);
         addEdge(edge);
     });
 }
 
 /// Adds the edge to the tiles through which it goes.
-void GrowingOutline::addEdge(const OutlineEdge& edge) {
-    constexpr int bits = CoverageBand::subpixelBits;
+void IncrementalArea::addEdge(const Edge& edge) {
+    constexpr int bits = AccumulationBuffer::subpixelBits;
     const double slope = double(edge.x1 - edge.x0) / double(edge.y1 - edge.y0);
     const auto xAt = [&](int row) {
         return edge.x0 + slope * (std::clamp(row << bits, edge.y0, edge.y1) - edge.y0);
@@ -114,7 +114,7 @@ void GrowingOutline::addEdge(const OutlineEdge& edge) {
     }
 }
 
-void GrowingOutline::blendInto(const PixelBuffer& target, PackedColor color) const {
+void IncrementalArea::blendInto(const PixelBuffer& target, PackedColor color) const {
     const IntRect seen = target.area.intersectedWith(
         {target.area.left, extent_.top, target.area.right, extent_.bottom});
     for (int top = seen.top, bottom = 0; top < seen.bottom; top = bottom) {
@@ -128,7 +128,7 @@ void GrowingOutline::blendInto(const PixelBuffer& target, PackedColor color) con
 }
 
 /// For a target that lies within one row of tiles.
-void GrowingOutline::blendTileRow(const PixelBuffer& target, PackedColor color) const {
+void IncrementalArea::blendTileRow(const PixelBuffer& target, PackedColor color) const {
     const IntRect& area = target.area;
     const int firstRow = rowOfTiles(area.top);
     std::array<std::uint32_t, tileSide> sums{};  // of all that lies further left
@@ -145,8 +145,8 @@ void GrowingOutline::blendTileRow(const PixelBuffer& target, PackedColor color) 
     const auto passGap = [&](int right) {
         if (right <= done) return;
         for (int y = area.top; y < area.bottom; ++y)
-            blendCoverageRow({nullptr, nullptr, 0, sumAt(y)}, target.pixel(done, y),
-                             static_cast<std::size_t>(right - done), color);
+            sweepRow({nullptr, nullptr, 0, sumAt(y)}, target.pixel(done, y),
+                     static_cast<std::size_t>(right - done), color);
         done = right;
     };
     const int left = std::min(extent_.left, area.left);
@@ -166,7 +166,7 @@ void GrowingOutline::blendTileRow(const PixelBuffer& target, PackedColor color) 
     passGap(area.right);
 }
 
-std::size_t GrowingOutline::bytes() const {
+std::size_t IncrementalArea::bytes() const {
     return tiles_.size() * sizeof(std::int32_t) * tileSide * (tileSide + sumBlockWidth);
 }
 

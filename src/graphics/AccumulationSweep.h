@@ -27,6 +27,6 @@ struct SumRow {
 
 /// Blends `color` on `count` pixels by the part of each that the sums say is covered, and sets the
 /// row's cells and marks to 0.
-void blendCoverageRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor color);
+void sweepRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor color);
 
 }  // namespace marlevo

@@ -1,4 +1,4 @@
-#include "graphics/CoveredPixels.h"
+#include "graphics/OcclusionMask.h"
 
 #include <algorithm>
 #include <bit>
@@ -19,7 +19,7 @@ std::uint16_t bitsBetween(int from, int end, int left) {
 
 }  // namespace
 
-CoveredPixels::CoveredPixels(const IntRect& area)
+OcclusionMask::OcclusionMask(const IntRect& area)
     : area_(area), left_(area.left & -blockWidth), top_(area.top & -blockHeight),
       stripCount_((area.right - left_ + blockWidth - 1) / blockWidth),
       blocksPerStrip_((area.bottom - top_ + blockHeight - 1) / blockHeight),
@@ -41,7 +41,7 @@ CoveredPixels::CoveredPixels(const IntRect& area)
     }
 }
 
-bool CoveredPixels::containsAll(const IntRect& part) const {
+bool OcclusionMask::isOccluded(const IntRect& part) const {
     const IntRect seen = part.intersectedWith(area_);
     if (seen.isEmpty()) return true;
     const int firstBlock = (seen.top - top_) / blockHeight;
@@ -58,7 +58,7 @@ bool CoveredPixels::containsAll(const IntRect& part) const {
     return true;
 }
 
-void CoveredPixels::addBlock(int left, int top, std::uint32_t bits) {
+void OcclusionMask::occlude(int left, int top, std::uint32_t bits) {
     if (!isInside(left, top)) return;
     const int strip = (left - left_) / blockWidth;
     const int block = (top - top_) / blockHeight;

@@ -1,6 +1,6 @@
-#include "graphics/CoverageBand.h"
+#include "graphics/AccumulationBuffer.h"
 
-#include "graphics/CoverageRow.h"
+#include "graphics/AccumulationSweep.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,12 +34,12 @@ void addWrapping(std::int32_t& sum, std::int32_t term) {
 
 /// Where an edge is at the borders of rows and columns. That must not depend on the border before,
 /// or bands would differ, so it is reckoned from the edge's upper end each time.
-struct CoverageBand::EdgeLine {
-    OutlineEdge edge;
+struct AccumulationBuffer::EdgeLine {
+    Edge edge;
     std::int64_t xPerY = 0;
     std::int64_t yPerX = 0;
 
-    explicit EdgeLine(const OutlineEdge& of) : edge(of) {
+    explicit EdgeLine(const Edge& of) : edge(of) {
         const std::int32_t dx = edge.x1 - edge.x0;
         const std::int32_t dy = edge.y1 - edge.y0;
         xPerY = slopeOf(dx, dy);
@@ -55,7 +55,7 @@ struct CoverageBand::EdgeLine {
 };
 
 /// The part of an edge in one row, seen from left to right.
-struct CoverageBand::EdgePiece {
+struct AccumulationBuffer::EdgePiece {
     std::int32_t topY;
     std::int32_t bottomY;
     bool leansRight;
@@ -78,14 +78,14 @@ struct CoverageBand::EdgePiece {
 };
 
 /// The cells and marks of a row from its first column on.
-struct CoverageBand::RowStart {
+struct AccumulationBuffer::RowStart {
     std::int32_t* cells;
     std::uint8_t* dirty;
 
     void markDirty(std::int32_t column) const { dirty[column / sumBlockWidth] = dirtyMark; }
 };
 
-void CoverageBand::reset(const IntRect& area) {
+void AccumulationBuffer::reset(const IntRect& area) {
     area_ = area;
     // An edge in the last column writes up to two cells behind it.
     const std::size_t blocks =
@@ -102,7 +102,7 @@ void CoverageBand::reset(const IntRect& area) {
     reserve(dirty_, rows * rowMarks_);
 }
 
-void CoverageBand::add(const OutlineEdge& edge) {
+void AccumulationBuffer::add(const Edge& edge) {
     const std::int32_t top = std::max(edge.y0, area_.top * subpixels);
     const std::int32_t bottom = std::min(edge.y1, area_.bottom * subpixels);
     if (top >= bottom || std::min(edge.x0, edge.x1) >= area_.right * subpixels) return;
@@ -131,7 +131,8 @@ void CoverageBand::add(const OutlineEdge& edge) {
 
 /// Adds a piece that touches at most two cells, both in the area, without any branch: the commonest
 /// kind, and which of the two it is cannot be predicted.
-inline void CoverageBand::addPair(RowStart row, const EdgePiece& piece, const EdgeLine& line) {
+inline void AccumulationBuffer::addPair(RowStart row, const EdgePiece& piece,
+                                        const EdgeLine& line) {
     const std::int32_t border = piece.left - piece.enteredAt + subpixels;
     const std::int32_t beyond = std::max(piece.right - border, 0);
     const std::int32_t atBorder =
@@ -152,7 +153,7 @@ inline void CoverageBand::addPair(RowStart row, const EdgePiece& piece, const Ed
 /// Adds any piece, cell by cell from left to right.
 ///
 /// Takes copies, because what is never referred to stays in registers.
-void CoverageBand::addPiece(std::size_t row, EdgePiece piece, EdgeLine line) {
+void AccumulationBuffer::addPiece(std::size_t row, EdgePiece piece, EdgeLine line) {
     const std::int32_t width = area_.width();
     if (piece.lastColumn < 0) {
         addWrapping(leftCover_[row], (piece.rightY - piece.leftY) * piece.winding * 2 * subpixels);
@@ -191,19 +192,19 @@ void CoverageBand::addPiece(std::size_t row, EdgePiece piece, EdgeLine line) {
     if (column < width) addToCell(piece.rightY, piece.right & (subpixels - 1));
 }
 
-void CoverageBand::blendInto(const PixelBuffer& target, PackedColor color) {
+void AccumulationBuffer::blendInto(const PixelBuffer& target, PackedColor color) {
     const auto width = static_cast<std::size_t>(area_.width());
     for (int y = area_.top; y < area_.bottom; ++y) {
         const auto row = static_cast<std::size_t>(y - area_.top);
-        blendCoverageRow({&cells_[row * rowCells_], &dirty_[row * rowMarks_], rowMarks_,
-                          std::exchange(leftCover_[row], 0)},
-                         target.pixel(area_.left, y), width, color);
+        sweepRow({&cells_[row * rowCells_], &dirty_[row * rowMarks_], rowMarks_,
+                  std::exchange(leftCover_[row], 0)},
+                 target.pixel(area_.left, y), width, color);
     }
 }
 
-std::int32_t CoverageBand::rowSum(int y) const { return sumOfCells(y, rowCells_); }
+std::int32_t AccumulationBuffer::rowSum(int y) const { return sumOfCells(y, rowCells_); }
 
-std::int32_t CoverageBand::sumOfCells(int y, std::size_t count) const {
+std::int32_t AccumulationBuffer::sumOfCells(int y, std::size_t count) const {
     const std::int32_t* const cells = &cells_[static_cast<std::size_t>(y - area_.top) * rowCells_];
     std::uint32_t sum = 0;
     for (std::size_t i = 0; i < count; ++i)
@@ -211,8 +212,8 @@ std::int32_t CoverageBand::sumOfCells(int y, std::size_t count) const {
     return static_cast<std::int32_t>(sum);
 }
 
-void CoverageBand::blendRow(int y, int left, int right, std::int32_t before, std::uint8_t* pixels,
-                            PackedColor color) const {
+void AccumulationBuffer::blendRow(int y, int left, int right, std::int32_t before,
+                                  std::uint8_t* pixels, PackedColor color) const {
     // A copy, which blending clears.
     thread_local std::vector<std::int32_t> copy;
     thread_local std::vector<std::uint8_t> dirty;
@@ -226,7 +227,7 @@ void CoverageBand::blendRow(int y, int left, int right, std::int32_t before, std
     std::copy_n(cells + first, count, copy.begin());
     std::fill_n(dirty.begin(), blocks, dirtyMark);
     addWrapping(before, sumOfCells(y, first));
-    blendCoverageRow({copy.data(), dirty.data(), marks, before}, pixels, count, color);
+    sweepRow({copy.data(), dirty.data(), marks, before}, pixels, count, color);
 }
 
 }  // namespace marlevo

@@ -1,4 +1,4 @@
-#include "graphics/CoverageRow.h"
+#include "graphics/AccumulationSweep.h"
 
 #include <algorithm>
 #include <bit>
@@ -6,13 +6,13 @@
 
 // Compiles this file once for each instruction set; must come before what includes Highway.
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "graphics/CoverageRow.cpp"
+#define HWY_TARGET_INCLUDE "graphics/AccumulationSweep.cpp"
 #include <hwy/foreach_target.h>
 // After foreach_target.h, which says what to compile it for.
 #include "graphics/BlendVector-inl.h"
 
-#ifndef MARLEVO_GRAPHICS_COVERAGE_ROW_ONCE
-#define MARLEVO_GRAPHICS_COVERAGE_ROW_ONCE
+#ifndef MARLEVO_GRAPHICS_ACCUMULATION_SWEEP_ONCE
+#define MARLEVO_GRAPHICS_ACCUMULATION_SWEEP_ONCE
 namespace marlevo {
 namespace {
 
@@ -52,7 +52,7 @@ namespace {
 class CellBlender {
 public:
     explicit CellBlender(PackedColor color)
-        : packed_(color), color_(spread(d32, loadPixelOfColor(d32, color))),
+        : packed_(color), color_(unpackBytes(d32, loadPixelOfColor(d32, color))),
           alpha_(hn::Set(d16, color.alpha)) {}
 
     std::int32_t blendCells(std::int32_t* HWY_RESTRICT cells, std::size_t count,
@@ -117,7 +117,7 @@ private:
     }
 
     PackedColor packed_;
-    SpreadPixels<hn::VFromD<hn::Repartition<std::uint16_t, D32>>> color_;
+    UnpackedPixels<hn::VFromD<hn::Repartition<std::uint16_t, D32>>> color_;
     hn::VFromD<hn::Repartition<std::uint16_t, D32>> alpha_;
 };
 
@@ -187,7 +187,7 @@ namespace marlevo {
 
 HWY_EXPORT(blendRow);
 
-void blendCoverageRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor color) {
+void sweepRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor color) {
     HWY_DYNAMIC_DISPATCH(blendRow)(row, pixels, count, color);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "graphics/CoverageBand.h"
-#include "graphics/Polyline.h"
+#include "graphics/AccumulationBuffer.h"
+#include "graphics/FlattenedPath.h"
 
 #include <algorithm>
 #include <array>
@@ -12,21 +12,21 @@
 
 namespace marlevo {
 
-/// Takes an outline apart into the edges that a CoverageBand adds up, with corners rounded to its
-/// subpixels. Each sub-path counts as closed; what lies beyond `limit` is moved to that border.
-class OutlineEdges {
+/// Takes an outline apart into the edges that a AccumulationBuffer adds up, with corners rounded to
+/// its subpixels. Each sub-path counts as closed; what lies beyond `limit` is moved to that border.
+class EdgeBuilder {
 public:
     /// Where edges end, in pixels: in subpixels the difference of any two coordinates still fits
     /// 31 bits.
     static constexpr double limit = 1 << 21;
 
-    explicit OutlineEdges(const FlattenedPath& outline) : outline_(outline) {
+    explicit EdgeBuilder(const FlattenedPath& outline) : outline_(outline) {
         for (const Point p : outline.points) {
             minX_ = std::min(minX_, p.x);
             minY_ = std::min(minY_, p.y);
             maxX_ = std::max(maxX_, p.x);
             maxY_ = std::max(maxY_, p.y);
-            poison_ += (p.x - p.x) + (p.y - p.y);
+            nonFinite_ += (p.x - p.x) + (p.y - p.y);
         }
     }
 
@@ -45,9 +45,9 @@ public:
             const bool isDown = from.y < to.y;
             const SubpixelPoint upper = isDown ? from : to;
             const SubpixelPoint lower = isDown ? to : from;
-            add(OutlineEdge{upper.x, upper.y, lower.x, lower.y, isDown ? 1 : -1});
+            add(Edge{upper.x, upper.y, lower.x, lower.y, isDown ? 1 : -1});
         };
-        for (const auto& part : outline_.subPaths) {
+        for (const auto& part : outline_.contours) {
             const auto points = outline_.pointsOf(part);
             if (points.size() < 2) continue;
             if (isWithinLimit())
@@ -68,13 +68,14 @@ private:
             // Truncation of a positive number is a floor, and a machine instruction.
             constexpr std::int64_t bias = std::int64_t{1} << 32;
             return static_cast<std::int32_t>(
-                static_cast<std::int64_t>(v * CoverageBand::subpixels + (double(bias) + 0.5)) -
+                static_cast<std::int64_t>(v * AccumulationBuffer::subpixels +
+                                          (double(bias) + 0.5)) -
                 bias);
         }
     };
 
     bool isWithinLimit() const {
-        return poison_ == 0 && minX_ >= -limit && minY_ >= -limit && maxX_ <= limit &&
+        return nonFinite_ == 0 && minX_ >= -limit && minY_ >= -limit && maxX_ <= limit &&
                maxY_ <= limit;
     }
 
@@ -137,7 +138,7 @@ private:
     double minY_ = limit;
     double maxX_ = -limit;
     double maxY_ = -limit;
-    double poison_ = 0;  ///< not a number if a coordinate is not finite
+    double nonFinite_ = 0;  ///< not a number if a coordinate is not finite
 };
 
 }  // namespace marlevo

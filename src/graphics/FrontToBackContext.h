@@ -11,28 +11,28 @@ namespace marlevo {
 
 /// Draws from the top down: each operation comes to lie below those before it.
 ///
-/// Keeps what they cover until finish(), except where opaque strokes hide it: where these lie in
+/// Keeps what they cover until flush(), except where opaque strokes hide it: where these lie in
 /// many layers over each other, the lower ones cost little. The pixels get the bytes that the
 /// operations give in reverse order on the other context. To be used once.
-class ReverseContext final : public GraphicsContext {
+class FrontToBackContext final : public GraphicsContext {
 public:
-    /// Draws on what `target` draws on and in its frame, which must stay as it is until finish().
-    explicit ReverseContext(BitmapContext& target) : target_(target), held_(target.area()) {}
+    /// Draws on what `target` draws on and in its frame, which must stay as it is until flush().
+    explicit FrontToBackContext(BitmapContext& target) : target_(target), held_(target.area()) {}
 
     /// Whether nothing that comes now can be seen in this part of the area, as far as it is known.
-    bool hides(const IntRect& part) const { return held_.covered.containsAll(part); }
-    bool hidesAll() const { return held_.covered.containsAll(); }
+    bool hides(const IntRect& part) const { return held_.covered.isOccluded(part); }
+    bool hidesAll() const { return held_.covered.isOccluded(); }
 
     /// The share of the area's pixels where something that comes now may be seen.
-    double openShare() const { return held_.covered.openShare(); }
+    double visibleShare() const { return held_.covered.visibleShare(); }
 
-    /// Whether it holds so much that finish() should come now.
+    /// Whether it holds so much that flush() should come now.
     bool isFull() const {
         return held_.blocks.size() >= maxHeldBlocks || heldElements_ >= maxHeldElements;
     }
 
     /// Blends all that was drawn over the pixels, on which what lies below must be drawn by now.
-    void finish();
+    void flush();
 
     void saveState() override { target_.saveState(); }
     void restoreState() override { target_.restoreState(); }
@@ -54,7 +54,7 @@ private:
     };
 
     template <typename Draw>
-    void hold(Draw draw);
+    void defer(Draw draw);
 
     BitmapContext& target_;
     HeldCoverage held_;

@@ -18,25 +18,25 @@ public:
 
     /// A run of at least one point. A closed one has a segment from its last point to its first,
     /// which is not repeated in `points`; a single point is a dot when stroked.
-    struct SubPath {
+    struct Contour {
         std::size_t first = 0;
         std::size_t count = 0;
         bool closed = false;
     };
 
     std::vector<Point> points;
-    std::vector<SubPath> subPaths;
+    std::vector<Contour> contours;
 
-    std::span<const Point> pointsOf(const SubPath& part) const {
+    std::span<const Point> pointsOf(const Contour& part) const {
         return {points.data() + part.first, part.count};
     }
 
-    bool isEmpty() const { return subPaths.empty(); }
+    bool isEmpty() const { return contours.empty(); }
 
     /// Empties the path and keeps its memory for the next one.
     void clear() {
         points.clear();
-        subPaths.clear();
+        contours.clear();
     }
 };
 

@@ -13,22 +13,22 @@ namespace marlevo {
 /// A set of pixels of a rectangle: those of which nothing that lies below can be seen.
 ///
 /// Pixels lie in blocks like those of a DistanceField, with a bit for each.
-class CoveredPixels {
+class OcclusionMask {
 public:
     /// None of the pixels in `area`; those outside count as covered.
-    explicit CoveredPixels(const IntRect& area);
+    explicit OcclusionMask(const IntRect& area);
 
     /// Looks at whole blocks: false if one that the part touches has a pixel that is not covered.
-    bool containsAll(const IntRect& part) const;
-    bool containsAll() const { return openPixels_ == 0; }
+    bool isOccluded(const IntRect& part) const;
+    bool isOccluded() const { return openPixels_ == 0; }
 
     /// The share of the area's pixels that are not covered.
-    double openShare() const {
+    double visibleShare() const {
         return double(openPixels_) / std::max(area_.width() * area_.height(), 1);
     }
 
-    /// Which pixels of the block at a device position are not covered, in the order of addBlock().
-    std::uint32_t openPixelsOf(int left, int top) const {
+    /// Which pixels of the block at a device position are not covered, in the order of occlude().
+    std::uint32_t visiblePixelsOf(int left, int top) const {
         return isInside(left, top) ? open_[indexOf((left - left_) / DistanceField::blockWidth,
                                                    (top - top_) / DistanceField::blockHeight)]
                                    : 0U;
@@ -36,7 +36,7 @@ public:
 
     /// Whether any of `count` blocks below each other, the uppermost at a device position within
     /// the area, has a pixel that is not covered.
-    bool anyOpen(int left, int top, int count) const {
+    bool anyVisible(int left, int top, int count) const {
         const std::uint64_t* const words =
             openBlocks_.data() + wordOf((left - left_) / DistanceField::blockWidth, 0);
         const int first = (top - top_) / DistanceField::blockHeight;
@@ -51,7 +51,7 @@ public:
 
     /// Adds those pixels of the block at a device position whose bits are set: the lowest bit
     /// stands for the block's first pixel, row after row. Blocks outside the area are no matter.
-    void addBlock(int left, int top, std::uint32_t bits);
+    void occlude(int left, int top, std::uint32_t bits);
 
 private:
     using Bits = std::uint16_t;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "graphics/GrowingStroke.h"
-#include "graphics/Polyline.h"
+#include "graphics/FlattenedPath.h"
+#include "graphics/IncrementalStroke.h"
 #include "graphics/TileMap.h"
 
 #include <cstdint>
@@ -11,9 +11,9 @@ namespace marlevo {
 
 /// A growing stroke as strokeByDistance() draws it. There a pixel's coverage is that of the nearest
 /// segment, so the coverage of a line is the greatest one of its pieces.
-class GrowingStrokeByDistance final : public GrowingStroke {
+class IncrementalDistance final : public IncrementalStroke {
 public:
-    explicit GrowingStrokeByDistance(double deviceWidth) : width_(deviceWidth) {}
+    explicit IncrementalDistance(double deviceWidth) : width_(deviceWidth) {}
 
     IntRect extend(std::span<const Point> fixed, Point end) override;
     void blendInto(const PixelBuffer& target, PackedColor color) const override;

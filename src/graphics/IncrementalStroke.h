@@ -13,14 +13,14 @@ namespace marlevo {
 /// A line drawn with a round pen that grows at its end, kept as what it covers of each pixel, so
 /// that showing it costs no more the longer it gets. At each moment it gives pixels the very bytes
 /// that BitmapContext::strokePath gives them for the whole line.
-class GrowingStroke {
+class IncrementalStroke {
 public:
     static constexpr double maxCoordinate = 1 << 16;
 
-    virtual ~GrowingStroke() = default;
+    virtual ~IncrementalStroke() = default;
 
     /// A stroke without a line, for a pen `deviceWidth` pixels wide, a positive number.
-    static std::unique_ptr<GrowingStroke> make(double deviceWidth);
+    static std::unique_ptr<IncrementalStroke> make(double deviceWidth);
 
     /// Adds `fixed` to the line for good and lets it go on straight to `end` until the next call.
     /// The first call must fix a point. Points on the device plane, as flattening gives them,
