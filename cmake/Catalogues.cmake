@@ -2,7 +2,7 @@
 # :/translations.
 file(GLOB catalogues CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/*.ts)
 qt_add_translation(compiled_catalogues ${catalogues})
-qt_add_resources(marlevo_ui catalogues PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR}
+qt_add_resources(marlevo_ui_windows catalogues PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR}
   FILES ${compiled_catalogues})
 
 # Collects the texts of the sources into a catalogue; to be followed by its file.

@@ -24,7 +24,7 @@ install(FILES ${packaging}/marlevo-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}
   RENAME marlevo.xml)
 install(FILES ${packaging}/marlevo.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
   RENAME org.marlevo.marlevo.metainfo.xml)
-install(FILES ${PROJECT_SOURCE_DIR}/src/ui/icons/marlevo.svg
+install(FILES ${PROJECT_SOURCE_DIR}/src/ui/controls/icons/marlevo.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${PROJECT_BINARY_DIR}/packaging/marlevo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${packaging}/copyright ${PROJECT_BINARY_DIR}/packaging/changelog.gz

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/ui/Pointer.h"
-#include "ui/DocumentWindow.h"
+#include "ui/windows/DocumentWindow.h"
 
 #include <vector>
 

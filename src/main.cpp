@@ -9,10 +9,10 @@
 #include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtSleepingClock.h"
 #include "platform/qt/QtStrings.h"
-#include "ui/Icons.h"
-#include "ui/MarlevoApp.h"
-#include "ui/MarlevoStyle.h"
-#include "ui/Translations.h"
+#include "ui/controls/Icons.h"
+#include "ui/controls/MarlevoStyle.h"
+#include "ui/windows/MarlevoApp.h"
+#include "ui/windows/Translations.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -7,9 +7,9 @@
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtStrings.h"
-#include "ui/DocumentWindow.h"
-#include "ui/MarlevoApp.h"
-#include "ui/Translations.h"
+#include "ui/windows/DocumentWindow.h"
+#include "ui/windows/MarlevoApp.h"
+#include "ui/windows/Translations.h"
 
 #include <filesystem>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "tests/ui/Pointer.h"
-#include "ui/Colors.h"
-#include "ui/DocumentWindow.h"
-#include "ui/MarlevoApp.h"
+#include "ui/controls/Colors.h"
+#include "ui/windows/DocumentWindow.h"
+#include "ui/windows/MarlevoApp.h"
 
 #include <QScreen>
 

@@ -1,6 +1,6 @@
 #include "tests/ui/Pointer.h"
-#include "ui/DocumentWindow.h"
-#include "ui/MarlevoApp.h"
+#include "ui/windows/DocumentWindow.h"
+#include "ui/windows/MarlevoApp.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "tests/ui/RunningApp.h"
-#include "ui/IconButton.h"
-#include "ui/Translations.h"
+#include "ui/controls/IconButton.h"
+#include "ui/windows/Translations.h"
 
 #include <QFile>
 #include <QLineEdit>

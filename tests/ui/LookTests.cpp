@@ -1,6 +1,6 @@
-#include "ui/RowShares.h"
-#include "ui/SemanticColors.h"
-#include "ui/TextLabel.h"
+#include "ui/controls/RowShares.h"
+#include "ui/controls/SemanticColors.h"
+#include "ui/controls/TextLabel.h"
 
 #include <QApplication>
 #include <QTest>

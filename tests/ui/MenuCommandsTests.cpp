@@ -1,5 +1,5 @@
 #include "tests/ui/RunningApp.h"
-#include "ui/SettingsWindow.h"
+#include "ui/windows/SettingsWindow.h"
 
 #include <QLineEdit>
 

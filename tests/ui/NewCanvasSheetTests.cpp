@@ -1,7 +1,7 @@
 #include "tests/ui/RunningApp.h"
-#include "ui/CNumber.h"
-#include "ui/NewCanvasSheet.h"
-#include "ui/PresetRow.h"
+#include "ui/windows/CNumber.h"
+#include "ui/windows/NewCanvasSheet.h"
+#include "ui/windows/PresetRow.h"
 
 using namespace marlevo;
 

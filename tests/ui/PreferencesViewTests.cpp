@@ -1,5 +1,5 @@
 #include "tests/ui/RunningApp.h"
-#include "ui/PreferencesView.h"
+#include "ui/windows/PreferencesView.h"
 
 using namespace marlevo;
 

@@ -2,8 +2,8 @@
 
 #include "platform/qt/QtImageCodec.h"
 #include "tests/support/FakeServices.h"
-#include "ui/DocumentWindow.h"
-#include "ui/MarlevoApp.h"
+#include "ui/windows/DocumentWindow.h"
+#include "ui/windows/MarlevoApp.h"
 
 #include <QMenu>
 #include <QTest>

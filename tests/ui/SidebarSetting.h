@@ -2,7 +2,7 @@
 
 #include "tests/support/FakeServices.h"
 #include "tests/support/ManualQueue.h"
-#include "ui/SidebarView.h"
+#include "ui/sidebar/SidebarView.h"
 
 #include <QAbstractButton>
 #include <QTest>

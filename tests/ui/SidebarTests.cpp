@@ -1,11 +1,11 @@
 #include "tests/ui/SidebarSetting.h"
-#include "ui/ColorSwatch.h"
-#include "ui/Colors.h"
-#include "ui/ExportPopover.h"
-#include "ui/LabeledSlider.h"
-#include "ui/LayerRow.h"
-#include "ui/ModeButton.h"
-#include "ui/SemanticColors.h"
+#include "ui/controls/ColorSwatch.h"
+#include "ui/controls/Colors.h"
+#include "ui/controls/LabeledSlider.h"
+#include "ui/controls/ModeButton.h"
+#include "ui/controls/SemanticColors.h"
+#include "ui/sidebar/ExportPopover.h"
+#include "ui/sidebar/LayerRow.h"
 
 #include <QAccessible>
 #include <QApplication>

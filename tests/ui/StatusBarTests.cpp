@@ -1,6 +1,6 @@
 #include "tests/ui/RunningApp.h"
-#include "ui/SmallButton.h"
-#include "ui/ZoomRange.h"
+#include "ui/canvas/ZoomRange.h"
+#include "ui/controls/SmallButton.h"
 
 #include <QAccessible>
 #include <QScrollBar>

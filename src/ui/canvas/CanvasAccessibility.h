@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/Follower.h"
+
+#include <QTimer>
+
+class QWidget;
+
+namespace marlevo {
+
+/// Presents status bars and canvas views to assistive technology. A canvas is described by its
+/// size, the chosen tools and the number of strokes at the time of the question. Must be called
+/// before the first of them is shown; further calls do nothing.
+void installCanvasAccessibility();
+
+/// Notifies assistive technology, if any is active, that the description of a canvas may have
+/// changed: once for all changes within 0.2 s.
+class CanvasDescriptionChanges final {
+public:
+    /// The document and the canvas must outlive the object.
+    CanvasDescriptionChanges(DrawingDocument& document, QWidget& canvas);
+
+private:
+    QTimer soon_;
+    Follower follower_;
+};
+
+}  // namespace marlevo

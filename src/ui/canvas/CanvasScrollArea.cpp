@@ -1,0 +1,129 @@
+#include "ui/canvas/CanvasScrollArea.h"
+
+#include "ui/canvas/DisplaySize.h"
+#include "ui/controls/DropShadow.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int scrollStep = 20;
+constexpr int ringWidth = 2;
+
+static_assert(DropShadow::reach <= CanvasScrollArea::margin);
+
+QSize wholePoints(QSizeF size) {
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+void setUpScrollBar(QScrollBar& bar, int content, int room) {
+    bar.setRange(0, std::max(0, content - room));
+    bar.setPageStep(room);
+    bar.setSingleStep(scrollStep);
+}
+
+/// Where `length` starts: centred when there is room, else as far as the bar says.
+int start(int length, int room, const QScrollBar& bar) {
+    const int content = length + 2 * CanvasScrollArea::margin;
+    return content <= room ? (room - length) / 2 : CanvasScrollArea::margin - bar.value();
+}
+
+}  // namespace
+
+CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, QWidget* parent)
+    : QAbstractScrollArea(parent), document_(document), view_(document, viewport()),
+      layoutFollower_(document, [this] { layOut(); }), descriptionChanges_(document, view_),
+      focusRing_(this) {
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setBackgroundRole(QPalette::Window);
+    viewport()->setAutoFillBackground(true);
+    setAccessibleName(tr("Drawing area"));
+    focusRing_.setBackgroundRole(QPalette::Highlight);
+    focusRing_.setAutoFillBackground(true);
+    focusRing_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    focusRing_.hide();
+}
+
+QSize CanvasScrollArea::sizeHint() const {
+    const QSize canvas = wholePoints(displaySize(document_.canvasSize, document_.zoom));
+    return canvas + QSize(2 * margin, 2 * margin);
+}
+
+void CanvasScrollArea::resizeEvent(QResizeEvent* event) {
+    QAbstractScrollArea::resizeEvent(event);
+    layOut();
+    focusRing_.setGeometry(rect());
+    const QRect hole = rect().marginsRemoved({ringWidth, ringWidth, ringWidth, ringWidth});
+    focusRing_.setMask(QRegion(rect()) - hole);
+}
+
+void CanvasScrollArea::moveEvent(QMoveEvent* event) {
+    QAbstractScrollArea::moveEvent(event);
+    layOut();
+}
+
+// Who clicks into the drawing sees where he is.
+void CanvasScrollArea::focusInEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusInEvent(event);
+    const bool isByKey =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    focusRing_.setVisible(isByKey);
+    focusRing_.raise();
+}
+
+void CanvasScrollArea::focusOutEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    focusRing_.hide();
+}
+
+void CanvasScrollArea::scrollContentsBy(int, int) { layOut(); }
+
+void CanvasScrollArea::layOut() {
+    const QSize canvas = wholePoints(displaySize(document_.canvasSize, document_.zoom));
+    const QSize content = canvas + QSize(2 * margin, 2 * margin);
+    // A bar that is shown must not be what makes it needed.
+    const QSize most = maximumViewportSize();
+    const bool fits = content.width() <= most.width() && content.height() <= most.height();
+    // Each range may show or hide a bar, which changes the viewport.
+    setUpScrollBar(*horizontalScrollBar(), content.width(),
+                   (fits ? most : viewport()->size()).width());
+    setUpScrollBar(*verticalScrollBar(), content.height(),
+                   (fits ? most : viewport()->size()).height());
+
+    const QSize room = viewport()->size();
+    const QPoint corner(start(canvas.width(), room.width(), *horizontalScrollBar()),
+                        start(canvas.height(), room.height(), *verticalScrollBar()));
+    const QRect place(alignedToDevicePixels(corner), canvas);
+    if (place == view_.geometry()) return;
+    view_.setGeometry(place);
+    viewport()->update();
+}
+
+/// At a fractional scale factor only every second or fourth point lies on a device pixel. The
+/// canvas goes to such a point, up to three further left or up, so that it stays sharp and the
+/// pointer hits the pixel it shows.
+QPoint CanvasScrollArea::alignedToDevicePixels(QPoint viewportPosition) const {
+    const double ratio = devicePixelRatioF();
+    const QPoint inWindow = viewport()->mapTo(window(), viewportPosition);
+    for (int step = 1; step <= 4; ++step) {
+        if (step * ratio != std::floor(step * ratio)) continue;
+        return viewportPosition - QPoint(inWindow.x() % step, inWindow.y() % step);
+    }
+    return viewportPosition;
+}
+
+void CanvasScrollArea::paintEvent(QPaintEvent* event) {
+    if (view_.geometry().isEmpty() || view_.geometry().contains(event->rect())) return;
+    QPainter painter(viewport());
+    const QRectF canvas(view_.pos(), displaySize(document_.canvasSize, document_.zoom));
+    DropShadow::paint(painter, canvas, event->rect());
+}
+
+}  // namespace marlevo

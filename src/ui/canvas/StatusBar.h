@@ -1,0 +1,53 @@
+#pragma once
+
+#include "model/DrawingDocument.h"
+#include "ui/Follower.h"
+#include "ui/controls/ContinuousSlider.h"
+#include "ui/controls/TextLabel.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace marlevo {
+
+/// Of all layers, hidden ones too.
+qint64 strokeCount(const DrawingDocument& document);
+
+/// What the catalogue says for a number of strokes: its entry "single_stroke" for exactly 1, else
+/// "multiple_strokes", with the count for "%1". Without an entry the key itself.
+QString localizedStrokeCount(qint64 count);
+
+/// A side of the canvas as its whole pixels. A number that is none, or beyond what 64 bits hold, is
+/// shown as "–".
+QString wholePixels(double side);
+
+/// The line below the canvas: the canvas's size, the number of strokes, the zoom with its controls,
+/// and the name of the active layer.
+class StatusBar final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the bar; `fitToWindow` runs at a press on "Fit".
+    StatusBar(DrawingDocument& document, std::function<void()> fitToWindow,
+              QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void layOut(QWidget* actualSize, QWidget* fit);
+    void showDocument();
+    void shortenLabels();
+
+    DrawingDocument& document_;
+    TextLabel canvasSize_;
+    TextLabel strokeCount_;
+    ContinuousSlider zoom_;
+    TextLabel zoomText_;
+    TextLabel activeLayer_;
+    Follower follower_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "graphics/Color.h"
+#include "ui/controls/PaintedButton.h"
+
+#include <QPointer>
+
+class QColorDialog;
+
+namespace marlevo {
+
+/// Shows a colour and opens a panel to choose another. What is chosen there is said at once, while
+/// the window stays usable; the panel goes when the well is disabled.
+class ColorWell final : public PaintedButton {
+    Q_OBJECT
+
+public:
+    enum class Opacity : unsigned char { fixed, choosable };
+
+    /// `name` is the accessible name and the panel's title; `width` in points.
+    ColorWell(const QString& name, Opacity opacity, int width, QWidget* parent = nullptr);
+
+    /// Shows a colour; emits nothing.
+    void showColor(const Color& color);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    void colorChosen(const marlevo::Color& color);
+
+protected:
+    void paintContents(QPainter& painter) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void openPanel();
+    void choose(const QColor& color);
+
+    Opacity opacity_;
+    int width_;
+    Color color_;
+    QPointer<QColorDialog> panel_;
+};
+
+}  // namespace marlevo

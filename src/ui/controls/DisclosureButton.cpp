@@ -1,0 +1,64 @@
+#include "ui/controls/DisclosureButton.h"
+
+#include "ui/controls/Icons.h"
+#include "ui/controls/SemanticColors.h"
+#include "ui/controls/TypeScale.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int gap = 4;
+constexpr int leastHeight = 16;  // a line of small text alone is hard to hit
+constexpr double quarterTurn = 90;
+
+}  // namespace
+
+DisclosureButton::DisclosureButton(const QString& name, const QList<QWidget*>& header,
+                                   QWidget* parent)
+    : PaintedButton(name, parent), row_(new QHBoxLayout(this)) {
+    row_->setContentsMargins(0, 0, 0, 0);
+    row_->setSpacing(gap);
+    row_->addSpacing(iconSide(TypeStyle::caption2) + gap);
+    for (QWidget* part : header) {
+        part->setAttribute(Qt::WA_TransparentForMouseEvents);
+        row_->addWidget(part);
+    }
+    row_->addStretch(1);
+}
+
+void DisclosureButton::setOpen(bool open) {
+    isOpen_ = open;
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void DisclosureButton::showOpening(double share) {
+    opening_ = share;
+    update();
+}
+
+QSize DisclosureButton::sizeHint() const { return row_->sizeHint().expandedTo({0, leastHeight}); }
+
+QSize DisclosureButton::minimumSizeHint() const {
+    return row_->minimumSize().expandedTo({0, leastHeight});
+}
+
+void DisclosureButton::paintContents(QPainter& painter) {
+    const double side = iconSide(TypeStyle::caption2);
+    const double middle = isRightToLeft() ? width() - side / 2 : side / 2;
+    painter.save();
+    painter.translate(middle, height() / 2.0);
+    painter.rotate(isRightToLeft() ? 180 - quarterTurn * opening_ : quarterTurn * opening_);
+    paintIcon(painter, Icon::chevronRight, {-side / 2, -side / 2, side, side},
+              semanticColor(SemanticColor::tertiary));
+    painter.restore();
+}
+
+}  // namespace marlevo

@@ -1,0 +1,98 @@
+#include "ui/controls/DisclosureSection.h"
+
+#include "ui/controls/Motion.h"
+
+#include <QEvent>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int contentIndent = 4;
+constexpr int openingDuration = 150;
+
+}  // namespace
+
+DisclosureSection::DisclosureSection(const QString& name, const QList<QWidget*>& header,
+                                     QWidget* content, Start start, QWidget* parent)
+    : QWidget(parent), button_(name, header, this), clip_(this), content_(content) {
+    content_->setParent(&clip_);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    motion_.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&motion_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& share) { showOpening(share.toDouble()); });
+    connect(&button_, &DisclosureButton::clicked, this, [this] { setOpen(!isOpen()); });
+    clip_.installEventFilter(this);
+    content_->installEventFilter(this);
+
+    (void)isMotionWanted();  // the desktop is asked now, so that the answer is there at the first
+                             // press
+
+    const bool open = start == Start::open;
+    button_.setOpen(open);
+    opening_ = open ? 1 : 0;
+    showOpening(opening_);
+}
+
+void DisclosureSection::setOpen(bool open) {
+    if (open == isOpen()) return;
+    button_.setOpen(open);
+    motion_.stop();
+    motion_.setStartValue(opening_);
+    motion_.setEndValue(open ? 1.0 : 0.0);
+    motion_.setDuration(isMotionWanted() ? openingDuration : 0);
+    motion_.start();
+}
+
+void DisclosureSection::showOpening(double share) {
+    opening_ = share;
+    button_.showOpening(share);
+    clip_.setVisible(share > 0);
+    updateGeometry();
+    layOut();
+}
+
+int DisclosureSection::contentHeight() const {
+    return int(std::lround(opening_ * content_->sizeHint().height()));
+}
+
+QSize DisclosureSection::sizeHint() const {
+    const QSize header = button_.sizeHint();
+    const QSize content = content_->sizeHint();
+    return {std::max(header.width(), content.width() + contentIndent),
+            header.height() + contentHeight()};
+}
+
+QSize DisclosureSection::minimumSizeHint() const {
+    const int content = content_->minimumSizeHint().width() + contentIndent;
+    return {std::max(button_.minimumSizeHint().width(), content), sizeHint().height()};
+}
+
+void DisclosureSection::layOut() {
+    const int header = button_.sizeHint().height();
+    button_.setGeometry(0, 0, width(), header);
+    const QRect place(contentIndent, header, width() - contentIndent, contentHeight());
+    clip_.setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    content_->setGeometry(0, 0, place.width(), content_->sizeHint().height());
+}
+
+void DisclosureSection::resizeEvent(QResizeEvent*) { layOut(); }
+
+bool DisclosureSection::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutDirectionChange) layOut();
+    return QWidget::event(event);
+}
+
+bool DisclosureSection::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        layOut();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace marlevo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ui/controls/DisclosureButton.h"
+
+#include <QVariantAnimation>
+
+namespace marlevo {
+
+/// Content below a header that opens and closes it, moving for 0.15 s unless the desktop wants no
+/// motion. Content is hidden while the section is closed.
+class DisclosureSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Start : unsigned char { closed, open };
+
+    /// Takes the header's widgets and the content as children.
+    DisclosureSection(const QString& name, const QList<QWidget*>& header, QWidget* content,
+                      Start start, QWidget* parent = nullptr);
+
+    bool isOpen() const { return button_.isOpen(); }
+    void setOpen(bool open);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void showOpening(double share);
+    int contentHeight() const;
+    void layOut();
+
+    DisclosureButton button_;
+    QWidget clip_;  ///< what of the content is in sight while it moves
+    QWidget* content_;
+    QVariantAnimation motion_;
+    double opening_ = 0;  ///< from 0, closed, to 1
+};
+
+}  // namespace marlevo

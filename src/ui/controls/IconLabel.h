@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/controls/Icons.h"
+#include "ui/controls/SemanticColors.h"
+#include "ui/controls/TypeScale.h"
+
+#include <QWidget>
+
+namespace marlevo {
+
+/// An icon beside text of a size; only to be looked at.
+class IconLabel final : public QWidget {
+    Q_OBJECT
+
+public:
+    IconLabel(Icon icon, TypeStyle style, SemanticColor color, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Icon icon_;
+    TypeStyle style_;
+    SemanticColor color_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/controls/ModeButton.h"
+
+#include <vector>
+
+namespace marlevo {
+
+/// Tool buttons side by side. Each gets the same share of the row; where a label needs more, the
+/// shares follow need.
+class ModeButtonRow final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Takes the buttons as its children.
+    explicit ModeButtonRow(std::vector<ModeButton*> buttons, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    QSize total(QSize (ModeButton::*hint)() const) const;
+    void layOut();
+
+    std::vector<ModeButton*> buttons_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,88 @@
+#include "ui/controls/SheetHost.h"
+
+#include "ui/controls/ControlPainting.h"
+#include "ui/controls/DropShadow.h"
+#include "ui/controls/SemanticColors.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace marlevo {
+
+namespace {
+
+constexpr double dimming = 0.3;
+constexpr double cornerRadius = 10;
+constexpr int leastMargin = 8;
+
+}  // namespace
+
+SheetHost::SheetHost(QWidget& content)
+    // As a window within its window, Tab goes round inside it.
+    : QWidget(&content, Qt::SubWindow), frame_(this) {
+    frame_.setFrameShape(QFrame::NoFrame);
+    frame_.setWidgetResizable(true);
+    frame_.setFocusPolicy(Qt::NoFocus);
+    frame_.viewport()->setAutoFillBackground(false);
+    setAcceptDrops(true);
+    content.installEventFilter(this);
+}
+
+void SheetHost::setSheet(QWidget* sheet) {
+    frame_.setWidget(sheet);
+    sheet->setAutoFillBackground(false);
+    setGeometry(parentWidget()->rect());
+    layOut();
+    show();
+    raise();
+}
+
+void SheetHost::dismiss() {
+    hide();
+    parentWidget()->removeEventFilter(this);
+    parentWidget()->setFocus();
+    deleteLater();
+}
+
+bool SheetHost::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+void SheetHost::layOut() {
+    if (frame_.widget() == nullptr) return;
+    const QSize room = size() - QSize(2 * leastMargin, 2 * leastMargin);
+    const QSize sheet = frame_.widget()->sizeHint().boundedTo(room);
+    frame_.setGeometry(
+        QRect(QPoint((width() - sheet.width()) / 2, (height() - sheet.height()) / 2), sheet));
+}
+
+// Not before: a window under construction forgets who has the keyboard.
+void SheetHost::showEvent(QShowEvent*) {
+    if (QWidget* const sheet = frame_.widget()) sheet->setFocus();
+}
+
+void SheetHost::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(rect(), withOpacity(Qt::black, dimming));
+    DropShadow::paint(painter, frame_.geometry(), event->rect());
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintRoundedRect(painter, frame_.geometry(), cornerRadius,
+                     semanticColor(SemanticColor::windowBackground),
+                     {semanticColor(SemanticColor::separator), 1});
+}
+
+void SheetHost::resizeEvent(QResizeEvent*) { layOut(); }
+
+void SheetHost::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+void SheetHost::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
+
+void SheetHost::wheelEvent(QWheelEvent* event) { event->accept(); }
+
+// Taken here, the drag is refused; not taken, it would be offered to what lies below.
+void SheetHost::dragEnterEvent(QDragEnterEvent* event) { event->ignore(); }
+
+}  // namespace marlevo

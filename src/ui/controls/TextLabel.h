@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ui/controls/SemanticColors.h"
+#include "ui/controls/TypeScale.h"
+
+#include <QLabel>
+#include <QLocale>
+
+namespace marlevo {
+
+/// One line of text in a semantic colour. Where it does not fit it is shortened with an ellipsis
+/// and shown whole in a tooltip.
+class TextLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    enum class Digits : unsigned char {
+        proportional,
+        monospaced,  ///< all as wide as the widest, so that a changing number stays in place
+    };
+
+    struct Look {
+        TypeStyle style = TypeStyle::body;
+        QFont::Weight weight = QFont::Normal;
+        SemanticColor color = SemanticColor::primary;
+        Digits digits = Digits::proportional;
+    };
+
+    TextLabel(const QString& text, Look look, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    /// The text as the eye sees it.
+    virtual QString shownText() const { return text(); }
+
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    bool isShortened() const;
+    int digitWidth() const;
+    int widthOf(const QString& shown) const;
+    void paintCharacters(QPainter& painter, const QString& shown) const;
+
+    Look look_;
+};
+
+/// The title of a section of the sidebar, in upper case to the eye only.
+class SectionHeader final : public TextLabel {
+    Q_OBJECT
+
+public:
+    explicit SectionHeader(const QString& title, QWidget* parent = nullptr);
+
+protected:
+    QString shownText() const override { return locale().toUpper(text()); }
+};
+
+}  // namespace marlevo

@@ -1,0 +1,47 @@
+#include "ui/sidebar/ActionRow.h"
+
+#include <QHBoxLayout>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int spacing = 6;
+constexpr int verticalPadding = 2;
+
+}  // namespace
+
+ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
+    : QWidget(parent), document_(document),
+      undo_(Icon::undoArrow, tr("Undo"), IconButton::Look::borderless),
+      redo_(Icon::redoArrow, tr("Redo"), IconButton::Look::borderless),
+      save_(Icon::documentPlus, tr("Save"), IconButton::Look::borderless),
+      export_(Icon::trayArrowDown, tr("Export"), IconButton::Look::borderless),
+      undoFollower_(document, [this] { undo_.setEnabled(document_.canUndo()); }),
+      redoFollower_(document, [this] { redo_.setEnabled(document_.canRedo()); }) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, verticalPadding, 0, verticalPadding);
+    row->setSpacing(spacing);
+    row->addWidget(&undo_);
+    row->addWidget(&redo_);
+    row->addStretch(1);
+    row->addWidget(&save_);
+    row->addWidget(&export_);
+    for (IconButton* button : {&undo_, &redo_, &save_, &export_})
+        button->setToolTip(button->accessibleName());
+
+    connect(&undo_, &IconButton::clicked, this, [this] { document_.undo(); });
+    connect(&redo_, &IconButton::clicked, this, [this] { document_.redo(); });
+    connect(&save_, &IconButton::clicked, this, [this] { document_.save(); });
+    connect(&export_, &IconButton::clicked, this, &ActionRow::showExportPopover);
+}
+
+void ActionRow::showExportPopover() {
+    if (exportPopover_) return;
+    exportPopover_ = new ExportPopover(export_);
+    connect(exportPopover_, &ExportPopover::formatChosen, this,
+            [this](ExportFormat format) { document_.performExport(format); });
+    exportPopover_->open();
+}
+
+}  // namespace marlevo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/Follower.h"
+#include "ui/controls/IconButton.h"
+#include "ui/sidebar/ExportPopover.h"
+
+namespace marlevo {
+
+/// Undo, redo, save and export.
+class ActionRow final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the row.
+    explicit ActionRow(DrawingDocument& document, QWidget* parent = nullptr);
+
+private:
+    void showExportPopover();
+
+    DrawingDocument& document_;
+    IconButton undo_;
+    IconButton redo_;
+    IconButton save_;
+    IconButton export_;
+    QPointer<ExportPopover> exportPopover_;
+    Follower undoFollower_;
+    Follower redoFollower_;
+};
+
+}  // namespace marlevo

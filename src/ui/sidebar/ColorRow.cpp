@@ -1,0 +1,87 @@
+#include "ui/sidebar/ColorRow.h"
+
+#include "ui/controls/Colors.h"
+#include "ui/controls/ControlPainting.h"
+#include "ui/controls/DesktopLook.h"
+#include "ui/controls/SemanticColors.h"
+#include "ui/sidebar/QuickColors.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QStyle>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int spacing = 8;
+constexpr int swatchSpacing = 2;  // the swatches have a point of room on each side
+constexpr int circle = 18;
+constexpr int wellWidth = 24;
+
+}  // namespace
+
+ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
+    : QWidget(parent), document_(document),
+      well_(tr("Color"), ColorWell::Opacity::fixed, wellWidth),
+      colorFollower_(document, [this] { showColor(); }),
+      swatchesFollower_(document, [this] { showSwatches(); }) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addSpacing(circle + spacing);
+    row->addWidget(&well_);
+    row->addSpacing(spacing);
+    row->addStretch(1);
+    addSwatches(*row);
+    swatchesFollower_.refresh();
+    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this,
+            [this] { swatchesFollower_.refresh(); });
+    connect(&well_, &ColorWell::colorChosen, this,
+            [this](const Color& color) { document_.selectedColor = color; });
+}
+
+void ColorRow::addSwatches(QHBoxLayout& row) {
+    auto* strip = new QHBoxLayout;
+    strip->setSpacing(swatchSpacing);
+    for (const QuickColor& quick : quickColors()) {
+        auto* swatch = new ColorSwatch(quick.name, quick.color);
+        connect(swatch, &ColorSwatch::chosen, this, [this, swatch] { choose(swatch->color()); });
+        swatches_.push_back(swatch);
+        strip->addWidget(swatch);
+    }
+    row.addLayout(strip);
+}
+
+void ColorRow::choose(const Color& color) {
+    document_.selectedColor = color;
+    document_.isEraser = false;
+    document_.isFillTool = false;
+}
+
+void ColorRow::showColor() {
+    well_.showColor(document_.selectedColor);
+    well_.setEnabled(!document_.isEraser && !document_.isFillTool);
+    update();
+}
+
+void ColorRow::showSwatches() {
+    using enum ColorSwatch::Standing;
+    const Color selected = document_.selectedColor;
+    const bool erases = document_.isEraser;
+    const bool fills = document_.isFillTool;
+    for (ColorSwatch* swatch : swatches_) {
+        const bool isSelected = swatch->color() == selected && !erases;
+        swatch->showStanding(!isSelected ? other : fills ? same : inUse);
+    }
+}
+
+void ColorRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect place(0, (height() - circle) / 2, circle, circle);
+    paintRoundedRect(painter, QStyle::visualRect(layoutDirection(), rect(), place), circle / 2.0,
+                     toQColor(document_.selectedColor),
+                     {semanticColor(SemanticColor::separator), 1});
+}
+
+}  // namespace marlevo

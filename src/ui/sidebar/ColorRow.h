@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/Follower.h"
+#include "ui/controls/ColorSwatch.h"
+#include "ui/controls/ColorWell.h"
+
+#include <vector>
+
+class QHBoxLayout;
+
+namespace marlevo {
+
+/// The colour of new strokes: a circle that shows it, a well to choose any, and swatches.
+class ColorRow final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the row.
+    explicit ColorRow(DrawingDocument& document, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addSwatches(QHBoxLayout& row);
+    void showColor();
+    void showSwatches();
+    void choose(const Color& color);
+
+    DrawingDocument& document_;
+    ColorWell well_;
+    std::vector<ColorSwatch*> swatches_;
+    Follower colorFollower_;
+    Follower swatchesFollower_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,33 @@
+#include "ui/sidebar/FormsSection.h"
+
+#include "ui/ToolChoice.h"
+#include "ui/controls/ModeButtonRow.h"
+#include "ui/controls/TextLabel.h"
+#include "ui/sidebar/SidebarMeasures.h"
+
+#include <QVBoxLayout>
+
+namespace marlevo {
+
+FormsSection::FormsSection(DrawingDocument& document, QWidget* parent)
+    : QWidget(parent), document_(document) {
+    using ShapeType = Stroke::ShapeType;
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, sectionPadding, 0, sectionPadding);
+    column->setSpacing(sectionSpacing);
+    column->addWidget(new SectionHeader(tr("Forms")));
+    column->addWidget(
+        new ModeButtonRow({makeButton(Icon::lineDiagonal, tr("Line"), ShapeType::line),
+                           makeButton(Icon::rectangle, tr("Rectangle"), ShapeType::rect),
+                           makeButton(Icon::circle, tr("Ellipse"), ShapeType::ellipse)}));
+}
+
+ModeButton* FormsSection::makeButton(Icon icon, const QString& label, Stroke::ShapeType type) {
+    auto* button = new ModeButton(ModeButton::Kind::secondary, icon, label);
+    followers_.emplace_back(
+        document_, [this, button, type] { button->setActive(isShapeChosen(document_, type)); });
+    connect(button, &ModeButton::chosen, this, [this, type] { chooseShape(document_, type); });
+    return button;
+}
+
+}  // namespace marlevo

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ui/Follower.h"
+#include "ui/controls/ModeButton.h"
+
+#include <list>
+
+namespace marlevo {
+
+/// The shapes to draw.
+class FormsSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the section.
+    explicit FormsSection(DrawingDocument& document, QWidget* parent = nullptr);
+
+private:
+    ModeButton* makeButton(Icon icon, const QString& label, Stroke::ShapeType type);
+
+    DrawingDocument& document_;
+    std::list<Follower> followers_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,106 @@
+#include "ui/sidebar/LayerRow.h"
+
+#include "ui/controls/ControlPainting.h"
+#include "ui/controls/Icons.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int spacing = 8;
+constexpr int sidePadding = 8;
+constexpr int verticalPadding = 6;
+constexpr int eyeWidth = 16;
+constexpr int dotSize = 7;
+constexpr double radius = 6;
+
+}  // namespace
+
+EyeButton::EyeButton(QWidget* parent) : PaintedButton({}, parent) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void EyeButton::showLayer(const QString& name, bool isVisible) {
+    if (name == layerName_ && isVisible == isLayerVisible_) return;
+    layerName_ = name;
+    isLayerVisible_ = isVisible;
+    setToolTip(isVisible ? tr("Hide layer") : tr("Show layer"));
+    setAccessibleName((isVisible ? tr("Hide layer: %1") : tr("Show layer: %1")).arg(name));
+    update();
+}
+
+QSize EyeButton::sizeHint() const {
+    const int side = std::max(eyeWidth, iconSide(TypeStyle::caption));
+    return {side, side + 4};
+}
+
+void EyeButton::paintContents(QPainter& painter) {
+    const int side = iconSide(TypeStyle::caption);
+    QRectF square(0, 0, side, side);
+    square.moveCenter(QRectF(rect()).center());
+    if (isDown() || isInviting()) {
+        const QColor gray = semanticColor(SemanticColor::gray);
+        paintRoundedRect(painter, rect(), 4, withOpacity(gray, isDown() ? 0.3 : 0.18));
+    }
+    paintIcon(painter, isLayerVisible_ ? Icon::eye : Icon::eyeSlash, square,
+              semanticColor(isLayerVisible_ ? SemanticColor::primary : SemanticColor::tertiary));
+}
+
+LayerRow::LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget* parent)
+    : ChoiceButton({}, parent), layerID_(layerID), thumbnail_(document),
+      name_({}, {TypeStyle::callout}) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(sidePadding, verticalPadding, sidePadding, verticalPadding);
+    row->setSpacing(spacing);
+    row->addWidget(&thumbnail_);
+    row->addWidget(&name_, 1);
+    row->addWidget(&eye_);
+    row->addSpacing(spacing + dotSize);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(&eye_, &EyeButton::clicked, this, &LayerRow::visibilityToggled);
+}
+
+void LayerRow::showLayer(const Layer& layer, bool isActive) {
+    const QString name = QString::fromStdString(layer.name);
+    setAccessibleName(name);
+    name_.setText(name);
+    thumbnail_.showLayer(layer, isActive);
+    eye_.showLayer(name, layer.isVisible);
+    if (isActive == this->isActive()) return;
+    setActive(isActive);
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+QWidget* LayerRow::followInTabOrder(QWidget* previous) {
+    if (previous) setTabOrder(previous, this);
+    setTabOrder(this, &eye_);
+    return &eye_;
+}
+
+QSize LayerRow::sizeHint() const { return layout()->sizeHint(); }
+
+QSize LayerRow::minimumSizeHint() const { return layout()->minimumSize(); }
+
+void LayerRow::paintContents(QPainter& painter) {
+    const QColor blue = semanticColor(SemanticColor::blue);
+    const QColor gray = semanticColor(SemanticColor::gray);
+    if (isActive())
+        paintRoundedRect(painter, rect(), radius, withOpacity(blue, 0.08));
+    else if (isInviting())
+        paintRoundedRect(painter, rect(), radius, withOpacity(gray, 0.08));
+
+    const int left = isRightToLeft() ? sidePadding : width() - sidePadding - dotSize;
+    const QRectF dot(left, (height() - dotSize) / 2.0, dotSize, dotSize);
+    paintRoundedRect(painter, dot, dotSize / 2.0, isActive() ? blue : withOpacity(gray, 0.15));
+}
+
+}  // namespace marlevo

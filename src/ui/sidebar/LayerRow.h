@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ui/controls/ChoiceButton.h"
+#include "ui/controls/TextLabel.h"
+#include "ui/sidebar/LayerThumbnailView.h"
+
+namespace marlevo {
+
+/// The button with an eye that shows and hides a layer.
+class EyeButton final : public PaintedButton {
+    Q_OBJECT
+
+public:
+    explicit EyeButton(QWidget* parent = nullptr);
+
+    void showLayer(const QString& name, bool isVisible);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintContents(QPainter& painter) override;
+
+private:
+    QString layerName_;
+    bool isLayerVisible_ = true;
+};
+
+/// One layer in the list of layers; pressing it makes the layer the active one.
+class LayerRow final : public ChoiceButton {
+    Q_OBJECT
+
+public:
+    /// For a layer of the document, which must outlive the row.
+    LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget* parent = nullptr);
+
+    const Uuid& layerID() const { return layerID_; }
+
+    void showLayer(const Layer& layer, bool isActive);
+
+    /// Makes the row and its eye follow a widget, if any, when the user tabs; returns the last of
+    /// them.
+    QWidget* followInTabOrder(QWidget* previous);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void visibilityToggled();
+
+protected:
+    void paintContents(QPainter& painter) override;
+
+private:
+    Uuid layerID_;
+    LayerThumbnailView thumbnail_;
+    TextLabel name_;
+    EyeButton eye_;
+};
+
+}  // namespace marlevo

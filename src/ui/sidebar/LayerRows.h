@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/Follower.h"
+#include "ui/sidebar/LayerRow.h"
+
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace marlevo {
+
+/// The list of layers, the top one first.
+class LayerRows final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the list.
+    explicit LayerRows(DrawingDocument& document, QWidget* parent = nullptr);
+
+    /// As listed: the highest layer first.
+    const std::vector<LayerRow*>& rows() const { return rows_; }
+
+private:
+    void showLayers();
+    void matchRows();
+    LayerRow* makeRow(const Uuid& layerID);
+    void putRowsInOrder();
+    std::int64_t indexOf(const LayerRow& row) const;
+
+    DrawingDocument& document_;
+    QVBoxLayout* layout_;
+    std::vector<LayerRow*> rows_;
+    Follower follower_;
+};
+
+}  // namespace marlevo

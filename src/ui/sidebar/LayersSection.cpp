@@ -1,0 +1,55 @@
+#include "ui/sidebar/LayersSection.h"
+
+#include "ui/LayerCommands.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace marlevo {
+
+namespace {
+
+constexpr int topPadding = 6;
+constexpr int buttonSpacing = 6;
+constexpr int listSpacing = 8;
+
+}  // namespace
+
+LayersSection::LayersSection(DrawingDocument& document, QWidget* parent)
+    : QWidget(parent), document_(document), rows_(document),
+      add_(Icon::plus, tr("Add layer"), IconButton::Look::bordered),
+      delete_(Icon::minus, tr("Delete layer"), IconButton::Look::bordered),
+      moveUp_(Icon::arrowUp, tr("Move layer up"), IconButton::Look::bordered),
+      moveDown_(Icon::arrowDown, tr("Move layer down"), IconButton::Look::bordered),
+      buttonsFollower_(document, [this] { showButtons(); }) {
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(buttonSpacing);
+    buttons->addWidget(&add_);
+    buttons->addWidget(&delete_);
+    buttons->addStretch(1);
+    buttons->addWidget(&moveUp_);
+    buttons->addWidget(&moveDown_);
+    for (IconButton* button : {&add_, &delete_, &moveUp_, &moveDown_})
+        button->setToolTip(button->accessibleName());
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, topPadding, 0, 0);
+    column->setSpacing(listSpacing);
+    column->addWidget(&rows_);
+    column->addLayout(buttons);
+
+    connect(&add_, &IconButton::clicked, this, [this] { document_.addLayer(); });
+    connect(&delete_, &IconButton::clicked, this, [this] { deleteActiveLayer(document_); });
+    connect(&moveUp_, &IconButton::clicked, this, [this] { moveActiveLayerUp(document_); });
+    connect(&moveDown_, &IconButton::clicked, this, [this] { moveActiveLayerDown(document_); });
+}
+
+void LayersSection::showButtons() {
+    const std::int64_t active = document_.activeLayerIndex;
+    const std::int64_t count = std::ssize(*document_.layers);
+    delete_.setEnabled(count > 1);
+    moveUp_.setEnabled(active < count - 1);
+    moveDown_.setEnabled(active > 0);
+}
+
+}  // namespace marlevo

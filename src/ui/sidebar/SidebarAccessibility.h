@@ -1,0 +1,9 @@
+#pragma once
+
+namespace marlevo {
+
+/// Presents the list of layers, its rows and their thumbnails to assistive technology. Must be
+/// called before the first of them is shown; further calls do nothing.
+void installSidebarAccessibility();
+
+}  // namespace marlevo

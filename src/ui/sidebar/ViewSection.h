@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/Follower.h"
+#include "ui/controls/CheckBox.h"
+#include "ui/controls/ColorWell.h"
+#include "ui/controls/TextLabel.h"
+
+namespace marlevo {
+
+/// How the canvas looks: its grid and its background.
+class ViewSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the section.
+    explicit ViewSection(DrawingDocument& document, QWidget* parent = nullptr);
+
+private:
+    DrawingDocument& document_;
+    CheckBox grid_;
+    ColorWell background_;
+    TextLabel backgroundLabel_;
+    CheckBox transparent_;
+    Follower gridFollower_;
+    Follower backgroundFollower_;
+    Follower transparentFollower_;
+};
+
+}  // namespace marlevo

@@ -1,0 +1,107 @@
+#include "ui/windows/ContentView.h"
+
+#include "ui/canvas/ZoomRange.h"
+#include "ui/windows/NewCanvasSheet.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace marlevo {
+
+namespace {
+
+// Of the content of a window that has none.
+constexpr QSize defaultContent(800, 600);
+
+/// Without the menu bar, which belongs to the window's frame here.
+QSize contentSize(const QWidget& window) {
+    const auto* const frame = qobject_cast<const QMainWindow*>(&window);
+    if (frame == nullptr) return window.size();
+    const QWidget* const content = frame->centralWidget();
+    return content ? content->size() : defaultContent;
+}
+
+}  // namespace
+
+ContentView::ContentView(const Services& services, NotificationCenter& notifications)
+    : document_(services), columns_(this), sidebar_(document_, this), canvas_(document_, this),
+      statusBar_(
+          document_, [this] { fitToWindow(); }, this),
+      closeGuard_(document_), titleUpdater_(document_, *this, [this] { return windowTitle(); }),
+      newCanvasRequests_(
+          notifications.observe(notification::newCanvas, [this] { setShowNewCanvas(true); })) {
+    layOut();
+    closeGuard_.setup(*this);
+    setShowNewCanvas(true);
+}
+
+QString ContentView::windowTitle() const {
+    const auto& file = document_.currentFileURL.get();
+    return file ? QString::fromStdU16String(file->filename().u16string()) : tr("Marlevo");
+}
+
+void ContentView::setShowNewCanvas(bool show) {
+    if (show == showNewCanvas()) return;
+    if (show) {
+        sheet_ = new SheetHost(*this);
+        sheet_->setSheet(new NewCanvasSheet(document_, [this] { setShowNewCanvas(false); }));
+    } else {
+        sheet_->dismiss();
+        sheet_.clear();
+    }
+    Q_EMIT showNewCanvasChanged(show);
+}
+
+void ContentView::fitToWindow() {
+    const QWidget* const keyWindow = QApplication::activeWindow();
+    if (keyWindow == nullptr) return;
+    const double fit = fittingZoom(document_.canvasSize, contentSize(*keyWindow));
+    document_.zoom = std::min(maxZoom, fit);
+    document_.zoom = std::max(minZoom, document_.zoom.get());
+}
+
+void ContentView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!keyMonitor_) firstShown();
+}
+
+void ContentView::firstShown() {
+    document_.ensureLayers();
+    autoSave_.emplace(document_);
+    keyMonitor_.emplace(*window(), document_,
+                        KeyMonitor::Sheet{.show = [this] { setShowNewCanvas(true); },
+                                          .isShown = [this] { return showNewCanvas(); }});
+}
+
+void ContentView::layOut() {
+    setAutoFillBackground(true);
+
+    auto* drawing = new QWidget;
+    auto* column = new QVBoxLayout(drawing);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(&canvas_, 1);
+    column->addWidget(&statusBar_);
+
+    columns_.setChildrenCollapsible(false);
+    columns_.setHandleWidth(1);
+    columns_.addWidget(&sidebar_);
+    columns_.addWidget(drawing);
+    columns_.setStretchFactor(1, 1);
+    sidebar_.setMaximumWidth(SidebarView::greatestWidth);
+    columns_.setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
+
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(&columns_);
+}
+
+// The splitter leaves its own handle out.
+QSize ContentView::sizeHint() const {
+    return QWidget::sizeHint() + QSize(columns_.handleWidth(), 0);
+}
+
+}  // namespace marlevo

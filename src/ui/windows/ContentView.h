@@ -1,0 +1,74 @@
+#pragma once
+
+#include "io/AutoSave.h"
+#include "model/DrawingDocument.h"
+#include "platform/NotificationCenter.h"
+#include "ui/canvas/CanvasScrollArea.h"
+#include "ui/canvas/StatusBar.h"
+#include "ui/controls/SheetHost.h"
+#include "ui/sidebar/SidebarView.h"
+#include "ui/windows/KeyMonitor.h"
+#include "ui/windows/WindowAccessor.h"
+#include "ui/windows/WindowTitleUpdater.h"
+
+#include <QPointer>
+#include <QSplitter>
+#include <QWidget>
+
+#include <optional>
+
+namespace marlevo {
+
+/// The content of a document window: owns the window's document and shows the sidebar beside the
+/// canvas with the status bar below it, and over them the new-canvas sheet.
+class ContentView final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The services and the notifications must outlive the view.
+    ContentView(const Services& services, NotificationCenter& notifications);
+
+    DrawingDocument& document() { return document_; }
+    CanvasView& canvasView() { return canvas_.view(); }
+    WindowAccessor::Coordinator& closeGuard() { return closeGuard_; }
+
+    /// The file's name, or the program's for a drawing without a file.
+    QString windowTitle() const;
+
+    /// Whether the new-canvas sheet is over the content, as it is from the beginning. A sheet comes
+    /// anew each time.
+    bool showNewCanvas() const { return !sheet_.isNull(); }
+    void setShowNewCanvas(bool show);
+
+    /// Chooses the zoom at which the canvas fits into the application's active window, within the
+    /// limits; without an active window nothing happens.
+    void fitToWindow();
+
+    /// Such that the canvas is seen without scrolling.
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void showNewCanvasChanged(bool isShown);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void layOut();
+    void firstShown();
+
+    // What shows the document comes after it, so that it goes before it.
+    DrawingDocument document_;
+    QSplitter columns_;
+    SidebarView sidebar_;
+    CanvasScrollArea canvas_;
+    StatusBar statusBar_;
+    WindowAccessor::Coordinator closeGuard_;
+    WindowTitleUpdater titleUpdater_;
+    NotificationCenter::Observation newCanvasRequests_;
+    QPointer<SheetHost> sheet_;
+    std::optional<AutoSave> autoSave_;
+    std::optional<KeyMonitor> keyMonitor_;
+};
+
+}  // namespace marlevo

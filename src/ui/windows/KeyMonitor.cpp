@@ -1,0 +1,102 @@
+#include "ui/windows/KeyMonitor.h"
+
+#include "model/DrawingDocument.h"
+#include "ui/canvas/ZoomRange.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <QWindow>
+
+#include <utility>
+
+namespace marlevo {
+
+namespace {
+
+/// The character of the key with Shift and Caps Lock applied, but not Ctrl, which makes letters
+/// control characters; 0 when it has none.
+char32_t characterWithoutControl(const QKeyEvent& press) {
+    // On X11 and Wayland this is the key's symbol, which is Latin-1 up to 0xff.
+    const quint32 symbol = press.nativeVirtualKey();
+    if (symbol >= 0x20 && symbol <= 0xff) return symbol;
+    if (symbol != 0 || press.key() < Qt::Key_A || press.key() > Qt::Key_Z) return 0;
+    const bool isUpper = press.modifiers().testFlag(Qt::ShiftModifier);
+    return char32_t(press.key() - Qt::Key_A) + (isUpper ? U'A' : U'a');
+}
+
+bool showsNewCanvas(const QKeyEvent& press) {
+    return press.modifiers().testFlag(Qt::ControlModifier) &&
+           characterWithoutControl(press) == U'n';
+}
+
+bool isDelete(const QKeyEvent& press) {
+    return press.key() == Qt::Key_Backspace || press.key() == Qt::Key_Delete;
+}
+
+}  // namespace
+
+KeyMonitor::KeyMonitor(QWidget& window, DrawingDocument& document, Sheet newCanvas)
+    : window_(window), document_(document), newCanvas_(std::move(newCanvas)) {
+    qApp->installEventFilter(this);
+}
+
+bool KeyMonitor::eventFilter(QObject* receiver, QEvent* event) {
+    // A window gets each event first, then hands it on to its widgets.
+    if (!receiver->isWindowType()) return false;
+    if (event->type() == QEvent::KeyRelease) {
+        repeats_.release(static_cast<const QKeyEvent&>(*event));
+        return false;
+    }
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if (!isOverride && event->type() != QEvent::KeyPress) return false;
+    if (receiver != window_.windowHandle() || QApplication::activePopupWidget() != nullptr)
+        return false;
+
+    const Action action = actionOf(static_cast<const QKeyEvent&>(*event));
+    if (!action) return false;
+    // The question comes before the shortcuts: claiming it keeps them quiet, and the press itself
+    // follows.
+    event->accept();
+    if (!isOverride) action();
+    return true;
+}
+
+KeyMonitor::Action KeyMonitor::actionOf(const QKeyEvent& press) const {
+    if (repeats_.isRepeat(press)) return {};
+    if (newCanvas_.isShown()) return showsNewCanvas(press) ? newCanvas_.show : Action();
+    if (press.modifiers().testFlag(Qt::ControlModifier)) {
+        if (Action action = controlActionOf(press)) return action;
+        if (press.text() == u'=') return [this] { document_.zoom = zoomedIn(document_.zoom); };
+        if (press.text() == u'-') return [this] { document_.zoom = zoomedOut(document_.zoom); };
+    }
+    const bool deletesStroke =
+        isDelete(press) && document_.isSelectTool && document_.selectedStrokeIndex->has_value();
+    if (deletesStroke) return [this] { document_.deleteSelectedStroke(); };
+    return {};
+}
+
+KeyMonitor::Action KeyMonitor::controlActionOf(const QKeyEvent& press) const {
+    switch (characterWithoutControl(press)) {
+    case U'z':
+        if (press.modifiers().testFlag(Qt::ShiftModifier)) return [this] { document_.redo(); };
+        return [this] { document_.undo(); };
+    case U'e':
+        return [this] { toggleEraser(); };
+    case U'n':
+        return newCanvas_.show;
+    case U'g':
+        return [this] { document_.showGrid = !document_.showGrid; };
+    default:
+        return {};
+    }
+}
+
+void KeyMonitor::toggleEraser() const {
+    document_.isEraser = !document_.isEraser;
+    document_.isSelectTool = false;
+    document_.selectedLayerID = std::nullopt;
+    document_.selectedStrokeIndex = std::nullopt;
+}
+
+}  // namespace marlevo

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/NotificationCenter.h"
+#include "platform/Services.h"
+#include "ui/windows/DrawingDocumentKey.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <filesystem>
+#include <span>
+#include <vector>
+
+class QWindow;
+
+namespace marlevo {
+
+class DocumentWindow;
+class SettingsWindow;
+
+/// The application: its windows over one set of services, the focused document, and what the menu
+/// commands ask of the application as a whole.
+///
+/// The program ends when the last document window has closed; the settings do not keep it.
+class MarlevoApp final : public QObject {
+    Q_OBJECT
+
+public:
+    /// The services must outlive the application. Those without preferences get no settings window.
+    explicit MarlevoApp(const Services& services);
+
+    /// Takes the windows still open with it.
+    ~MarlevoApp() override;
+
+    const Services& services() const { return services_; }
+    DrawingDocumentKey& focusedDocument() { return focusedDocument_; }
+    NotificationCenter& notifications() { return notifications_; }
+
+    /// Opens a window with a fresh drawing, which goes away when it is closed.
+    DocumentWindow& openWindow();
+
+    /// Opens a window for each of the drawings, without the new-canvas sheet. A file that cannot be
+    /// read is one line on the console. With no drawing there is a fresh window instead.
+    void openWindows(std::span<const std::filesystem::path> drawings);
+
+    /// The document windows still open, in the order in which they were opened.
+    std::vector<DocumentWindow*> documentWindows() const;
+
+    /// Asks for a drawing over the frontmost window; it goes into the document that is focused when
+    /// the user confirms.
+    void openDocument();
+
+    void showSettings();
+
+    /// Closes one document window after the other, the frontmost first, each as if the user had
+    /// closed it, and stops at the first that the user keeps.
+    void quit();
+
+private:
+    void focusFollows(const QWindow* focused);
+    void forget(DocumentWindow& window);
+    void closeNextWindow();
+
+    Services services_;
+    NotificationCenter notifications_;
+    DrawingDocumentKey focusedDocument_;
+    std::vector<QPointer<DocumentWindow>> windows_;
+    QPointer<SettingsWindow> settings_;
+    bool isQuitting_ = false;
+};
+
+}  // namespace marlevo

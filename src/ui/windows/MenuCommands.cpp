@@ -1,0 +1,141 @@
+#include "ui/windows/MenuCommands.h"
+
+#include "ui/LayerCommands.h"
+#include "ui/windows/HelpMenu.h"
+#include "ui/windows/MarlevoApp.h"
+#include "ui/windows/TextFieldCommands.h"
+#include "ui/windows/WindowMenu.h"
+
+#include <QMenu>
+
+#include <utility>
+
+namespace marlevo {
+
+MenuCommands::MenuCommands(MarlevoApp& app, QWidget* window) : QMenuBar(window), app_(app) {
+    addFileMenu();
+    addEditMenu();
+    addCanvasMenu();
+    addMenu(new WindowMenu(app, *window));
+    addMenu(new HelpMenu(*this));
+
+    connect(&app.focusedDocument(), &DrawingDocumentKey::changed, this,
+            &MenuCommands::followFocusedDocument);
+    followFocusedDocument();
+}
+
+void MenuCommands::addFileMenu() {
+    QMenu& file = *addMenu(tr("&File"));
+    addCommand(file, tr("New Window"), Qt::CTRL | Qt::SHIFT | Qt::Key_N,
+               [this] { app_.openWindow(); });
+    addNewCanvas(file);
+    addCommand(file, tr("Open…"), Qt::CTRL | Qt::Key_O, [this] { app_.openDocument(); });
+    file.addSeparator();
+    addCommand(file, tr("Close"), Qt::CTRL | Qt::Key_W, [this] { window()->close(); });
+    addDocumentCommand(file, tr("Save"), Qt::CTRL | Qt::Key_S, &DrawingDocument::save);
+    addDocumentCommand(file, tr("Save As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                       &DrawingDocument::saveAs);
+    file.addSeparator();
+    addDocumentCommand(file, tr("Print…"), Qt::CTRL | Qt::Key_P, &DrawingDocument::printDocument);
+    addExportMenu(file);
+    file.addSeparator();
+    addCommand(file, tr("Quit"), Qt::CTRL | Qt::Key_Q, [this] { app_.quit(); });
+}
+
+void MenuCommands::addExportMenu(QMenu& file) {
+    QMenu& formats = *file.addMenu(tr("Export…"));
+    for (const ExportFormat format : allExportFormats) {
+        const std::string_view name = rawValue(format);
+        addDocumentCommand(formats, QString::fromUtf8(name.data(), qsizetype(name.size())), {},
+                           [format](DrawingDocument& d) { d.performExport(format); });
+    }
+    // A submenu does nothing by itself when its shortcut is typed: show the formats.
+    QAction& exportItem = *formats.menuAction();
+    exportItem.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_E);
+    exportItem.setAutoRepeat(false);
+    connect(&exportItem, &QAction::triggered, this, [this, &formats] {
+        formats.popup(mapToGlobal(rect().bottomLeft()));
+        formats.setActiveAction(formats.actions().first());
+    });
+    documentActions_.push_back(&exportItem);
+}
+
+void MenuCommands::addEditMenu() {
+    QMenu& edit = *addMenu(tr("&Edit"));
+    undo_ = &addDocumentCommand(edit, tr("Undo"), Qt::CTRL | Qt::Key_Z, &DrawingDocument::undo);
+    redo_ = &addDocumentCommand(edit, tr("Redo"), Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
+                                &DrawingDocument::redo);
+    edit.addSeparator();
+    new TextFieldCommands(edit, *window());
+    addDocumentCommand(edit, tr("Copy Canvas"), Qt::CTRL | Qt::SHIFT | Qt::Key_C,
+                       &DrawingDocument::copyToClipboard);
+    edit.addSeparator();
+    addCommand(edit, tr("Settings…"), Qt::CTRL | Qt::Key_Comma, [this] { app_.showSettings(); });
+}
+
+void MenuCommands::addCanvasMenu() {
+    QMenu& canvas = *addMenu(tr("&Canvas"));
+    // Both items show the shortcut and one has it: with two it would be ambiguous, and neither ran.
+    addNewCanvas(canvas).setShortcutContext(Qt::WidgetShortcut);
+    canvas.addSeparator();
+    addDocumentCommand(canvas, tr("Clear Active Layer"), Qt::CTRL | Qt::Key_K,
+                       &DrawingDocument::clearActiveLayer);
+    addDocumentCommand(canvas, tr("Clear All Layers"), {}, &DrawingDocument::clearAll);
+    canvas.addSeparator();
+    addDocumentCommand(canvas, tr("Toggle Grid"), Qt::CTRL | Qt::Key_G,
+                       [](DrawingDocument& d) { d.showGrid = !d.showGrid; });
+    canvas.addSeparator();
+    addLayersMenu(canvas);
+}
+
+void MenuCommands::addLayersMenu(QMenu& canvas) {
+    QMenu& layers = *canvas.addMenu(tr("Layers"));
+    addDocumentCommand(layers, tr("Add Layer"), Qt::CTRL | Qt::SHIFT | Qt::Key_L,
+                       &DrawingDocument::addLayer);
+    addDocumentCommand(layers, tr("Delete Active Layer"), {}, deleteActiveLayer);
+    addDocumentCommand(layers, tr("Move Layer Up"), {}, moveActiveLayerUp);
+    addDocumentCommand(layers, tr("Move Layer Down"), {}, moveActiveLayerDown);
+}
+
+QAction& MenuCommands::addNewCanvas(QMenu& menu) {
+    return addCommand(menu, tr("New Canvas…"), Qt::CTRL | Qt::Key_N,
+                      [this] { app_.notifications().post(notification::newCanvas); });
+}
+
+QAction& MenuCommands::addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
+                                  std::function<void()> run) {
+    QAction& action = *menu.addAction(title);
+    action.setShortcut(shortcut);
+    action.setAutoRepeat(false);
+    connect(&action, &QAction::triggered, this, [run = std::move(run)] { run(); });
+    return action;
+}
+
+QAction& MenuCommands::addDocumentCommand(QMenu& menu, const QString& title,
+                                          const QKeySequence& shortcut,
+                                          std::function<void(DrawingDocument&)> run) {
+    QAction& action = addCommand(menu, title, shortcut, [this, run = std::move(run)] {
+        if (DrawingDocument* const document = app_.focusedDocument().get()) run(*document);
+    });
+    documentActions_.push_back(&action);
+    return action;
+}
+
+void MenuCommands::setBehindSheet(bool isBehindSheet) {
+    isBehindSheet_ = isBehindSheet;
+    followFocusedDocument();
+}
+
+void MenuCommands::followFocusedDocument() {
+    DrawingDocument* const document = isBehindSheet_ ? nullptr : app_.focusedDocument().get();
+    for (QAction* const action : documentActions_)
+        action->setEnabled(document != nullptr);
+    historyFollower_.reset();
+    if (document == nullptr) return;
+    historyFollower_.emplace(*document, [this, document] {
+        undo_->setEnabled(document->canUndo());
+        redo_->setEnabled(document->canRedo());
+    });
+}
+
+}  // namespace marlevo

@@ -1,0 +1,82 @@
+#include "ui/windows/WindowAccessor.h"
+
+#include "io/FileTypes.h"
+#include "model/DrawingDocument.h"
+#include "ui/canvas/StatusBar.h"
+
+#include <QEvent>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace marlevo {
+
+WindowAccessor::Coordinator::Coordinator(DrawingDocument& document, QObject* parent)
+    : QObject(parent), document_(document) {}
+
+void WindowAccessor::Coordinator::setup(QWidget& view) {
+    QMetaObject::invokeMethod(
+        this, [this, &view] { view.window()->installEventFilter(this); }, Qt::QueuedConnection);
+}
+
+bool WindowAccessor::Coordinator::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Close) return false;
+    if (windowShouldClose(static_cast<QWidget&>(*watched))) return false;
+    event->ignore();
+    return true;
+}
+
+bool WindowAccessor::Coordinator::windowShouldClose(QWidget& window) {
+    if (shouldSkipClose_ || strokeCount(document_) < 1) return true;
+    if (alert_)
+        alert_->raise();
+    else
+        ask(window);
+    return false;
+}
+
+void WindowAccessor::Coordinator::ask(QWidget& window) {
+    alert_ = new QMessageBox(&window);
+    alert_->setAttribute(Qt::WA_DeleteOnClose);
+    alert_->setIcon(QMessageBox::Warning);
+    alert_->setText(tr("Do you want to save your drawing?"));
+    alert_->setInformativeText(tr("Your drawing will be lost if you don't save."));
+    QPushButton* const save = alert_->addButton(tr("Save"), QMessageBox::AcceptRole);
+    QPushButton* const cancel = alert_->addButton(tr("Cancel"), QMessageBox::RejectRole);
+    QPushButton* const discard = alert_->addButton(tr("Don't Save"), QMessageBox::DestructiveRole);
+    alert_->setDefaultButton(save);
+    alert_->setEscapeButton(cancel);
+
+    connect(alert_, &QMessageBox::finished, this, [this, &window, save, discard] {
+        const QAbstractButton* const answer = alert_->clickedButton();
+        // So that a new question can be asked.
+        alert_.clear();
+        if (answer != save && answer != discard) {
+            Q_EMIT kept();
+            return;
+        }
+        shouldSkipClose_ = true;
+        if (answer == save)
+            savePictureThenClose(window);
+        else
+            window.close();
+    });
+    alert_->setWindowModality(Qt::ApplicationModal);
+    alert_->show();
+}
+
+void WindowAccessor::Coordinator::savePictureThenClose(QWidget& window) {
+    const Services& services = document_.services();
+    if (services.filePanels == nullptr) {
+        window.close();
+        return;
+    }
+    services.filePanels->showSavePanel(
+        {services.translate("Files", "Save Drawing"), fileType(ExportFormat::png, services),
+         document_.proposedPictureName(ExportFormat::png), std::nullopt},
+        [this, &window](const std::optional<std::filesystem::path>& file) {
+            if (file) document_.exportTo(*file, ExportFormat::png);
+            window.close();
+        });
+}
+
+}  // namespace marlevo

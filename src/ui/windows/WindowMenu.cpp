@@ -1,0 +1,33 @@
+#include "ui/windows/WindowMenu.h"
+
+#include "ui/windows/DocumentWindow.h"
+#include "ui/windows/MarlevoApp.h"
+
+namespace marlevo {
+
+WindowMenu::WindowMenu(MarlevoApp& app, QWidget& window)
+    : QMenu(tr("&Window"), &window), app_(app), window_(window) {
+    QAction* const minimize = addAction(tr("Minimize"), &window, &QWidget::showMinimized);
+    minimize->setShortcut(Qt::CTRL | Qt::Key_M);
+    minimize->setAutoRepeat(false);
+    addSeparator();
+    connect(this, &QMenu::aboutToShow, this, &WindowMenu::listWindows);
+}
+
+void WindowMenu::listWindows() {
+    qDeleteAll(listed_);
+    listed_.clear();
+    for (DocumentWindow* const window : app_.documentWindows()) {
+        QString title = window->content().windowTitle().replace('&', QLatin1String("&&"));
+        QAction* const action = addAction(title, window, [window] {
+            window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+            window->raise();
+            window->activateWindow();
+        });
+        action->setCheckable(true);
+        action->setChecked(window == &window_);
+        listed_.push_back(action);
+    }
+}
+
+}  // namespace marlevo

@@ -1,0 +1,26 @@
+#include "ui/windows/WindowTitleUpdater.h"
+
+#include <QWidget>
+
+#include <utility>
+
+namespace marlevo {
+
+namespace {
+
+/// The toolkit takes this sign for a place to mark unsaved changes, unless it stands twice.
+QString literal(QString title) {
+    return title.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+}  // namespace
+
+WindowTitleUpdater::WindowTitleUpdater(DrawingDocument& document, QWidget& view,
+                                       std::function<QString()> title)
+    : follower_(document, [&view, title = std::move(title)] {
+          QMetaObject::invokeMethod(
+              &view, [&view, text = literal(title())] { view.window()->setWindowTitle(text); },
+              Qt::QueuedConnection);
+      }) {}
+
+}  // namespace marlevo
