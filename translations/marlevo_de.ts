@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>CanvasTexts</name>
+    <message>
+        <source>single_stroke</source>
+        <translation>%1 Strich</translation>
+    </message>
+    <message>
+        <source>multiple_strokes</source>
+        <translation>%1 Striche</translation>
+    </message>
+</context>
+<context>
     <name>Files</name>
     <message>
         <source>Drawing-</source>
@@ -117,6 +128,41 @@
     </message>
 </context>
 <context>
+    <name>ToolNames</name>
+    <message>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Radierer</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::ActionRow</name>
     <message>
         <source>Undo</source>
@@ -198,26 +244,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Draw</source>
-        <translation>Zeichnen</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>Auswählen</translation>
-    </message>
-    <message>
-        <source>Eraser</source>
-        <translation>Radierer</translation>
-    </message>
-    <message>
-        <source>Fill</source>
-        <translation>Füllen</translation>
-    </message>
-    <message>
-        <source>Drop</source>
-        <translation>Pipette</translation>
-    </message>
-    <message>
         <source>Size</source>
         <translation>Größe</translation>
     </message>
@@ -266,18 +292,6 @@
 </context>
 <context>
     <name>marlevo::FormsSection</name>
-    <message>
-        <source>Line</source>
-        <translation>Linie</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>Rechteck</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>Ellipse</translation>
-    </message>
     <message>
         <source>Forms</source>
         <translation>Formen</translation>
@@ -597,14 +611,6 @@
 </context>
 <context>
     <name>marlevo::StatusBar</name>
-    <message>
-        <source>single_stroke</source>
-        <translation>%1 Strich</translation>
-    </message>
-    <message>
-        <source>multiple_strokes</source>
-        <translation>%1 Striche</translation>
-    </message>
     <message>
         <source>Zoom</source>
         <translation>Zoom</translation>

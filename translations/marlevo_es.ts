@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>CanvasTexts</name>
+    <message>
+        <source>single_stroke</source>
+        <translation>%1 trazo</translation>
+    </message>
+    <message>
+        <source>multiple_strokes</source>
+        <translation>%1 trazos</translation>
+    </message>
+</context>
+<context>
     <name>Files</name>
     <message>
         <source>Drawing-</source>
@@ -117,6 +128,41 @@
     </message>
 </context>
 <context>
+    <name>ToolNames</name>
+    <message>
+        <source>Draw</source>
+        <translation>Dibujar</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Borrador</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Rellenar</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Cuentagotas</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectángulo</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Elipse</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::ActionRow</name>
     <message>
         <source>Undo</source>
@@ -198,26 +244,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Draw</source>
-        <translation>Dibujar</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>Seleccionar</translation>
-    </message>
-    <message>
-        <source>Eraser</source>
-        <translation>Borrador</translation>
-    </message>
-    <message>
-        <source>Fill</source>
-        <translation>Rellenar</translation>
-    </message>
-    <message>
-        <source>Drop</source>
-        <translation>Cuentagotas</translation>
-    </message>
-    <message>
         <source>Size</source>
         <translation>Tamaño</translation>
     </message>
@@ -266,18 +292,6 @@
 </context>
 <context>
     <name>marlevo::FormsSection</name>
-    <message>
-        <source>Line</source>
-        <translation>Línea</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>Rectángulo</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>Elipse</translation>
-    </message>
     <message>
         <source>Forms</source>
         <translation>Formas</translation>
@@ -597,14 +611,6 @@
 </context>
 <context>
     <name>marlevo::StatusBar</name>
-    <message>
-        <source>single_stroke</source>
-        <translation>%1 trazo</translation>
-    </message>
-    <message>
-        <source>multiple_strokes</source>
-        <translation>%1 trazos</translation>
-    </message>
     <message>
         <source>Zoom</source>
         <translation>Zoom</translation>

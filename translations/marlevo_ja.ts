@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>CanvasTexts</name>
+    <message>
+        <source>single_stroke</source>
+        <translation>%1 ストローク</translation>
+    </message>
+    <message>
+        <source>multiple_strokes</source>
+        <translation>%1 ストローク</translation>
+    </message>
+</context>
+<context>
     <name>Files</name>
     <message>
         <source>Drawing-</source>
@@ -117,6 +128,41 @@
     </message>
 </context>
 <context>
+    <name>ToolNames</name>
+    <message>
+        <source>Draw</source>
+        <translation>描く</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>消しゴム</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>スポイト</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>長方形</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>楕円</translation>
+    </message>
+</context>
+<context>
     <name>marlevo::ActionRow</name>
     <message>
         <source>Undo</source>
@@ -198,26 +244,6 @@
 <context>
     <name>marlevo::DrawingSection</name>
     <message>
-        <source>Draw</source>
-        <translation>描く</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>選択</translation>
-    </message>
-    <message>
-        <source>Eraser</source>
-        <translation>消しゴム</translation>
-    </message>
-    <message>
-        <source>Fill</source>
-        <translation>塗りつぶし</translation>
-    </message>
-    <message>
-        <source>Drop</source>
-        <translation>スポイト</translation>
-    </message>
-    <message>
         <source>Size</source>
         <translation>サイズ</translation>
     </message>
@@ -266,18 +292,6 @@
 </context>
 <context>
     <name>marlevo::FormsSection</name>
-    <message>
-        <source>Line</source>
-        <translation>直線</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>長方形</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>楕円</translation>
-    </message>
     <message>
         <source>Forms</source>
         <translation>図形</translation>
@@ -597,14 +611,6 @@
 </context>
 <context>
     <name>marlevo::StatusBar</name>
-    <message>
-        <source>single_stroke</source>
-        <translation>%1 ストローク</translation>
-    </message>
-    <message>
-        <source>multiple_strokes</source>
-        <translation>%1 ストローク</translation>
-    </message>
     <message>
         <source>Zoom</source>
         <translation>ズーム</translation>

@@ -1,11 +1,11 @@
 #include "ui/canvas/CanvasAccessibility.h"
 
 #include "ui/ToolChoice.h"
+#include "ui/canvas/CanvasTexts.h"
 #include "ui/canvas/CanvasView.h"
 #include "ui/canvas/StatusBar.h"
 #include "ui/controls/ControlAccessibility.h"
-#include "ui/sidebar/DrawingSection.h"
-#include "ui/sidebar/FormsSection.h"
+#include "ui/controls/ToolNames.h"
 
 #include <QCoreApplication>
 
@@ -20,21 +20,22 @@ using namespace std::chrono_literals;
 // A drag of strokes changes the layers with every move of the pointer.
 constexpr auto delay = 200ms;
 
-/// As the sidebar calls them; the eraser's key leaves other tools chosen beside it.
+/// Several tools can be chosen at once: the eraser's key leaves the others as they are.
 QStringList chosenTools(const DrawingDocument& document) {
     using ShapeType = Stroke::ShapeType;
+    const ToolNames names = toolNames();
     QStringList tools;
     const auto add = [&](bool isChosen, const QString& name) {
         if (isChosen) tools << name;
     };
-    add(document.isDrawingMode(), DrawingSection::tr("Draw"));
-    add(document.isSelectTool, DrawingSection::tr("Select"));
-    add(document.isEraser, DrawingSection::tr("Eraser"));
-    add(document.isFillTool, DrawingSection::tr("Fill"));
-    add(document.isEyeDropper, DrawingSection::tr("Drop"));
-    add(isShapeChosen(document, ShapeType::line), FormsSection::tr("Line"));
-    add(isShapeChosen(document, ShapeType::rect), FormsSection::tr("Rectangle"));
-    add(isShapeChosen(document, ShapeType::ellipse), FormsSection::tr("Ellipse"));
+    add(document.isDrawingMode(), names.draw);
+    add(document.isSelectTool, names.select);
+    add(document.isEraser, names.eraser);
+    add(document.isFillTool, names.fill);
+    add(document.isEyeDropper, names.eyeDropper);
+    add(isShapeChosen(document, ShapeType::line), names.line);
+    add(isShapeChosen(document, ShapeType::rect), names.rectangle);
+    add(isShapeChosen(document, ShapeType::ellipse), names.ellipse);
     return tools;
 }
 

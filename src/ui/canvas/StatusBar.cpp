@@ -1,6 +1,7 @@
 #include "ui/canvas/StatusBar.h"
 
 #include "ui/canvas/CanvasAccessibility.h"
+#include "ui/canvas/CanvasTexts.h"
 #include "ui/canvas/ZoomRange.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/SmallButton.h"
@@ -44,17 +45,6 @@ qint64 strokeCount(const DrawingDocument& document) {
                            [](qint64 sum, const Layer& layer) {
                                return sum + static_cast<qint64>(layer.strokes.size());
                            });
-}
-
-QString localizedStrokeCount(qint64 count) {
-    const QString format =
-        count == 1 ? StatusBar::tr("single_stroke") : StatusBar::tr("multiple_strokes");
-    return format.contains(QLatin1String("%1")) ? format.arg(count) : format;
-}
-
-QString wholePixels(double side) {
-    const bool fits = side > -0x1p63 && side < 0x1p63;
-    return fits ? QString::number(static_cast<qint64>(side)) : QStringLiteral("–");
 }
 
 StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindow, QWidget* parent)

@@ -14,14 +14,6 @@ namespace marlevo {
 /// Of all layers, hidden ones too.
 qint64 strokeCount(const DrawingDocument& document);
 
-/// What the catalogue says for a number of strokes: its entry "single_stroke" for exactly 1, else
-/// "multiple_strokes", with the count for "%1". Without an entry the key itself.
-QString localizedStrokeCount(qint64 count);
-
-/// A side of the canvas as its whole pixels. A number that is none, or beyond what 64 bits hold, is
-/// shown as "–".
-QString wholePixels(double side);
-
 /// The line below the canvas: the canvas's size, the number of strokes, the zoom with its controls,
 /// and the name of the active layer.
 class StatusBar final : public QWidget {

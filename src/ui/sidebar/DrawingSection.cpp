@@ -2,6 +2,7 @@
 
 #include "ui/ToolChoice.h"
 #include "ui/controls/ModeButtonRow.h"
+#include "ui/controls/ToolNames.h"
 #include "ui/sidebar/SidebarMeasures.h"
 
 #include <QVBoxLayout>
@@ -43,25 +44,26 @@ DrawingSection::DrawingSection(DrawingDocument& document, QWidget* parent)
 QWidget* DrawingSection::makeTools() {
     using enum ModeButton::Kind;
     const auto& d = document_;
+    const ToolNames names = toolNames();
     auto* tools = new QWidget(this);
     auto* rows = new QVBoxLayout(tools);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(rowSpacing);
     rows->addWidget(new ModeButtonRow(
         {makeButton(
-             primary, Icon::pencil, tr("Draw"), [&d] { return d.isDrawingMode(); }, chooseBrush),
+             primary, Icon::pencil, names.draw, [&d] { return d.isDrawingMode(); }, chooseBrush),
          makeButton(
-             secondary, Icon::arrowPointer, tr("Select"), [&d] { return d.isSelectTool.get(); },
+             secondary, Icon::arrowPointer, names.select, [&d] { return d.isSelectTool.get(); },
              chooseSelect),
          makeButton(
-             primary, Icon::eraser, tr("Eraser"), [&d] { return d.isEraser.get(); },
+             primary, Icon::eraser, names.eraser, [&d] { return d.isEraser.get(); },
              chooseEraser)}));
     rows->addWidget(
         new ModeButtonRow({makeButton(
-                               secondary, Icon::paintBucket, tr("Fill"),
+                               secondary, Icon::paintBucket, names.fill,
                                [&d] { return d.isFillTool.get(); }, chooseFill),
                            makeButton(
-                               secondary, Icon::eyedropper, tr("Drop"),
+                               secondary, Icon::eyedropper, names.eyeDropper,
                                [&d] { return d.isEyeDropper.get(); }, chooseEyeDropper)}));
     return tools;
 }

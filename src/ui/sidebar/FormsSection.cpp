@@ -3,6 +3,7 @@
 #include "ui/ToolChoice.h"
 #include "ui/controls/ModeButtonRow.h"
 #include "ui/controls/TextLabel.h"
+#include "ui/controls/ToolNames.h"
 #include "ui/sidebar/SidebarMeasures.h"
 
 #include <QVBoxLayout>
@@ -12,14 +13,15 @@ namespace marlevo {
 FormsSection::FormsSection(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document) {
     using ShapeType = Stroke::ShapeType;
+    const ToolNames names = toolNames();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, sectionPadding, 0, sectionPadding);
     column->setSpacing(sectionSpacing);
     column->addWidget(new SectionHeader(tr("Forms")));
     column->addWidget(
-        new ModeButtonRow({makeButton(Icon::lineDiagonal, tr("Line"), ShapeType::line),
-                           makeButton(Icon::rectangle, tr("Rectangle"), ShapeType::rect),
-                           makeButton(Icon::circle, tr("Ellipse"), ShapeType::ellipse)}));
+        new ModeButtonRow({makeButton(Icon::lineDiagonal, names.line, ShapeType::line),
+                           makeButton(Icon::rectangle, names.rectangle, ShapeType::rect),
+                           makeButton(Icon::circle, names.ellipse, ShapeType::ellipse)}));
 }
 
 ModeButton* FormsSection::makeButton(Icon icon, const QString& label, Stroke::ShapeType type) {

@@ -2,7 +2,7 @@
 
 #include "model/DrawingDocument.h"
 #include "platform/Preferences.h"
-#include "ui/canvas/StatusBar.h"
+#include "ui/canvas/CanvasTexts.h"
 #include "ui/controls/ControlAccessibility.h"
 #include "ui/controls/IconLabel.h"
 #include "ui/controls/Separator.h"
