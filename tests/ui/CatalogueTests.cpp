@@ -1,4 +1,5 @@
 #include "tests/ui/RunningApp.h"
+#include "ui/canvas/CanvasTexts.h"
 #include "ui/controls/IconButton.h"
 #include "ui/windows/Translations.h"
 
@@ -179,8 +180,7 @@ private Q_SLOTS:
         QCOMPARE(command(s.window, entries.at({"marlevo::MenuCommands", "Save As…"})).shortcut(),
                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
         drawStroke(s.document);
-        QCOMPARE(localizedStrokeCount(1),
-                 entries.at({"marlevo::StatusBar", "single_stroke"}).arg(1));
+        QCOMPARE(localizedStrokeCount(1), entries.at({"CanvasTexts", "single_stroke"}).arg(1));
     }
 
     void thereIsOneLanguageAtATime() {
