@@ -32,21 +32,6 @@ class CanvasPointerTests : public QObject {
     };
 
 private Q_SLOTS:
-    void aDragKeepsEveryPositionAndTheReleaseAddsNone() {
-        Setting s;
-        s.pointer.press({100, 50});
-        QCOMPARE((*s.document.currentStroke)->points.size(), std::size_t{1});
-        s.pointer.move({101, 50});
-        s.pointer.move({101, 50.5});
-        s.pointer.move({-30, -40});
-        s.pointer.release({-30, -40});
-        const std::vector<Point> expected{{100, 50}, {101, 50}, {101, 50.5}, {-30, -40}};
-        QVERIFY(s.drawn() == expected);
-        QVERIFY(!s.document.currentStroke->has_value());
-        s.pointer.move({10, 10});
-        QVERIFY(!s.document.currentStroke->has_value());
-    }
-
     void positionsAreDividedByTheZoomAndKeepTheirFraction() {
         Setting s;
         s.document.zoom = 2;
@@ -78,29 +63,7 @@ private Q_SLOTS:
         s.pointer.press({20, 20});
         s.pointer.release({20, 20});
         s.pointer.press({20, 20});
-        s.pointer.move({50, 20});
-        s.pointer.release({50, 20});
-        const std::vector<Point> expected{{20, 20}, {50, 20}};
-        QVERIFY(s.drawn() == expected);
-    }
-
-    void toolsThatDoNotDrawLeaveThePictureAlone() {
-        Setting s;
-        const auto drag = [&s] {
-            s.pointer.press({20, 20});
-            s.pointer.move({60, 60});
-            s.pointer.release({60, 60});
-        };
-        s.document.isSelectTool = true;
-        drag();
-        s.document.isSelectTool = false;
-        s.document.isFillTool = true;
-        drag();
-        s.document.isFillTool = false;
-        s.document.isEyeDropper = true;
-        drag();
-        QVERIFY(!s.document.canUndo());
-        QVERIFY(!s.document.currentStroke->has_value());
+        QVERIFY(s.document.currentStroke->has_value());
     }
 
     void aDragWhoseWindowLosesTheFocusEnds() {
@@ -116,19 +79,6 @@ private Q_SLOTS:
         s.pointer.move({90, 20});
         s.pointer.release({90, 20});
         QCOMPARE(s.drawn().size(), std::size_t{2});
-    }
-
-    void aPressThatStaysNearIsAClick() {
-        PointerDrag drag;
-        drag.press({10, 10});
-        drag.moveTo({12, 11});
-        QVERIFY(drag.release());
-
-        drag.press({10, 10});
-        drag.moveTo({40, 10});
-        drag.moveTo({10, 10});
-        QVERIFY2(!drag.release(), "coming back does not make a drag a click");
-        QVERIFY(!drag.isActive());
     }
 };
 

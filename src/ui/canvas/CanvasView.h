@@ -3,24 +3,25 @@
 #include "io/ImageDrop.h"
 #include "model/DrawingDocument.h"
 #include "render/ScreenPicture.h"
+#include "tools/ClickDetector.h"
+#include "tools/PointerGesture.h"
 #include "ui/Follower.h"
-#include "ui/canvas/PointerDrag.h"
+#include "ui/canvas/CanvasOverlay.h"
 
 #include <QWidget>
 
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace marlevo {
 
 class DevicePixels;
 
-/// The drawing surface: shows the document's picture and turns the pointer into calls of the
-/// document's editing operations. Its owner keeps it exactly as large as the canvas is shown.
+/// The drawing surface: shows the document's picture and turns pointer events into calls of the
+/// document's editing operations. The owner keeps it exactly as large as the canvas is shown.
 ///
-/// Holds nothing of the drawing itself: each paint and each event reads the document afresh. After
-/// a change of what it shows, the view looks which pixels would be others now, and paints these.
+/// Keeps no copy of the drawing: each paint and each event reads the document afresh. After a
+/// change, only the pixels that differ are painted.
 class CanvasView final : public QWidget {
     Q_OBJECT
 
@@ -41,49 +42,26 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    /// The outline around the selected stroke as it is shown.
-    struct Outline {
-        Rect rect;  ///< canvas pixels
-        double opacity = 1;
-
-        friend bool operator==(const Outline&, const Outline&) = default;
-    };
-
-    /// What lies over the picture.
-    struct Overlay {
-        std::optional<Outline> outline;
-        bool hasEyeDropper = false;
-
-        static Overlay of(const DrawingDocument& document);
-    };
-
     void takeColors();
     void follow(DocumentProperty property);
     void updateWhatChanged();
     void updateOverlay();
-    void updateOutline(const std::optional<Outline>& outline);
     void updateDevicePixels(const QRectF& area);
 
     double deviceScale() const { return document_.zoom * devicePixelRatioF(); }
     void paintPicture(const DevicePixels& pixels, const QRect& exposed);
-    void paintOutline(QImage& frame, QPoint origin, const Outline& outline) const;
-    QRectF eyeDropperPlace() const;
     void showPointerOfTool();
 
-    QPointF position(const QMouseEvent& event) const;
-    Point canvasPoint(QPointF position) const;
-
-    void dragChanged(QPointF position);
-    void dragEnded();
-    void clicked(QPointF position);
-    void endInterruptedDrag();
+    Point viewPoint(const QMouseEvent& event) const;
+    Point canvasPoint(Point viewPoint) const;
 
     DrawingDocument& document_;
     ScreenPicture picture_;
-    Overlay shownOverlay_;
+    CanvasOverlay shownOverlay_;
     bool isChangeAnnounced_ = false;
-    std::vector<std::uint8_t> frame_;  ///< pixels on their way to the window, kept to be reused
-    PointerDrag drag_;
+    std::vector<std::uint8_t> frame_;  ///< the pixels of one paint; reused by the next
+    PointerGesture gesture_;
+    ClickDetector clickDetector_;
     ImageDrop imageDrop_;
     Reader reader_;
     Follower pointerShape_;
