@@ -55,9 +55,16 @@ class CanvasPaintingTests : public QObject {
             if (!QTest::qWaitForWindowExposed(&window)) qFatal("no window");
         }
 
-        /// What the screen shows of the canvas's surroundings `margin` points wide.
+        /// Handles what is posted, and paints what is due now instead of with the next frame.
+        void settle() {
+            QCoreApplication::processEvents();
+            QEvent dueNow(QEvent::UpdateRequest);
+            QCoreApplication::sendEvent(&window, &dueNow);
+        }
+
+        /// What the screen shows of the canvas and of `margin` points around it.
         QImage shot(int margin = 0) {
-            QTest::qWait(60);
+            settle();
             const QImage image = window.screen()->grabWindow(window.winId()).toImage();
             const double ratio = view.devicePixelRatioF();
             const QRectF place = QRectF(view.mapTo(&window, QPointF()), view.size())
@@ -186,13 +193,13 @@ private Q_SLOTS:
 
     void onlyWhatWasShownCausesARedraw() {
         Setting s;
-        QTest::qWait(60);
+        s.settle();
         PaintCounter paints(s.view);
         s.document.lineWidth = 9;
         s.document.isEraser = true;
         s.document.exportFormat = ExportFormat::bmp;
         s.document.showGrid = false;
-        QTest::qWait(60);
+        s.settle();
         QCOMPARE(paints.count, 0);
         s.document.showGrid = true;
         QTRY_COMPARE(paints.count, 1);
@@ -212,7 +219,7 @@ private Q_SLOTS:
                                       {1e300, 1e300},
                                       {infinity, -infinity}}) {
             s.document.canvasSize = size;
-            QTest::qWait(20);
+            s.settle();
             QVERIFY(s.view.width() >= 0 && s.view.width() <= QWIDGETSIZE_MAX);
             QVERIFY(s.view.height() >= 0 && s.view.height() <= QWIDGETSIZE_MAX);
         }

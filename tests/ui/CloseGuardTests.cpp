@@ -118,8 +118,12 @@ private Q_SLOTS:
         QTRY_VERIFY(alertOf(*kept));
         QVERIFY(!alertOf(s.window));
         answer(*kept, "Cancel");
-        QTest::qWait(50);
+        QTRY_VERIFY(!alertOf(*kept));
         QVERIFY(kept && !alertOf(s.window));
+        kept->close();
+        answer(*kept, "Don't Save");
+        QTRY_VERIFY(!kept);
+        QVERIFY2(s.open && !alertOf(s.window), "closing one window later does not quit");
     }
 
     void quitGoesOnAfterAPictureWasSaved() {

@@ -37,9 +37,11 @@ private Q_SLOTS:
         auto queue = std::make_unique<QtMainQueue>();
         bool ran = false;
         queue->post([&] { ran = true; });
-        QVERIFY(!ran);
+        QtMainQueue later;
+        bool ranLater = false;
+        later.post([&] { ranLater = true; });
         queue.reset();
-        QTest::qWait(20);
+        QTRY_VERIFY(ranLater);
         QVERIFY(!ran);
     }
 
