@@ -35,30 +35,31 @@ struct Decimal {
     std::size_t decimals;
 };
 
-/// The decimal with the fewest digits that lies nearer to `number` than to any other double.
+/// The decimal with the fewest digits that is nearer to `number` than to any other double.
 ///
 /// The search of R. Giulietti, "The Schubfach way to render doubles" (2020): at the scale where
 /// neighbouring doubles are between one and ten units apart, one of at most four candidates is the
-/// answer. For the numbers of a drawing the scaling is exact in 128 bits, so the paper's tables and
-/// its proofs about their rounding are not needed.
+/// answer. For numbers from 2^-10 to 2^53 with a fraction, the only ones allowed here, the scaling
+/// is exact in 128 bits, so the paper's tables and its proofs about their rounding are not needed.
 ///
-/// For numbers from 2^-10 to 2^53 with a fraction.
+/// No candidate is halfway between two doubles: such a decimal has shift + 1 decimals, and the
+/// candidates have at most ceil(0.302 shift + 0.125) of them.
 Decimal shortestDecimal(double number) {
     constexpr int fractionBits = 52;
     const auto bits = std::bit_cast<std::uint64_t>(number);
     const std::uint64_t hiddenBit = std::uint64_t{1} << fractionBits;
     const std::uint64_t fraction = bits & (hiddenBit - 1);
     const std::uint64_t significand = fraction | hiddenBit;
-    const int shift =
-        1075 - static_cast<int>(bits >> fractionBits);  // number = significand / 2^shift
+    // number = significand / 2^shift, with shift from 1 to 62.
+    const int shift = 1075 - static_cast<int>(bits >> fractionBits);
 
-    // At a power of two the neighbour below is only half as far away.
+    // Below a power of two the distance to the next double is only half as large.
     const bool isPowerOfTwo = fraction == 0;
-    // ceil(log10(2^shift)), respectively of 4/3 of it; the constants are 2^20 times the logarithms.
+    // ceil(log10(2^shift)), or of 4/3 of it; the constants are 2^20 times the logarithms.
     const auto decimals =
         static_cast<std::size_t>((shift * 315653 + (isPowerOfTwo ? 131008 : 0) + 1048575) >> 20);
 
-    // Values are held in quarters of the last digit, with the lowest bit for any remainder.
+    // Values in quarters of the last digit. The lowest bit is set when there is a remainder.
     const auto quarters = [shift](uint128 product) {
         const std::uint64_t remainder = static_cast<std::uint64_t>(product) << (64 - shift);
         return static_cast<std::uint64_t>(product >> shift) | (remainder != 0 ? 1 : 0);
@@ -66,10 +67,8 @@ Decimal shortestDecimal(double number) {
     const uint128 scale = powersOfTen[decimals];
     const uint128 product = uint128{4} * significand * scale;
     const std::uint64_t value = quarters(product);
-    // An odd significand loses a tie against its even neighbour, so its bounds are not its own.
-    const std::uint64_t margin = significand & 1;
-    const std::uint64_t low = quarters(product - (isPowerOfTwo ? scale : 2 * scale)) + margin;
-    const std::uint64_t high = quarters(product + 2 * scale) - margin;
+    const std::uint64_t low = quarters(product - (isPowerOfTwo ? scale : 2 * scale));
+    const std::uint64_t high = quarters(product + 2 * scale);
 
     const std::uint64_t below = value / 4;
     const std::uint64_t tensBelow = below / 10;
@@ -83,7 +82,7 @@ Decimal shortestDecimal(double number) {
     const bool isUpperNearer = value > middle || (value == middle && (below & 1) != 0);
     const bool roundUp = lowerFits != upperFits ? upperFits : isUpperNearer;
 
-    // Which one it is cannot be predicted, so this had better not branch.
+    // Written for conditional moves: a branch here is unpredictable.
     return {lowerTenFits != upperTenFits ? ten : below + (roundUp ? 1 : 0), decimals};
 }
 
@@ -100,7 +99,8 @@ void writeEightDigits(std::uint32_t number, char* to) {
     std::memcpy(to + 6, digitPairs[lower % 100].data(), 2);
 }
 
-/// Writes a point and fraction / 10^decimals without trailing zeros; may scribble behind the end.
+/// Writes a point and fraction / 10^decimals without trailing zeros, and returns the end. May
+/// overwrite characters behind the end.
 char* writeFraction(std::uint64_t fraction, std::size_t decimals, char* to) {
     constexpr std::uint32_t group = 100'000'000;
     *to++ = '.';
@@ -108,11 +108,11 @@ char* writeFraction(std::uint64_t fraction, std::size_t decimals, char* to) {
         *to++ = static_cast<char>('0' + fraction / powersOfTen[decimals - 1]);
         fraction %= powersOfTen[decimals - 1];
     }
-    fraction *= powersOfTen[16 - decimals];  // the digits stand left in two groups of eight
+    fraction *= powersOfTen[16 - decimals];  // two groups of eight digits, aligned to the left
     writeEightDigits(static_cast<std::uint32_t>(fraction / group), to);
     writeEightDigits(static_cast<std::uint32_t>(fraction % group), to + 8);
     to += decimals;
-    to -= to[-1] == '0' ? 1 : 0;  // one zero is common and unpredictable, more are rare
+    to -= to[-1] == '0' ? 1 : 0;  // no branch: one zero is common, more are rare
     while (to[-1] == '0')
         --to;
     return to;
@@ -127,7 +127,7 @@ char* writeNumber(double number, char* to) {
         const auto whole = static_cast<std::uint64_t>(magnitude);
         if (static_cast<double>(whole) == magnitude) return writeWhole(whole, to);
         if (magnitude >= 0x1p-10) {
-            // Whole numbers are doubles themselves, so the decimal lies between the same two.
+            // Whole numbers are doubles, so the decimal is between the same two as the number.
             const Decimal decimal = shortestDecimal(magnitude);
             const std::uint64_t fraction = decimal.digits - whole * powersOfTen[decimal.decimals];
             return writeFraction(fraction, decimal.decimals, writeWhole(whole, to));

@@ -35,7 +35,7 @@ std::string shortestDigitsOf(double number) {
     return digitsOf({text.data(), end.ptr});
 }
 
-TEST(NumberText, writesNumbersAsPeopleDo) {
+TEST(NumberText, writesTheShortestPlainText) {
     const std::pair<double, const char*> cases[] = {
         {0, "0"},
         {-0.0, "-0"},
@@ -51,6 +51,10 @@ TEST(NumberText, writesNumbersAsPeopleDo) {
         {0.001, "0.001"},
         {5e-324, "5e-324"},
         {1e22, "1e+22"},
+        {123456789012345678901.0, "123456789012345683968"},
+        // Halfway between two shortest texts: the even one.
+        {1125899906842624.25, "1125899906842624.2"},
+        {1125899906842624.75, "1125899906842624.8"},
         {std::numeric_limits<double>::max(), "1.7976931348623157e+308"},
     };
     for (const auto& [number, text] : cases)
