@@ -6,7 +6,7 @@ namespace marlevo {
 
 std::error_code FileDescriptor::close() {
     const int descriptor = std::exchange(descriptor_, -1);
-    // Not repeated after a signal: the system has let the descriptor go by then.
+    // Not repeated after a signal: the system has released the descriptor by then.
     if (descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR) return {};
     return lastSystemError();
 }
@@ -19,8 +19,11 @@ Failure outOfMemoryFailure(const std::filesystem::path& file) {
     return fileFailure(file, std::make_error_code(std::errc::not_enough_memory));
 }
 
-Failure notRegularFailure(const std::filesystem::path& file, bool isFolder) {
-    if (isFolder) return fileFailure(file, std::make_error_code(std::errc::is_a_directory));
+Failure folderFailure(const std::filesystem::path& folder) {
+    return fileFailure(folder, std::make_error_code(std::errc::is_a_directory));
+}
+
+Failure notRegularFailure(const std::filesystem::path& file) {
     return {file.string() + ": Not a regular file"};
 }
 

@@ -13,7 +13,8 @@ namespace marlevo {
 class FileDescriptor {
 public:
     FileDescriptor() = default;
-    explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}  ///< negative: none
+    /// A negative number means that there is no file.
+    explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
     ~FileDescriptor() { close(); }
     FileDescriptor(FileDescriptor&& other) noexcept
         : descriptor_(std::exchange(other.descriptor_, -1)) {}
@@ -25,7 +26,7 @@ public:
     explicit operator bool() const { return descriptor_ >= 0; }
     int get() const { return descriptor_; }
 
-    /// Afterwards there is no file, also on an error, which may be one of an earlier write.
+    /// Closes the file, also when it returns an error, which may belong to an earlier write.
     std::error_code close();
 
 private:
@@ -50,7 +51,10 @@ Failure fileFailure(const std::filesystem::path& file, std::error_code error);
 /// "/folder/file: Cannot allocate memory"
 Failure outOfMemoryFailure(const std::filesystem::path& file);
 
-/// What failed for a file that is a folder, a device, a pipe or the like.
-Failure notRegularFailure(const std::filesystem::path& file, bool isFolder);
+/// "/folder: Is a directory"
+Failure folderFailure(const std::filesystem::path& folder);
+
+/// "/folder/pipe: Not a regular file", for a device, a pipe or a socket.
+Failure notRegularFailure(const std::filesystem::path& file);
 
 }  // namespace marlevo

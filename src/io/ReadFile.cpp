@@ -11,7 +11,7 @@ namespace marlevo {
 
 namespace {
 
-/// Fills `room` unless the file ends before; how much it got, or −1 with the system's error.
+/// Fills `room` unless the file ends before. Returns the number of bytes read, or −1 with errno set.
 ssize_t readInto(std::span<std::uint8_t> room, const FileDescriptor& file) {
     std::size_t done = 0;
     while (done < room.size()) {
@@ -27,14 +27,14 @@ ssize_t readInto(std::span<std::uint8_t> room, const FileDescriptor& file) {
 }  // namespace
 
 Result<PaddedBytes> readWholeFile(const std::filesystem::path& path) {
-    // Without waiting, since a pipe would wait for its writer.
+    // O_NONBLOCK, because opening a pipe waits for its writer.
     const FileDescriptor file(uninterrupted(
         [&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }));
     struct stat status {};
     if (!file || ::fstat(file.get(), &status) != 0)
         return Unexpected(fileFailure(path, lastSystemError()));
-    if (!S_ISREG(status.st_mode))
-        return Unexpected(notRegularFailure(path, S_ISDIR(status.st_mode)));
+    if (S_ISDIR(status.st_mode)) return Unexpected(folderFailure(path));
+    if (!S_ISREG(status.st_mode)) return Unexpected(notRegularFailure(path));
 
     const auto size = static_cast<std::size_t>(status.st_size);
     try {
