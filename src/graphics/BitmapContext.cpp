@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace marlevo {
 
@@ -20,46 +19,28 @@ struct State {
     double alpha = 1;
 };
 
-/// What lies near enough to `area` to leave a mark there: within `reach`, and what rounding adds.
-VisibleRange visibleRange(const IntRect& area, double reach) {
-    const double margin = reach + 2;
-    return {area.left - margin, area.top - margin, area.right + margin, area.bottom + margin};
-}
+/// The box on the device that can leave a mark in `area` within `reach`; rounding adds a margin.
+Bounds cullRect(const IntRect& area, double reach) { return Bounds::of(area).grownBy(reach + 2); }
 
-/// Whether the box around all the path's points, on the device, meets `range`.
-bool isInSight(const Path& path, const DeviceFrame& frame, const VisibleRange& range) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    double minX = infinity;
-    double minY = infinity;
-    double maxX = -infinity;
-    double maxY = -infinity;
-    // A coordinate that is not a number compares false and does not count.
-    const auto include = [&](double x, double y) {
-        minX = x < minX ? x : minX;
-        maxX = x > maxX ? x : maxX;
-        minY = y < minY ? y : minY;
-        maxY = y > maxY ? y : maxY;
-    };
+/// The box of all the path's points, control points included.
+Bounds boundsOf(const Path& path) {
+    Bounds bounds;
     for (const Path::Element& e : path.elements()) {
-        include(e.point.x, e.point.y);
+        bounds.include(e.point);
         switch (e.kind) {
         case Path::Kind::move:
         case Path::Kind::line:
             break;
         case Path::Kind::quadCurve:
-            include(e.control.x, e.control.y);
+            bounds.include(e.control);
             break;
         case Path::Kind::rect:
         case Path::Kind::ellipse:
-            include(e.rect().maxX(), e.rect().maxY());
+            bounds.include({e.rect().maxX(), e.rect().maxY()});
             break;
         }
     }
-    const auto [left, right] =
-        std::minmax({minX * frame.scaleX + frame.originX, maxX * frame.scaleX + frame.originX});
-    const auto [top, bottom] =
-        std::minmax({minY * frame.scaleY + frame.originY, maxY * frame.scaleY + frame.originY});
-    return left <= range.right && right >= range.left && top <= range.bottom && bottom >= range.top;
+    return bounds;
 }
 
 /// A pen as wide and as high as it is on the device.
@@ -96,18 +77,18 @@ struct BitmapContext::Rasterizer {
         return {lineWidth * std::abs(state.frame.scaleX), lineWidth * std::abs(state.frame.scaleY)};
     }
 
-    /// Flattens what can be seen of the path, to `flattened`; false if that is nothing.
-    bool flattenVisible(const Path& path, double reach, OpenContours ends) {
-        const VisibleRange visible = visibleRange(target.area, reach);
-        if (!isInSight(path, state.frame, visible)) return false;
-        flatten(path, state.frame, flatteningTolerance, flattened, ends, visible);
+    /// Flattens the visible part of the path to `flattened`; false if that is nothing.
+    bool flattenVisible(const Path& path, double reach, OpenContours openContours) {
+        const Bounds cull = cullRect(target.area, reach);
+        if (!state.frame.map(boundsOf(path)).touches(cull)) return false;
+        flatten(path, state.frame, flatteningTolerance, flattened, openContours, cull);
         return !flattened.isEmpty();
     }
 
-    /// Flattens all of the path if anything of it can be seen: for what makes of a segment more
-    /// than can be told from the segment alone.
+    /// Flattens the whole path if any part of it is visible, for an outline whose corners depend on
+    /// more than the segment nearby.
     bool flattenWhole(const Path& path, double reach) {
-        if (!isInSight(path, state.frame, visibleRange(target.area, reach))) return false;
+        if (!state.frame.map(boundsOf(path)).touches(cullRect(target.area, reach))) return false;
         flatten(path, state.frame, flatteningTolerance, flattened);
         return !flattened.isEmpty();
     }
@@ -147,16 +128,14 @@ double BitmapContext::alpha() const { return rasterizer_->state.alpha; }
 const IntRect& BitmapContext::area() const { return rasterizer_->target.area; }
 
 void BitmapContext::fillRect(const Rect& rect, const Color& color) {
-    const DeviceFrame& frame = rasterizer_->state.frame;
-    const auto [left, right] = std::minmax(
-        {rect.minX() * frame.scaleX + frame.originX, rect.maxX() * frame.scaleX + frame.originX});
-    const auto [top, bottom] = std::minmax(
-        {rect.minY() * frame.scaleY + frame.originY, rect.maxY() * frame.scaleY + frame.originY});
-    constexpr double limit = FlattenedPath::maxCoordinate;
-    const bool isInRange = left >= -limit && right <= limit && top >= -limit && bottom <= limit;
-    if (isInRange && isWhole(left) && isWhole(top) && isWhole(right) && isWhole(bottom)) {
-        rasterizer_->fillPixels({static_cast<int>(left), static_cast<int>(top),
-                                 static_cast<int>(right), static_cast<int>(bottom)},
+    const Bounds box = rasterizer_->state.frame.map(Bounds::of(rect));
+    constexpr Bounds limit = flattenedRange;
+    const bool isInRange = box.left >= limit.left && box.right <= limit.right &&
+                           box.top >= limit.top && box.bottom <= limit.bottom;
+    if (isInRange && isWhole(box.left) && isWhole(box.top) && isWhole(box.right) &&
+        isWhole(box.bottom)) {
+        rasterizer_->fillPixels({static_cast<int>(box.left), static_cast<int>(box.top),
+                                 static_cast<int>(box.right), static_cast<int>(box.bottom)},
                                 rasterizer_->pack(color));
         return;
     }
@@ -206,13 +185,8 @@ void BitmapContext::blendHeld(std::span<const CoverageBlock> blocks, PackedColor
 }
 
 void BitmapContext::drawImage(const RasterImage& image, const Rect& rect) {
-    const DeviceFrame& frame = rasterizer_->state.frame;
-    const auto [left, right] = std::minmax(
-        {rect.minX() * frame.scaleX + frame.originX, rect.maxX() * frame.scaleX + frame.originX});
-    const auto [top, bottom] = std::minmax(
-        {rect.minY() * frame.scaleY + frame.originY, rect.maxY() * frame.scaleY + frame.originY});
-    marlevo::drawImage(image, {left, top, right, bottom}, rasterizer_->state.alpha,
-                       rasterizer_->target);
+    marlevo::drawImage(image, rasterizer_->state.frame.map(Bounds::of(rect)),
+                       rasterizer_->state.alpha, rasterizer_->target);
 }
 
 }  // namespace marlevo

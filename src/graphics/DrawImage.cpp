@@ -163,27 +163,14 @@ HWY_EXPORT(meanOfLines);
 HWY_EXPORT(meanOfPixels);
 HWY_EXPORT(blendLine);
 
-namespace {
-
-/// The pixels of `area` that the rectangle touches.
-IntRect touchedPixels(const DeviceRect& rect, const IntRect& area) {
-    const auto within = [](double v, int low, int high) {
-        return static_cast<int>(std::clamp(v, double(low), double(high)));
-    };
-    return {within(std::floor(rect.left), area.left, area.right),
-            within(std::floor(rect.top), area.top, area.bottom),
-            within(std::ceil(rect.right), area.left, area.right),
-            within(std::ceil(rect.bottom), area.top, area.bottom)};
-}
-
-}  // namespace
-
-void drawImage(const RasterImage& image, const DeviceRect& rect, double alpha,
+void drawImage(const RasterImage& image, const Bounds& rect, double alpha,
                const PixelBuffer& target) {
     const bool isFinite = std::isfinite(rect.left) && std::isfinite(rect.top) &&
                           std::isfinite(rect.right) && std::isfinite(rect.bottom);
-    if (!isFinite || !(rect.left < rect.right) || !(rect.top < rect.bottom) || !(alpha > 0)) return;
-    const IntRect touched = touchedPixels(rect, target.area);
+    if (!isFinite || !(rect.left < rect.right) || !(rect.top < rect.bottom) || !(alpha > 0) ||
+        target.area.isEmpty())
+        return;
+    const IntRect touched = rect.pixelsWithin(target.area);
     if (touched.isEmpty()) return;
 
     const ResampleAxis columns(image.width(), rect.left, rect.right, touched.left, touched.width());

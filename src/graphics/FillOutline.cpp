@@ -47,7 +47,7 @@ private:
 
 void BandFiller::fill(const FlattenedPath& outline, const PixelBuffer& target, PackedColor color) {
     const EdgeBuilder edges(outline);
-    box_ = target.area.intersectedWith(edges.touchedPixels());
+    box_ = edges.touchedPixels(target.area);
     if (box_.isEmpty()) return;
 
     bandRows_ = std::clamp(bandCells / box_.width(), 1, box_.height());

@@ -1,7 +1,8 @@
 #include "graphics/Flatten.h"
 
+#include "graphics/ClipToBorder.h"
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -9,20 +10,19 @@ namespace marlevo {
 
 namespace {
 
-// Enough for a curve that bends by 50,000 pixels; beyond, the tolerance gives way, not the memory.
+// Enough for a curve that bends by 50,000 pixels. Beyond that the error grows, not the memory.
 constexpr int maxSegmentsPerCurve = 512;
 
 bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
-Point lerp(Point a, Point b, double t) { return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t}; }
-
 /// Builds a FlattenedPath from device points of any size.
-class PolylineBuilder {
+class ContourBuilder {
 public:
-    PolylineBuilder(OpenContours ends, FlattenedPath& out) : ends_(ends), out_(out) {}
+    ContourBuilder(OpenContours openContours, FlattenedPath& out)
+        : openContours_(openContours), out_(out) {}
 
     void moveTo(Point p) {
-        finishSubPath();
+        finishContour();
         start_ = current_ = p;
         hasCurrent_ = true;
     }
@@ -37,24 +37,22 @@ public:
         current_ = p;
     }
 
-    static bool isInRange(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
-
-    /// Joins the sub-path to its start, where the pen then is.
+    /// Joins the contour to its start and moves the pen there.
     void close() {
-        // The joining segment of points outside the range does not join their images on the border.
+        // Of points outside the range the joining segment needs the corners on the border, too.
         if (!isInRange(current_) || !isInRange(start_)) lineTo(start_);
         if (isDrawing_) out_.contours.back().closed = true;
         moveTo(start_);
     }
 
-    void finishSubPath() {
+    void finishContour() {
         if (!isDrawing_) return;
-        FlattenedPath::Contour& part = out_.contours.back();
-        if (ends_ == OpenContours::close && !part.closed) {
+        FlattenedPath::Contour& contour = out_.contours.back();
+        if (openContours_ == OpenContours::close && !contour.closed) {
             if (!isInRange(current_) || !isInRange(start_)) addAlongBorder(current_, start_);
-            part.closed = true;
+            contour.closed = true;
         }
-        part.count = out_.points.size() - part.first;
+        contour.count = out_.points.size() - contour.first;
         isDrawing_ = false;
     }
 
@@ -64,32 +62,19 @@ public:
 private:
     static constexpr double limit = FlattenedPath::maxCoordinate;
 
-    static Point nearestInRange(Point p) {
-        return {std::clamp(p.x, -limit, limit), std::clamp(p.y, -limit, limit)};
-    }
+    static bool isInRange(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
 
     void begin() {
         out_.contours.push_back({out_.points.size(), 0, false});
-        out_.points.push_back(nearestInRange(current_));
+        out_.points.push_back(nearestInSquare(current_, limit));
         isDrawing_ = true;
     }
 
-    // The image of a segment under "nearest point in range" bends only where the segment crosses
-    // one of the four lines that bound the range.
-    void addAlongBorder(Point a, Point b) {
-        const auto crossing = [](double from, double to, double at) {
-            return (from < at) != (to < at) ? (at - from) / (to - from) : 1;
-        };
-        std::array<double, 4> crossings{crossing(a.x, b.x, -limit), crossing(a.x, b.x, limit),
-                                        crossing(a.y, b.y, -limit), crossing(a.y, b.y, limit)};
-        std::sort(crossings.begin(), crossings.end());
-        for (const double t : crossings) {
-            if (t < 1) out_.points.push_back(nearestInRange(lerp(a, b, t)));
-        }
-        out_.points.push_back(nearestInRange(b));
+    void addAlongBorder(Point from, Point to) {
+        clipToBorder(from, to, limit, [this](Point p) { out_.points.push_back(p); });
     }
 
-    OpenContours ends_;
+    OpenContours openContours_;
     FlattenedPath& out_;
     Point start_;
     Point current_;
@@ -99,11 +84,11 @@ private:
 
 class Flattener {
 public:
-    Flattener(const DeviceFrame& frame, double tolerance, const VisibleRange& visible,
-              PolylineBuilder& builder)
+    Flattener(const DeviceFrame& frame, double tolerance, const Bounds& cull,
+              ContourBuilder& builder)
         : frame_(frame), tolerance_(tolerance),
           oneSegmentBendSquare_(4 * tolerance * (4 * tolerance)),
-          twoSegmentsBendSquare_(16 * tolerance * (16 * tolerance)), visible_(visible),
+          twoSegmentsBendSquare_(16 * tolerance * (16 * tolerance)), cull_(cull),
           builder_(builder) {}
 
     void add(const Path::Element& element) {
@@ -128,18 +113,10 @@ public:
     }
 
 private:
-    // Far enough to be out of sight from everywhere, near enough for differences to stay finite.
+    // Beyond every picture, but differences of such coordinates stay finite.
     static constexpr double horizon = 1e30;
 
-    Point toDevice(Point p) const {
-        return {std::clamp(p.x * frame_.scaleX + frame_.originX, -horizon, horizon),
-                std::clamp(p.y * frame_.scaleY + frame_.originY, -horizon, horizon)};
-    }
-
-    bool isOutOfSight(double minX, double maxX, double minY, double maxY) const {
-        return maxX < visible_.left || minX > visible_.right || maxY < visible_.top ||
-               minY > visible_.bottom;
-    }
+    Point toDevice(Point p) const { return nearestInSquare(frame_.map(p), horizon); }
 
     void addLine(Point to) {
         if (!builder_.hasCurrent()) builder_.moveTo(to);
@@ -151,7 +128,7 @@ private:
         const Point from = builder_.current();
         const Point bend{from.x - 2 * control.x + to.x, from.y - 2 * control.y + to.y};
         const double bendSquare = bend.x * bend.x + bend.y * bend.y;
-        // Freehand lines are made of curves so short that one or two segments do.
+        // The curves of freehand lines are so short that one or two segments are enough.
         if (bendSquare < oneSegmentBendSquare_) {
             builder_.lineTo(to);
             return;
@@ -165,19 +142,16 @@ private:
             builder_.lineTo(to);
             return;
         }
-        const int count =
-            isOutOfSight(std::min({from.x, control.x, to.x}), std::max({from.x, control.x, to.x}),
-                         std::min({from.y, control.y, to.y}), std::max({from.y, control.y, to.y}))
-                ? 1
-                : segmentsPerCurve(bendSquare);
+        const Point corners[]{from, control, to};
+        const int count = Bounds::of(corners).touches(cull_) ? segmentsPerCurve(bendSquare) : 1;
         const double step = 1.0 / count;
         for (int i = 1; i < count; ++i)
             builder_.lineTo(pointAt(i * step));
         builder_.lineTo(to);
     }
 
-    // Equal steps of the parameter: a piece of length h strays from its chord by h² / 4 of the
-    // curve's second difference, here called its bend.
+    // Equal steps of the parameter: the distance of a piece of length h from its chord is at most
+    // h² / 4 of the curve's second difference, here called its bend.
     int segmentsPerCurve(double bendSquare) const {
         const double count = std::sqrt(std::sqrt(bendSquare) / (4 * tolerance_));
         return 1 + static_cast<int>(std::min(count, maxSegmentsPerCurve - 1.0));
@@ -196,12 +170,12 @@ private:
     void addEllipse(const Rect& rect) {
         const Point a = toDevice({rect.minX(), rect.minY()});
         const Point b = toDevice({rect.maxX(), rect.maxY()});
-        const Point center = lerp(a, b, 0.5);
+        const Point center{a.x + (b.x - a.x) * 0.5, a.y + (b.y - a.y) * 0.5};
         const Point radius{std::abs(b.x - a.x) / 2, std::abs(b.y - a.y) / 2};
-        const int quarter = isOutOfSight(center.x - radius.x, center.x + radius.x,
-                                         center.y - radius.y, center.y + radius.y)
-                                ? 1
-                                : segmentsPerQuarter(std::max(radius.x, radius.y));
+        const Bounds box{center.x - radius.x, center.y - radius.y, center.x + radius.x,
+                         center.y + radius.y};
+        const int quarter =
+            box.touches(cull_) ? segmentsPerQuarter(std::max(radius.x, radius.y)) : 1;
         const double step = std::numbers::pi / 2 / quarter;
         const double stepCos = std::cos(step);
         const double stepSin = std::sin(step);
@@ -218,7 +192,7 @@ private:
         builder_.close();
     }
 
-    // A chord over the angle s strays from a circle of radius r by r · (1 − cos(s / 2)).
+    // The distance of a chord over the angle s from its circle of radius r is r · (1 − cos(s / 2)).
     int segmentsPerQuarter(double radius) const {
         if (radius <= tolerance_) return 1;
         const double step = 2 * std::acos(1 - tolerance_ / radius);
@@ -228,28 +202,23 @@ private:
 
     const DeviceFrame& frame_;
     double tolerance_;
-    double oneSegmentBendSquare_;  ///< a curve that bends less is as good as its chord
+    double oneSegmentBendSquare_;  ///< a curve that bends less becomes its chord
     double twoSegmentsBendSquare_;
-    const VisibleRange& visible_;
-    PolylineBuilder& builder_;
+    const Bounds& cull_;
+    ContourBuilder& builder_;
 };
-
-bool canDraw(const DeviceFrame& frame) {
-    return std::isfinite(frame.scaleX) && std::isfinite(frame.scaleY) && frame.scaleX != 0 &&
-           frame.scaleY != 0 && std::isfinite(frame.originX) && std::isfinite(frame.originY);
-}
 
 }  // namespace
 
 void flatten(const Path& path, const DeviceFrame& frame, double tolerance, FlattenedPath& out,
-             OpenContours ends, const VisibleRange& visible) {
+             OpenContours openContours, const Bounds& cull) {
     out.clear();
-    if (!canDraw(frame)) return;
-    PolylineBuilder builder(ends, out);
-    Flattener flattener(frame, tolerance, visible, builder);
+    if (!frame.isUsable()) return;
+    ContourBuilder builder(openContours, out);
+    Flattener flattener(frame, tolerance, cull, builder);
     for (const Path::Element& element : path.elements())
         flattener.add(element);
-    builder.finishSubPath();
+    builder.finishContour();
 }
 
 }  // namespace marlevo

@@ -1,6 +1,7 @@
 #include "graphics/IncrementalArea.h"
 
 #include "graphics/AccumulationSweep.h"
+#include "graphics/Bounds.h"
 #include "graphics/Stroker.h"
 
 #include <algorithm>
@@ -19,18 +20,8 @@ constexpr std::size_t segmentsConcerned = 6;
 constexpr std::size_t segmentsChanged = 3;
 
 IntRect areaAround(std::span<const Point> points, double reach) {
-    double minX = points.front().x;
-    double minY = points.front().y;
-    double maxX = minX;
-    double maxY = minY;
-    for (const Point p : points) {
-        minX = std::min(minX, p.x);
-        minY = std::min(minY, p.y);
-        maxX = std::max(maxX, p.x);
-        maxY = std::max(maxY, p.y);
-    }
-    return {static_cast<int>(std::floor(minX - reach)), static_cast<int>(std::floor(minY - reach)),
-            static_cast<int>(std::ceil(maxX + reach)), static_cast<int>(std::ceil(maxY + reach))};
+    constexpr int limit = static_cast<int>(FlattenedPath::maxCoordinate) * 2;
+    return Bounds::of(points).grownBy(reach).pixelsWithin({-limit, -limit, limit, limit});
 }
 
 }  // namespace

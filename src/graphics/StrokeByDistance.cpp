@@ -1,5 +1,6 @@
 #include "graphics/StrokeByDistance.h"
 
+#include "graphics/Bounds.h"
 #include "graphics/DistanceField.h"
 #include "graphics/RoundPen.h"
 
@@ -154,26 +155,6 @@ namespace {
 // Larger strokes are drawn in bands, which keeps the field in the second-level cache.
 constexpr int maxFieldPixels = 1 << 17;
 
-IntRect touchedArea(const FlattenedPath& path, double reach, const IntRect& area) {
-    double minX = area.right + reach;
-    double minY = area.bottom + reach;
-    double maxX = area.left - reach;
-    double maxY = area.top - reach;
-    for (const Point& p : path.points) {
-        minX = std::min(minX, p.x);
-        minY = std::min(minY, p.y);
-        maxX = std::max(maxX, p.x);
-        maxY = std::max(maxY, p.y);
-    }
-    const auto toPixel = [](double value, int low, int high) {
-        return static_cast<int>(std::clamp<double>(value, low, high));
-    };
-    return {toPixel(std::floor(minX - reach), area.left, area.right),
-            toPixel(std::floor(minY - reach), area.top, area.bottom),
-            toPixel(std::ceil(maxX + reach), area.left, area.right),
-            toPixel(std::ceil(maxY + reach), area.top, area.bottom)};
-}
-
 /// Calls take(field, pen, band) with the distances in each band of `area` that the pen touches,
 /// which may be left out where all is covered.
 template <typename Take>
@@ -181,7 +162,7 @@ void forEachBand(const FlattenedPath& path, double deviceWidth, const IntRect& a
                  const OcclusionMask* covered, Take take) {
     if (!(deviceWidth > 0) || area.isEmpty()) return;
     const RoundPen pen(deviceWidth);
-    const IntRect touched = touchedArea(path, pen.reach, area);
+    const IntRect touched = Bounds::of(path.points).grownBy(pen.reach).pixelsWithin(area);
     if (touched.isEmpty()) return;
 
     thread_local DistanceField field;
@@ -240,7 +221,9 @@ void blendHeld(std::span<const CoverageBlock> blocks, const PixelBuffer& target,
 
 IntRect areaByDistance(const FlattenedPath& path, double deviceWidth) {
     constexpr int limit = static_cast<int>(FlattenedPath::maxCoordinate) * 2;
-    return touchedArea(path, RoundPen(deviceWidth).reach, {-limit, -limit, limit, limit});
+    return Bounds::of(path.points)
+        .grownBy(RoundPen(deviceWidth).reach)
+        .pixelsWithin({-limit, -limit, limit, limit});
 }
 
 }  // namespace marlevo

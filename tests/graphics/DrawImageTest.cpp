@@ -140,7 +140,7 @@ TEST(DrawImage, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
     for (int round = 0; round < 30; ++round) {
         const auto [left, right] = std::minmax({edge(random), edge(random)});
         const auto [top, bottom] = std::minmax({edge(random), edge(random)});
-        const DeviceRect rect{left, top, right, bottom};
+        const Bounds rect{left, top, right, bottom};
         Canvas whole(100, 90);
         drawImage(image, rect, 0.9, whole.buffer());
         Canvas parts(100, 90);
@@ -177,14 +177,14 @@ TEST(DrawImage, SurvivesRectanglesOfAnyKind) {
     const RasterImage image = imageOf(300, 200, [](int, int) { return red; });
     Canvas canvas(40, 30);
     const std::vector<std::uint8_t> untouched = canvas.bytes();
-    for (const DeviceRect& rect : {DeviceRect{0, 0, inf, 10},
-                                   {-inf, 0, inf, 10},
-                                   {std::nan(""), 0, 10, 10},
-                                   {5, 5, 5, 20},
-                                   {20, 5, 10, 20},
-                                   {50, 0, 80, 30},
-                                   {-1e300, 0, -1e299, 30},
-                                   {5, 5, 5 + 1e-9, 20}}) {
+    for (const Bounds& rect : {Bounds{0, 0, inf, 10},
+                               {-inf, 0, inf, 10},
+                               {std::nan(""), 0, 10, 10},
+                               {5, 5, 5, 20},
+                               {20, 5, 10, 20},
+                               {50, 0, 80, 30},
+                               {-1e300, 0, -1e299, 30},
+                               {5, 5, 5 + 1e-9, 20}}) {
         drawImage(image, rect, 1, canvas.buffer());
         EXPECT_EQ(canvas.bytes(), untouched) << rect.left << " to " << rect.right;
     }
