@@ -11,7 +11,8 @@ namespace marlevo {
 
 namespace {
 
-/// Fills `room` unless the file ends before. Returns the number of bytes read, or −1 with errno set.
+/// Fills `room` unless the file ends before. Returns the number of bytes read, or −1 with errno
+/// set.
 ssize_t readInto(std::span<std::uint8_t> room, const FileDescriptor& file) {
     std::size_t done = 0;
     while (done < room.size()) {
