@@ -10,8 +10,9 @@ namespace marlevo {
 inline constexpr int fillTolerance = 35;
 
 /// The cells that are joined to `seed` through the sides of cells (never through a corner alone)
-/// whose four bytes each differ by at most `tolerance` (0 to 255) from those of the seed's pixel.
-/// Every cell is compared with the seed, not with its neighbour: a slow ramp ends the region.
+/// whose four bytes each differ by at most `tolerance` from those of the seed's pixel. A tolerance
+/// below 0 counts as 0, one above 255 as 255. Every cell is compared with the seed, not with its
+/// neighbour: a slow ramp ends the region.
 ///
 /// `seed` is a cell of the grid laid over the picture (rows count upwards, see GridPoint); a seed
 /// outside gives the empty region. Reads the picture once, from top to bottom, whatever the shape

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <hwy/targets.h>
 
+#include <limits>
+
 namespace marlevo {
 namespace {
 
@@ -58,6 +60,16 @@ TEST(FloodFill, ComparesEveryByteWithTheSeedAtEveryTolerance) {
             expectRegionOfTheDefinition(image, seed, tolerance);
         }
     }
+}
+
+TEST(FloodFill, LimitsTheToleranceToTheRangeOfAByte) {
+    const RasterImage image(4, 1, {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 10, 255, 0, 255, 0});
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    for (const int tolerance : {least, -256, -1})
+        EXPECT_EQ(floodFill(image, {0, 0}, tolerance).size(), 2u);
+    for (const int tolerance : {256, 300, most})
+        EXPECT_EQ(floodFill(image, {0, 0}, tolerance).size(), 4u);
 }
 
 TEST(FloodFill, JoinsADifferenceOf35AndStopsAt36InAnyByte) {
