@@ -113,10 +113,13 @@ void addFlattened(PathWriter& writer, const Path& path, PathUse use, double fart
         const auto points = flattened.pointsOf(part);
         const auto place = [scale](Point p) { return Point{p.x / scale, p.y / scale}; };
         writer.move(place(points.front()));
-        if (points.size() == 1) writer.line(place(points.front()));
+        bool isDot = true;
         for (std::size_t i = 1; i < points.size(); ++i) {
-            if (points[i] != points[i - 1]) writer.line(place(points[i]));
+            if (points[i] == points[i - 1]) continue;
+            writer.line(place(points[i]));
+            isDot = false;
         }
+        if (isDot && use == PathUse::stroke) writer.line(place(points.front()));
         if (part.closed) writer.close();
     }
 }

@@ -154,6 +154,14 @@ TEST_P(PdfInReaders, LinesThatLeaveTheWorldCrossThePageWhereTheyDo) {
     EXPECT_LT(difference(), 1.5);
 }
 
+TEST_P(PdfInReaders, DotsOfPathsThatHoldOddPointsAreShown) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    add(makeStroke({{60, 60}, {60, 60}, {nan, 5}}, 40, Type::freehand));
+    add(makeStroke({{140, 60}, {nan, 60}}, 40, Type::line));
+    add(makeStroke({{1e9, 60}, {1e9, 60}}, 40, Type::line));
+    EXPECT_LT(difference(), 0.8);
+}
+
 TEST_P(PdfInReaders, ImagesAreUprightWithTheirAlphaAndOpacity) {
     std::vector<std::uint8_t> file{20, 12};
     for (int y = 0; y < 12; ++y) {
