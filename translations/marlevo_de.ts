@@ -544,6 +544,10 @@
         <translation>Den Ordner „%1“ gibt es nicht.</translation>
     </message>
     <message>
+        <source>The name “%1” is too long.</source>
+        <translation>Der Name „%1“ ist zu lang.</translation>
+    </message>
+    <message>
         <source>“%1” already exists. Do you want to replace it?</source>
         <translation>„%1“ existiert bereits. Möchten Sie die Datei ersetzen?</translation>
     </message>

@@ -544,6 +544,10 @@
         <translation>The folder “%1” does not exist.</translation>
     </message>
     <message>
+        <source>The name “%1” is too long.</source>
+        <translation>The name “%1” is too long.</translation>
+    </message>
+    <message>
         <source>“%1” already exists. Do you want to replace it?</source>
         <translation>“%1” already exists. Do you want to replace it?</translation>
     </message>

@@ -544,6 +544,10 @@
         <translation>La carpeta «%1» no existe.</translation>
     </message>
     <message>
+        <source>The name “%1” is too long.</source>
+        <translation>El nombre «%1» es demasiado largo.</translation>
+    </message>
+    <message>
         <source>“%1” already exists. Do you want to replace it?</source>
         <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
     </message>

@@ -544,6 +544,10 @@
         <translation>Le dossier «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
+        <source>The name “%1” is too long.</source>
+        <translation>Le nom «&#xa0;%1&#xa0;» est trop long.</translation>
+    </message>
+    <message>
         <source>“%1” already exists. Do you want to replace it?</source>
         <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#x202f;?</translation>
     </message>

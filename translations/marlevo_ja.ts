@@ -544,6 +544,10 @@
         <translation>フォルダー「%1」が見つかりません。</translation>
     </message>
     <message>
+        <source>The name “%1” is too long.</source>
+        <translation>「%1」という名前は長すぎます。</translation>
+    </message>
+    <message>
         <source>“%1” already exists. Do you want to replace it?</source>
         <translation>「%1」はすでに存在します。置き換えますか？</translation>
     </message>

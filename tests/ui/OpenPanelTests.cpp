@@ -1,10 +1,13 @@
 #include "platform/qt/OpenPanel.h"
 #include "platform/qt/QtFilePanels.h"
 
+#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 using namespace marlevo;
 
@@ -28,13 +31,13 @@ class OpenPanelTests : public QObject {
 
         QString create(const QString& name) const {
             QFile file(folder.filePath(name));
-            if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write");
+            if (!file.open(QIODevice::WriteOnly) || file.write("{}") != 2) qFatal("cannot write");
             return file.fileName();
         }
 
         void confirm(const QString& name) const {
             panel->findChild<QLineEdit*>("fileNameEdit")->setText(name);
-            panel->accept();
+            panel->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
         }
     };
 
@@ -49,6 +52,29 @@ private Q_SLOTS:
         s.confirm("a.marlevo");
         QCOMPARE(s.answers.size(), 1u);
         QCOMPARE(s.answers[0], std::filesystem::path(file.toStdString()));
+    }
+
+    void aQuoteIsPartOfAName() {
+        Setting s;
+        const QString file = s.create("say \"hi\".marlevo");
+        s.create("hi");
+        s.confirm("say \"hi\".marlevo");
+        QCOMPARE(s.answers.size(), 1u);
+        QCOMPARE(s.answers[0], std::filesystem::path(file.toStdString()));
+    }
+
+    void theListShowsSizeTypeAndDateWhole() {
+        Setting s;
+        s.create("a.marlevo");
+        auto& list = *s.panel->findChild<QTreeView*>("treeView");
+        QTRY_VERIFY(list.model()->rowCount(list.rootIndex()) == 1);
+        for (int column = 1; column < list.model()->columnCount(); ++column) {
+            const QModelIndex cell = list.model()->index(0, column, list.rootIndex());
+            QTRY_VERIFY(!cell.data().toString().isEmpty());
+            const int needed = list.fontMetrics().horizontalAdvance(cell.data().toString());
+            QTRY_VERIFY2(list.visualRect(cell).width() > needed,
+                         qPrintable(cell.data().toString()));
+        }
     }
 
     void staysOpenForAMissingFileAndForAFolder() {

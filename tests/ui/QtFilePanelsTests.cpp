@@ -1,7 +1,9 @@
 #include "platform/qt/QtFilePanels.h"
 #include "platform/qt/SavePanel.h"
 
+#include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -22,10 +24,10 @@ class QtFilePanelsTests : public QObject {
 
         Setting() { window.show(); }
 
-        SavePanel& open() {
+        SavePanel& open(const std::string& proposedName = "Drawing-1280x720.png") {
             panels->showSavePanel({"Export Drawing",
                                    {"PNG image", {"png"}},
-                                   "Drawing-1280x720.png",
+                                   proposedName,
                                    folder.path().toStdString()},
                                   [this](const auto& answer) { answers.push_back(answer); });
             return *window.findChild<SavePanel*>();
@@ -38,6 +40,17 @@ class QtFilePanelsTests : public QObject {
         void create(const QString& name) const {
             QFile file(folder.filePath(name));
             if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write");
+        }
+
+        /// The text of the message over the panel, which it ends by clicking a button.
+        static QString answerMessage(SavePanel& panel, const QString& clicked) {
+            auto* message = panel.findChild<QMessageBox*>();
+            if (!message) return {};
+            const QString text = message->textFormat() == Qt::PlainText ? message->text() : "rich";
+            for (QAbstractButton* candidate : message->buttons())
+                if (candidate->text().remove('&') == clicked) candidate->click();
+            QTest::qWait(1);
+            return text;
         }
 
         /// The answers so far, as names in the folder.
@@ -81,29 +94,68 @@ private Q_SLOTS:
         s.create("old.png");
         SavePanel& panel = s.open();
         Setting::type(panel, "old");
-        const auto answerWith = [&panel](const QString& button) {
-            auto* question = panel.findChild<QMessageBox*>();
-            if (!question) return false;
-            for (QAbstractButton* candidate : question->buttons())
-                if (candidate->text().remove('&') == button) candidate->click();
-            QTest::qWait(1);
-            return true;
-        };
         panel.accept();
-        QVERIFY(answerWith("Cancel"));
+        QVERIFY(!Setting::answerMessage(panel, "Cancel").isEmpty());
         QVERIFY(panel.isVisible() && s.answers.empty());
         panel.accept();
-        QVERIFY(answerWith("Replace"));
+        QVERIFY(!Setting::answerMessage(panel, "Replace").isEmpty());
         QCOMPARE(s.names(), QStringList{"old.png"});
     }
 
-    void refusesAFolderThatDoesNotExist() {
+    void anyTextIsOneName() {
+        const QStringList names{"my \"best\" drawing.png", "a\"b.png", "12\" record.png",
+                                "~unknown.png", " \\ % ; & $ .png"};
+        for (const QString& name : names) {
+            Setting s;
+            for (const char* other : {"best", "b.png", "b"})
+                s.create(other);
+            SavePanel& typed = s.open();
+            Setting::type(typed, QString(name).remove(".png"));
+            typed.accept();
+            QTest::qWait(1);
+            s.open(name.toStdString()).accept();
+            QCOMPARE(s.names(), (QStringList{name, name}));
+        }
+    }
+
+    void aProposedNameThatIsNoTextKeepsItsBytes() {
+        Setting s;
+        const std::string name = "b\xe4.png";
+        s.open(name).accept();
+        QCOMPARE(s.answers.at(0).value().filename().string(), name);
+    }
+
+    void saysWhyANameCannotBeUsed() {
         Setting s;
         SavePanel& panel = s.open();
-        Setting::type(panel, "nowhere/name");
+        QVERIFY(QDir(s.folder.path()).mkdir("<b>x.png"));
+        const auto refusal = [&](const QString& name) {
+            Setting::type(panel, name);
+            panel.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+            return Setting::answerMessage(panel, "OK");
+        };
+        QVERIFY(refusal("nowhere/name").contains("nowhere"));
+        QVERIFY(refusal("<b>x").contains("<b>x.png"));
+        // 255 bytes are the most.
+        for (const QString& tooLong :
+             {QString(126, QChar(0xfc)), QString(252, 'x'), QString(999, 'x')})
+            QVERIFY(refusal(tooLong).contains("too long"));
+        QVERIFY(panel.isVisible() && s.answers.empty());
+        QVERIFY(refusal(QString(251, 'x')).isEmpty());
+        QCOMPARE(s.names(), QStringList{QString(251, 'x') + ".png"});
+    }
+
+    void aFolderChosenInTheListIsOpened() {
+        Setting s;
+        QVERIFY(QDir(s.folder.path()).mkdir("sub"));
+        SavePanel& panel = s.open();
+        auto& list = *panel.findChild<QListView*>("listView");
+        QTRY_VERIFY(list.model()->rowCount(list.rootIndex()) == 1);
+        list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
         panel.accept();
         QVERIFY(panel.isVisible() && s.answers.empty());
-        QVERIFY(panel.findChild<QMessageBox*>());
+        panel.accept();
+        QCOMPARE(s.names(), QStringList{"sub/Drawing-1280x720.png"});
     }
 
     void cancellingAndAskingTwiceAnswerWithNothing() {
@@ -118,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(s.names(), (QStringList{"cancelled", "cancelled"}));
     }
 
-    void nobodyIsToldAfterThePanelsAreGone() {
+    void deletedPanelsGiveNoAnswer() {
         Setting s;
         s.open();
         s.panels.reset();

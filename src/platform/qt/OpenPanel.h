@@ -1,21 +1,18 @@
 #pragma once
 
-#include "platform/FilePanels.h"
-
-#include <QFileDialog>
+#include "platform/qt/FilePanel.h"
 
 namespace marlevo {
 
-/// Asks for one existing file. The same on every desktop: the toolkit's own dialog, not the
-/// platform's.
-class OpenPanel final : public QFileDialog {
+/// Asks for one existing file.
+class OpenPanel final : public FilePanel {
     Q_OBJECT
 
 public:
     OpenPanel(const OpenPanelRequest& request, QWidget* parent);
 
-    /// Stays open for a name that no file has; goes into a folder.
-    void accept() override;
+private:
+    void examine(const std::filesystem::path& file) override;
 };
 
 }  // namespace marlevo

@@ -3,19 +3,9 @@
 #include "platform/qt/OpenPanel.h"
 #include "platform/qt/SavePanel.h"
 
-#include <QFileInfo>
-
 #include <utility>
 
 namespace marlevo {
-
-namespace {
-
-std::filesystem::path chosenFile(const QFileDialog& panel) {
-    return QFileInfo(panel.selectedFiles().value(0)).absoluteFilePath().toStdU16String();
-}
-
-}  // namespace
 
 QtFilePanels::QtFilePanels(QWidget& window) : window_(window) {}
 
@@ -35,14 +25,14 @@ void QtFilePanels::cancelLater(Completion completion) {
     queue_.post([completion = std::move(completion)] { completion(std::nullopt); });
 }
 
-void QtFilePanels::show(QFileDialog* panel, Completion completion) {
+void QtFilePanels::show(FilePanel* panel, Completion completion) {
     open_ = panel;
     panel->setAttribute(Qt::WA_DeleteOnClose);
-    // The panel is the context: once it is gone, nobody is called.
+    // The panel is the context: its deletion disconnects the completion.
     QObject::connect(panel, &QFileDialog::finished, panel,
                      [panel, completion = std::move(completion)](int result) {
                          if (result == QFileDialog::Accepted)
-                             completion(chosenFile(*panel));
+                             completion(panel->chosenFile());
                          else
                              completion(std::nullopt);
                      });

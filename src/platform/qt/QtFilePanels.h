@@ -1,15 +1,15 @@
 #pragma once
 
 #include "platform/FilePanels.h"
+#include "platform/qt/FilePanel.h"
 #include "platform/qt/QtMainQueue.h"
 
-#include <QFileDialog>
 #include <QPointer>
 
 namespace marlevo {
 
-/// The file panels of one window, shown over it. Panels still open when this object goes away are
-/// closed without an answer.
+/// The file panels of one window, shown over it. A panel that is open at the destruction of this
+/// object is closed without an answer.
 class QtFilePanels final : public FilePanels {
 public:
     /// The window must outlive this object.
@@ -24,10 +24,10 @@ public:
 
 private:
     void cancelLater(Completion completion);
-    void show(QFileDialog* panel, Completion completion);
+    void show(FilePanel* panel, Completion completion);
 
     QWidget& window_;
-    QPointer<QFileDialog> open_;
+    QPointer<FilePanel> open_;
     QtMainQueue queue_;
 };
 

@@ -1,8 +1,6 @@
 #include "platform/qt/SavePanel.h"
 
-#include "platform/qt/PanelParts.h"
-
-#include <QFileInfo>
+#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,64 +9,67 @@
 
 namespace marlevo {
 
-SavePanel::SavePanel(const SavePanelRequest& request, QWidget* parent) : QFileDialog(parent) {
+namespace {
+
+/// The folder, or the nearest folder above it whose path is UTF-8: the toolkit shows no others.
+QString folderToShow(std::filesystem::path folder) {
+    while (QFile::encodeName(QFile::decodeName(folder.c_str())) != folder.c_str())
+        folder = folder.parent_path();
+    return QFile::decodeName(folder.c_str());
+}
+
+}  // namespace
+
+SavePanel::SavePanel(const SavePanelRequest& request, QWidget* parent)
+    : FilePanel(AcceptSave, request.title, request.fileType, parent) {
     for (const std::string& extension : request.fileType.extensions)
         extensions_ << QString::fromStdString(extension);
-
-    // The dialog's own question looks at the name before our extension is added, and blocks.
-    setOptions(DontUseNativeDialog | DontConfirmOverwrite);
-    setWindowTitle(QString::fromStdString(request.title));
-    setAcceptMode(AcceptSave);
     setLabelText(LookIn, tr("Save in:"));
-    setFileMode(AnyFile);
-    if (!extensions_.isEmpty()) setNameFilter(nameFilter(request.fileType));
-    if (request.folder) setDirectory(QString::fromStdU16String(request.folder->u16string()));
-    selectFile(QString::fromStdString(request.proposedName));
+    if (request.folder) setDirectory(folderToShow(*request.folder));
+    proposeName(request.proposedName);
 }
 
-QString SavePanel::chosenFile() const {
-    return QFileInfo(selectedFiles().value(0)).absoluteFilePath();
-}
-
-void SavePanel::accept() {
-    if (selectedFiles().isEmpty()) return;
-    // A folder's name goes into that folder.
-    if (QFileInfo(chosenFile()).isDir()) return QFileDialog::accept();
-
-    completeExtension();
-    const QFileInfo file(chosenFile());
-    if (file.isDir())
-        return showRefusal(*this, tr("A folder named “%1” exists.").arg(file.fileName()));
-    if (!QFileInfo(file.path()).isDir())
-        return showRefusal(*this, tr("The folder “%1” does not exist.").arg(file.path()));
-    if (file.exists()) return askToReplace(file.fileName());
-    QFileDialog::accept();
-}
-
-void SavePanel::completeExtension() {
-    if (extensions_.isEmpty() || hasExtension(chosenFile())) return;
+void SavePanel::examine(const std::filesystem::path& file) {
+    if (hasExtension(file)) return examineWhole(file);
     // In the field, so that the name seen is the name written.
-    if (auto* nameField = findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
-        nameField->setText(nameField->text() + '.' + extensions_.first());
+    nameField().setText(nameField().text() + '.' + extensions_.first());
+    examineWhole(chosenFile());
 }
 
-bool SavePanel::hasExtension(const QString& file) const {
-    return std::any_of(extensions_.begin(), extensions_.end(), [&](const QString& extension) {
-        return file.endsWith('.' + extension, Qt::CaseInsensitive);
-    });
+void SavePanel::examineWhole(const std::filesystem::path& file) {
+    const QString name = shownText(file.filename());
+    std::error_code error;
+    if (!std::filesystem::is_directory(file.parent_path(), error))
+        return showRefusal(
+            tr("The folder “%1” does not exist.").arg(shownText(file.parent_path())));
+    const std::filesystem::file_status status = std::filesystem::status(file, error);
+    if (error == std::errc::filename_too_long)
+        return showRefusal(tr("The name “%1” is too long.").arg(name));
+    if (std::filesystem::is_directory(status))
+        return showRefusal(tr("A folder named “%1” exists.").arg(name));
+    if (std::filesystem::exists(status)) return askToReplace(file);
+    finish();
 }
 
-void SavePanel::askToReplace(const QString& file) {
-    auto* question =
-        new QMessageBox(QMessageBox::Warning, windowTitle(),
-                        tr("“%1” already exists. Do you want to replace it?").arg(file),
-                        QMessageBox::NoButton, this);
+bool SavePanel::hasExtension(const std::filesystem::path& file) const {
+    const QString name = QFile::decodeName(file.c_str());
+    return extensions_.isEmpty() ||
+           std::any_of(extensions_.begin(), extensions_.end(), [&](const QString& extension) {
+               return name.endsWith('.' + extension, Qt::CaseInsensitive);
+           });
+}
+
+void SavePanel::askToReplace(const std::filesystem::path& file) {
+    auto* question = new QMessageBox(
+        QMessageBox::Warning, windowTitle(),
+        tr("“%1” already exists. Do you want to replace it?").arg(shownText(file.filename())),
+        QMessageBox::NoButton, this);
     QPushButton* const replace = question->addButton(tr("Replace"), QMessageBox::AcceptRole);
     question->addButton(QMessageBox::Cancel);
     question->setDefaultButton(QMessageBox::Cancel);
     question->setAttribute(Qt::WA_DeleteOnClose);
     connect(question, &QMessageBox::finished, this, [this, question, replace] {
-        if (question->clickedButton() == replace) QFileDialog::accept();
+        if (question->clickedButton() == replace) finish();
     });
     question->open();
 }

@@ -1,28 +1,22 @@
 #pragma once
 
-#include "platform/FilePanels.h"
-
-#include <QFileDialog>
+#include "platform/qt/FilePanel.h"
 
 namespace marlevo {
 
-/// Asks where to save. The same on every desktop: the toolkit's own dialog, not the platform's.
-class SavePanel final : public QFileDialog {
+/// Asks where to save. A missing extension is added to the name, then an existing file is replaced
+/// only when the user agrees.
+class SavePanel final : public FilePanel {
     Q_OBJECT
 
 public:
     SavePanel(const SavePanelRequest& request, QWidget* parent);
 
-    /// The full name of the file to write, with its extension.
-    QString chosenFile() const;
-
-    /// Adds a missing extension to the name typed, then asks before an existing file is replaced.
-    void accept() override;
-
 private:
-    void completeExtension();
-    bool hasExtension(const QString& file) const;
-    void askToReplace(const QString& file);
+    void examine(const std::filesystem::path& file) override;
+    void examineWhole(const std::filesystem::path& file);
+    bool hasExtension(const std::filesystem::path& file) const;
+    void askToReplace(const std::filesystem::path& file);
 
     QStringList extensions_;
 };
