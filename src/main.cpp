@@ -1,4 +1,5 @@
 #include "platform/BackgroundThread.h"
+#include "platform/FileAddress.h"
 #include "platform/StandardOutput.h"
 #include "platform/WorkQueue.h"
 #include "platform/qt/KeyRepeatFilter.h"
@@ -15,19 +16,23 @@
 #include "ui/windows/Translations.h"
 
 #include <QApplication>
-#include <QFileInfo>
 
 #include <csignal>
 #include <filesystem>
+#include <span>
 #include <vector>
 
 namespace {
 
-/// The files named on the command line, from a desktop's file manager for example.
-std::vector<std::filesystem::path> drawingsToOpen() {
+/// The files that the command line names by a path or an address, byte for byte. `arguments` begins
+/// with the program's own name.
+std::vector<std::filesystem::path> drawingsToOpen(std::span<const char* const> arguments) {
     std::vector<std::filesystem::path> files;
-    for (const QString& argument : QApplication::arguments().mid(1))
-        files.emplace_back(QFileInfo(argument).absoluteFilePath().toStdU16String());
+    for (const char* const argument : arguments.subspan(arguments.empty() ? 0 : 1)) {
+        std::error_code error;
+        const std::filesystem::path path = std::filesystem::absolute(argument, error);
+        files.push_back(marlevo::pathOfFileAddress(argument).value_or(error ? argument : path));
+    }
     return files;
 }
 
@@ -74,6 +79,7 @@ int main(int argc, char* argv[]) {
                              .printer = &printer,
                              .pasteboard = &pasteboard,
                              .strings = &strings});
-    app.openWindows(drawingsToOpen());
+    // The application has removed the toolkit's own options from the arguments.
+    app.openWindows(drawingsToOpen(std::span(argv, static_cast<std::size_t>(argc))));
     return QApplication::exec();
 }

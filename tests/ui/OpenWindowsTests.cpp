@@ -9,12 +9,12 @@ class OpenWindowsTests : public QObject {
 private Q_SLOTS:
     void eachDrawingGetsAWindowOfItsOwn() {
         writeDrawing("a.marlevo", 1);
-        writeDrawing("b.marlevo", 2);
+        writeDrawing("b\xe4.marlevo", 2);
         writeText(folder_ / "broken.marlevo", "{");
         FakeConsole console;
         MarlevoApp app({.console = &console});
         const std::vector files{folder_ / "a.marlevo", folder_ / "broken.marlevo",
-                                folder_ / "b.marlevo"};
+                                folder_ / "b\xe4.marlevo"};
         app.openWindows(files);
 
         const std::vector<DocumentWindow*> windows = app.documentWindows();
@@ -25,7 +25,7 @@ private Q_SLOTS:
         QCOMPARE(windows[1]->document().currentFileURL.get(), std::optional(files[2]));
         QCOMPARE(strokeCount(windows[0]->document()), std::size_t(1));
         QCOMPARE(strokeCount(windows[1]->document()), std::size_t(2));
-        QTRY_COMPARE(windows[1]->windowTitle(), QString("b.marlevo"));
+        QTRY_COMPARE(windows[1]->windowTitle(), QString("b\ufffd.marlevo"));
         QCOMPARE(console.lines.size(), std::size_t(1));
         QVERIFY(console.lines.front().starts_with("Load failed: " + files[1].string()));
     }

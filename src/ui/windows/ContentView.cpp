@@ -40,7 +40,7 @@ ContentView::ContentView(const Services& services, NotificationCenter& notificat
 
 QString ContentView::windowTitle() const {
     const auto& file = document_.currentFileURL.get();
-    return file ? QString::fromStdU16String(file->filename().u16string()) : tr("Marlevo");
+    return file ? QString::fromStdString(file->filename().string()) : tr("Marlevo");
 }
 
 void ContentView::setShowNewCanvas(bool show) {
