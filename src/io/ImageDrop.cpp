@@ -19,22 +19,31 @@ void addImageLayer(DrawingDocument& document, std::vector<std::uint8_t> file) {
 
 }  // namespace
 
-ImageDrop::ImageDrop(DrawingDocument& document)
-    : target_(std::make_shared<DrawingDocument*>(&document)) {}
+ImageDrop::ImageDrop(DrawingDocument& document) : target_(std::make_shared<Target>()) {
+    target_->document = &document;
+}
+
+ImageDrop::~ImageDrop() {
+    const std::lock_guard lock(target_->mutex);
+    target_->document = nullptr;
+}
 
 bool ImageDrop::handleDrop(std::span<const std::unique_ptr<ItemProvider>> providers) {
-    MainQueue* mainQueue = (*target_)->services().mainQueue;
-    if (mainQueue == nullptr) return false;
+    if (target_->document->services().mainQueue == nullptr) return false;
     bool hasImage = false;
     for (const auto& provider : providers) {
         if (!provider->offersImage()) continue;
         hasImage = true;
-        provider->loadImage([mainQueue, target = std::weak_ptr(target_)](auto file) {
+        provider->loadImage([target = target_](auto file) {
             if (!file) return;
-            mainQueue->post([target, bytes = std::move(*file)]() mutable {
-                if (const auto document = target.lock())
-                    addImageLayer(**document, std::move(bytes));
-            });
+            // Keeps the document, and with it the main queue, until the image is posted.
+            const std::lock_guard lock(target->mutex);
+            if (target->document == nullptr) return;
+            target->document->services().mainQueue->post(
+                [target, bytes = std::move(*file)]() mutable {
+                    if (target->document != nullptr)
+                        addImageLayer(*target->document, std::move(bytes));
+                });
         });
     }
     return hasImage;

@@ -4,16 +4,20 @@
 #include "platform/ItemProvider.h"
 
 #include <memory>
+#include <mutex>
 #include <span>
 
 namespace marlevo {
 
-/// Takes dropped images into a document. Images that are still loading when this object goes away
-/// are dropped for good.
+/// Takes dropped images into a document. An image that is still loading at the destruction of this
+/// object is discarded when its load ends; by then the main queue may be gone, too.
 class ImageDrop {
 public:
     /// The document must outlive this object.
     explicit ImageDrop(DrawingDocument& document);
+    ~ImageDrop();
+    ImageDrop(const ImageDrop&) = delete;
+    ImageDrop& operator=(const ImageDrop&) = delete;
 
     /// Begins to load every item that offers an image; true when there is one. Each image becomes
     /// a layer of its own and one undo step when its bytes are there, in the order in which the
@@ -21,8 +25,13 @@ public:
     bool handleDrop(std::span<const std::unique_ptr<ItemProvider>> providers);
 
 private:
-    /// Shared with the loads, which find it empty when nobody waits for them any more.
-    std::shared_ptr<DrawingDocument*> target_;
+    /// Shared with the loads. Written on the user-interface thread only.
+    struct Target {
+        std::mutex mutex;
+        DrawingDocument* document;  ///< null from the destruction on
+    };
+
+    std::shared_ptr<Target> target_;
 };
 
 }  // namespace marlevo

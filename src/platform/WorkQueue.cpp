@@ -4,35 +4,38 @@
 
 namespace marlevo {
 
-WorkQueue::WorkQueue() : thread_([this] { run(); }) {}
+WorkQueue::WorkQueue(AtEnd atEnd) : atEnd_(atEnd), thread_([state = state_] { run(*state); }) {}
 
 WorkQueue::~WorkQueue() {
     {
-        const std::lock_guard lock(mutex_);
-        isClosing_ = true;
+        const std::lock_guard lock(state_->mutex);
+        state_->isClosing = true;
     }
-    changed_.notify_one();
-    thread_.join();
+    state_->changed.notify_one();
+    if (atEnd_ == AtEnd::wait)
+        thread_.join();
+    else
+        thread_.detach();
 }
 
 void WorkQueue::post(std::function<void()> work) {
     {
-        const std::lock_guard lock(mutex_);
-        waiting_.push(std::move(work));
+        const std::lock_guard lock(state_->mutex);
+        state_->waiting.push(std::move(work));
     }
-    changed_.notify_one();
+    state_->changed.notify_one();
 }
 
-void WorkQueue::run() {
-    std::unique_lock lock(mutex_);
+void WorkQueue::run(State& state) {
+    std::unique_lock lock(state.mutex);
     while (true) {
-        changed_.wait(lock, [&] { return isClosing_ || !waiting_.empty(); });
-        if (waiting_.empty()) return;
-        std::function<void()> work = std::move(waiting_.front());
-        waiting_.pop();
+        state.changed.wait(lock, [&] { return state.isClosing || !state.waiting.empty(); });
+        if (state.waiting.empty()) return;
+        std::function<void()> work = std::move(state.waiting.front());
+        state.waiting.pop();
         lock.unlock();
         work();
-        work = nullptr;  // what it holds goes away outside the lock
+        work = nullptr;  // what it owns is destroyed outside the lock
         lock.lock();
     }
 }

@@ -4,16 +4,25 @@
 
 #include <condition_variable>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 
 namespace marlevo {
 
-/// Work off the user-interface thread: one piece after the other, in the order posted, on a thread
-/// of its own. Its destruction waits until everything posted is done.
+/// Runs work off the user-interface thread: one piece after the other, in the order posted, on a
+/// thread of its own.
 class WorkQueue {
 public:
-    WorkQueue();
+    /// What the destruction does about the work that is not done yet. Either way all of it is done,
+    /// unless the program ends before.
+    enum class AtEnd : unsigned char {
+        wait,   ///< returns when all is done
+        detach  ///< returns at once; neither the caller nor the program's end waits for the thread
+    };
+
+    /// Throws std::system_error when the system has no thread left.
+    explicit WorkQueue(AtEnd atEnd = AtEnd::wait);
     ~WorkQueue();
     WorkQueue(const WorkQueue&) = delete;
     WorkQueue& operator=(const WorkQueue&) = delete;
@@ -22,13 +31,19 @@ public:
     void post(std::function<void()> work);
 
 private:
-    void run();
+    /// Shared with the thread, which may outlive the queue.
+    struct State {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::queue<std::function<void()>> waiting;
+        bool isClosing = false;
+    };
 
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    std::queue<std::function<void()>> waiting_;
-    bool isClosing_ = false;
-    std::thread thread_;  ///< last: it uses all of the above
+    static void run(State& state);
+
+    AtEnd atEnd_;
+    std::shared_ptr<State> state_ = std::make_shared<State>();
+    std::thread thread_;
 };
 
 }  // namespace marlevo

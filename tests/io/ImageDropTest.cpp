@@ -70,6 +70,7 @@ TEST_F(ImageDropTest, ImagesThatArriveAfterTheirViewIsGoneAreDropped) {
     loads[0](std::vector<std::uint8_t>{1});
     drop.reset();
     loads[1](std::vector<std::uint8_t>{1});
+    EXPECT_EQ(queue.size(), 1u) << "at the program's end there is no queue any more";
     queue.run();
     EXPECT_EQ(document.layers->size(), 1u);
 }

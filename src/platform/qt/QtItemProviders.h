@@ -10,8 +10,9 @@ class QMimeData;
 namespace marlevo {
 
 /// The items of a drag or drop: one for each local file, or, without files, one for the image that
-/// the data itself holds (from a browser or an image editor). What a file is goes by its name, and
-/// by its contents only where the name says nothing. Files are read on threads of their own.
+/// the data itself contains (from a browser or an image editor). The type of a file is that of its
+/// name, and that of its contents only where the name has none. The files of a drop are read one
+/// after the other on a thread of their own, which the program's end does not wait for.
 std::vector<std::unique_ptr<ItemProvider>> itemProviders(const QMimeData& data);
 
 }  // namespace marlevo
