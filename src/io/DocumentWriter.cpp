@@ -16,7 +16,8 @@ namespace {
 void writeStroke(JsonText& json, const StrokeData& stroke, std::size_t depth) {
     json.literal("{");
     forEachField<StrokeData>([&](std::size_t index, const auto& field) {
-        json.member(field.key, depth + 1, index == 0);
+        if (index > 0) json.literal(",");
+        json.member(field.key, depth + 1);
         json.value(stroke.*field.member);
     });
     json.newLine(depth);
@@ -24,7 +25,7 @@ void writeStroke(JsonText& json, const StrokeData& stroke, std::size_t depth) {
 }
 
 /// The document's text as a row of parts of about the same length, which can be encoded in any
-/// order and by any thread. Refers to the document.
+/// order and by any thread. The document must outlive the plan.
 class EncodingPlan {
 public:
     explicit EncodingPlan(const DocumentData& document) {
@@ -83,7 +84,8 @@ private:
             const auto& value = record.*field.member;
             if (isAbsent(value)) return;
             add(field.key.size(), [key = field.key, depth, index](JsonText& json) {
-                json.member(key, depth + 1, index == 0);
+                if (index > 0) json.literal(",");
+                json.member(key, depth + 1);
             });
             addValue(value, depth + 1);
         });
@@ -152,7 +154,7 @@ private:
     std::vector<Part> parts_;
 };
 
-/// Puts the place of the first number that is not finite into `path`, when there is one.
+/// Puts the place of the first number that is not finite into `path`. False if there is none.
 bool findNonFinite(double number, KeyPath& /*path*/) { return !std::isfinite(number); }
 
 bool findNonFinite(const PointList& points, KeyPath& path) {
@@ -186,7 +188,7 @@ bool findNonFinite(const Record& record, KeyPath& path) {
         path.prependKey(field.key);
         isFound = true;
     });
-    return isFound;  // a value without fields is no number either
+    return isFound;
 }
 
 }  // namespace

@@ -26,8 +26,7 @@ void JsonText::newLine(std::size_t depth) {
         text_.append("  ");
 }
 
-void JsonText::member(std::string_view key, std::size_t depth, bool isFirst) {
-    if (!isFirst) text_.append(",");
+void JsonText::member(std::string_view key, std::size_t depth) {
     newLine(depth);
     value(key);
     text_.append(" : ");

@@ -11,7 +11,8 @@
 
 namespace marlevo {
 
-/// Writes JSON text value by value, indented by two spaces a level. The caller sees to the order.
+/// Writes JSON text value by value, indented by two spaces a level. The caller must write brackets
+/// and commas where JSON has them.
 class JsonText {
 public:
     /// Text that is JSON already.
@@ -20,8 +21,8 @@ public:
     /// A line break and the indentation of `depth` levels.
     void newLine(std::size_t depth);
 
-    /// A member's line up to its value, with the comma after the member before it.
-    void member(std::string_view key, std::size_t depth, bool isFirst);
+    /// A member on a new line, up to its value.
+    void member(std::string_view key, std::size_t depth);
 
     void value(bool flag) { text_.append(flag ? "true" : "false"); }
     void value(std::int64_t number);
@@ -31,11 +32,12 @@ public:
     /// An array x0, y0, x1, y1, … on one line.
     void value(const PointList& points);
 
-    /// Base64 for within a string; at most a block of text (TextBlocks::blockSize). Pieces of one
-    /// string must be whole groups of three bytes but for the last.
+    /// Base64 without quotes, for the inside of a string. The text must fit into one block of text
+    /// (TextBlocks::blockSize). A long string takes several calls, each but the last one with a
+    /// multiple of three bytes.
     void base64(std::span<const std::uint8_t> bytes);
 
-    /// False once a number was written that is not finite: the text is then not JSON.
+    /// False if a number was written that is not finite: the text is then not JSON.
     bool isFinite() const { return isFinite_; }
 
     TextBlocks take() { return std::move(text_); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Strings.h"
+
 #include <string>
 
 namespace marlevo {
@@ -13,11 +15,10 @@ class Pasteboard;
 class Preferences;
 class Printer;
 class SleepingClock;
-class Strings;
 class WorkQueue;
 
-/// What a document wants of the desktop. The services are borrowed and must outlive whoever holds
-/// them; an absent one makes the operations that need it do nothing.
+/// The parts of the desktop that a document uses. The services are borrowed and must outlive all
+/// copies of this struct. An operation that needs a null one does nothing.
 struct Services {
     MainQueue* mainQueue = nullptr;
     FilePanels* filePanels = nullptr;
@@ -25,14 +26,16 @@ struct Services {
     Console* console = nullptr;
     Preferences* preferences = nullptr;
     SleepingClock* sleepingClock = nullptr;
-    WorkQueue* flushQueue = nullptr;  ///< where files written are brought to the disk
+    WorkQueue* flushQueue = nullptr;  ///< flushes written files to the disk
     BackgroundQueue* backgroundQueue = nullptr;
     Printer* printer = nullptr;
     Pasteboard* pasteboard = nullptr;
     const Strings* strings = nullptr;
 
     /// The text in the user's language; the text itself without strings. Literals only (Strings.h).
-    std::string translate(const char* context, const char* text) const;
+    std::string translate(const char* context, const char* text) const {
+        return strings ? strings->translate(context, text) : text;
+    }
 };
 
 }  // namespace marlevo
