@@ -1,6 +1,7 @@
 #include "ui/controls/CheckBox.h"
 
 #include "ui/controls/ControlPainting.h"
+#include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TypeScale.h"
 
@@ -35,6 +36,7 @@ CheckBox::CheckBox(const QString& label, std::optional<Icon> icon, QWidget* pare
     setAccessibleName(label);
     setFocusPolicy(Qt::TabFocus);
     setTypeStyle(*this, TypeStyle::callout);
+    new ElidedToolTip(this, [this] { return width() < sizeHint().width() ? text() : QString(); });
 }
 
 void CheckBox::showChecked(bool checked) {
@@ -54,11 +56,6 @@ QSize CheckBox::sizeHint() const {
 QSize CheckBox::minimumSizeHint() const {
     const int fewLetters = fontMetrics().horizontalAdvance(QStringLiteral("nn…"));
     return {std::min(sizeHint().width(), labelLeft() + fewLetters), sizeHint().height()};
-}
-
-void CheckBox::resizeEvent(QResizeEvent* event) {
-    QCheckBox::resizeEvent(event);
-    setToolTip(width() < sizeHint().width() ? text() : QString());
 }
 
 void CheckBox::paintEvent(QPaintEvent*) {

@@ -9,7 +9,7 @@
 namespace marlevo {
 
 /// A checkbox in callout size, perhaps with an icon before its label. A label that does not fit is
-/// shortened and shown whole in the tooltip.
+/// elided and shown whole in a tooltip.
 class CheckBox final : public QCheckBox {
     Q_OBJECT
 
@@ -30,7 +30,6 @@ public:
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     int labelLeft() const;

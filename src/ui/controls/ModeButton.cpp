@@ -1,6 +1,7 @@
 #include "ui/controls/ModeButton.h"
 
 #include "ui/controls/ControlPainting.h"
+#include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TypeScale.h"
 
@@ -26,6 +27,7 @@ ModeButton::ModeButton(Kind kind, Icon icon, const QString& label, QWidget* pare
     : ChoiceButton(label, parent), kind_(kind), icon_(icon) {
     setText(label);
     setTypeStyle(*this, TypeStyle::caption, QFont::Medium);
+    new ElidedToolTip(this, [this] { return labelWidth() > roomForLabel() ? text() : QString(); });
 }
 
 int ModeButton::labelWidth() const { return fontMetrics().horizontalAdvance(text()) + 1; }
@@ -46,18 +48,9 @@ QSize ModeButton::minimumSizeHint() const {
 
 int ModeButton::roomForLabel() const { return width() - widthAround(0, leastSidePadding); }
 
-void ModeButton::updateToolTip() { setToolTip(labelWidth() > roomForLabel() ? text() : QString()); }
-
-void ModeButton::resizeEvent(QResizeEvent* event) {
-    ChoiceButton::resizeEvent(event);
-    updateToolTip();
-}
-
 void ModeButton::changeEvent(QEvent* event) {
     ChoiceButton::changeEvent(event);
-    if (event->type() != QEvent::FontChange) return;
-    updateGeometry();
-    updateToolTip();
+    if (event->type() == QEvent::FontChange) updateGeometry();
 }
 
 void ModeButton::paintBackground(QPainter& painter) {

@@ -22,7 +22,6 @@ public:
 
 protected:
     void paintContents(QPainter& painter) override;
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -30,7 +29,6 @@ private:
     int labelWidth() const;
     int widthAround(int labelWidth, int padding) const;
     int roomForLabel() const;
-    void updateToolTip();
 
     Kind kind_;
     Icon icon_;

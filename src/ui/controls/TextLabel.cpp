@@ -1,11 +1,10 @@
 #include "ui/controls/TextLabel.h"
 
 #include "ui/controls/ControlPainting.h"
+#include "ui/controls/ElidedToolTip.h"
 
-#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -15,6 +14,7 @@ TextLabel::TextLabel(const QString& text, Look look, QWidget* parent)
     : QLabel(text, parent), look_(look) {
     setTextFormat(Qt::PlainText);
     setTypeStyle(*this, look.style, look.weight);
+    new ElidedToolTip(this, [this] { return isElided() ? this->text() : QString(); });
 }
 
 int TextLabel::digitWidth() const {
@@ -43,18 +43,17 @@ QSize TextLabel::minimumSizeHint() const {
             sizeHint().height()};
 }
 
-bool TextLabel::isShortened() const { return width() < sizeHint().width(); }
+bool TextLabel::isElided() const { return width() < sizeHint().width(); }
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!isEnabled()) painter.setOpacity(disabledOpacity);
     painter.setPen(semanticColor(look_.color));
     const QString shown = shownText();
-    if (look_.digits == Digits::monospaced && !isShortened())
-        return paintCharacters(painter, shown);
+    if (look_.digits == Digits::monospaced && !isElided()) return paintCharacters(painter, shown);
     const QString fitting =
-        isShortened() ? fontMetrics().elidedText(shown, Qt::ElideRight, contentsRect().width())
-                      : shown;
+        isElided() ? fontMetrics().elidedText(shown, Qt::ElideRight, contentsRect().width())
+                   : shown;
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
     painter.drawText(contentsRect(), int(alignment | Qt::AlignVCenter | Qt::TextSingleLine),
                      fitting);
@@ -70,15 +69,6 @@ void TextLabel::paintCharacters(QPainter& painter, const QString& shown) const {
                          character);
         left += cell;
     }
-}
-
-bool TextLabel::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        if (!isShortened()) return false;
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
-        return true;
-    }
-    return QLabel::event(event);
 }
 
 SectionHeader::SectionHeader(const QString& title, QWidget* parent)

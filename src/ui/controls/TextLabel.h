@@ -8,8 +8,8 @@
 
 namespace marlevo {
 
-/// One line of text in a semantic colour. Where it does not fit it is shortened with an ellipsis
-/// and shown whole in a tooltip.
+/// One line of text in a semantic colour. A text that does not fit is elided and shown whole in
+/// a tooltip.
 class TextLabel : public QLabel {
     Q_OBJECT
 
@@ -36,10 +36,9 @@ protected:
     virtual QString shownText() const { return text(); }
 
     void paintEvent(QPaintEvent* event) override;
-    bool event(QEvent* event) override;
 
 private:
-    bool isShortened() const;
+    bool isElided() const;
     int digitWidth() const;
     int widthOf(const QString& shown) const;
     void paintCharacters(QPainter& painter, const QString& shown) const;

@@ -1,6 +1,7 @@
 #include "ui/windows/PresetRow.h"
 
 #include "ui/controls/ControlPainting.h"
+#include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/Icons.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TypeScale.h"
@@ -38,6 +39,7 @@ PresetRow::PresetRow(const CanvasSize::Preset& preset, QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setTypeStyle(*this, TypeStyle::body);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    new ElidedToolTip(this, [this] { return width() < sizeHint().width() ? text() : QString(); });
 }
 
 void PresetRow::showSelected(bool isSelected) {

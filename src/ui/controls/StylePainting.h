@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QSize>
+#include <QStyle>
+
+class QPainter;
+class QStyleOptionButton;
+class QStyleOptionFrame;
+class QStyleOptionSlider;
+
+// How MarlevoStyle paints and measures the toolkit's controls, by family. For the style only.
+namespace marlevo {
+
+/// Whether the push button is the default one and enabled: blue with white text.
+bool isProminent(const QStyleOptionButton& button);
+void paintPushButton(QPainter& painter, const QStyleOptionButton& button);
+void paintPushButtonFocus(QPainter& painter, const QRect& rect);
+/// Added to what the base style gives a push button, in view points.
+inline constexpr QSize pushButtonRoom(12, 2);
+
+void paintField(QPainter& painter, const QStyleOptionFrame& field);
+/// Between a field's frame and its text on each side, in view points.
+inline constexpr int fieldPadding = 3;
+
+void paintScrollBar(QPainter& painter, const QStyleOptionSlider& bar);
+/// The place of a part. A scroll bar has a knob and the room before and behind it, no buttons.
+QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
+inline constexpr int scrollBarWidth = 10;
+inline constexpr int leastKnobLength = 24;
+
+}  // namespace marlevo
