@@ -4,13 +4,13 @@
 
 namespace marlevo {
 
-/// Work that nobody waits for.
+/// Work whose end is not waited for.
 class BackgroundQueue {
 public:
     virtual ~BackgroundQueue() = default;
 
-    /// Runs `work` on some thread other than the caller's, when the machine has time for it.
-    /// Callable on any thread. Work that has not begun when the queue goes away is dropped.
+    /// Runs `work` on a thread other than the caller's, at low priority. Callable on any thread.
+    /// Work that has not begun when the queue is destroyed is dropped.
     virtual void post(std::function<void()> work) = 0;
 };
 

@@ -8,7 +8,7 @@ namespace marlevo {
 namespace {
 
 void yieldToAllOthers() {
-    // On Linux niceness is the thread's own. Should it fail, the work merely competes.
+    // On Linux niceness belongs to a thread. An error does no harm: the priority stays normal.
     constexpr int callingThread = 0;
     constexpr int lowestPriority = 19;
     setpriority(PRIO_PROCESS, callingThread, lowestPriority);

@@ -8,7 +8,8 @@
 namespace marlevo {
 
 /// A background queue on one thread of the lowest priority. Work runs in the order posted.
-/// Destruction waits for the work that has begun, so it must go before what that work uses.
+/// The destructor waits for the work that has begun, so the objects which that work uses must
+/// outlive the queue.
 class BackgroundThread final : public BackgroundQueue {
 public:
     BackgroundThread();
@@ -18,7 +19,7 @@ public:
 
 private:
     std::atomic<bool> isEnding_ = false;
-    WorkQueue queue_;  ///< last: its thread reads the flag
+    WorkQueue queue_;  ///< declared last: its thread reads the flag
 };
 
 }  // namespace marlevo

@@ -4,12 +4,12 @@
 
 namespace marlevo {
 
-/// Where the program reports what went wrong, line by line.
+/// Receives the program's reports of errors, line by line.
 class Console {
 public:
     virtual ~Console() = default;
 
-    /// Writes the text as one line that can be read at once. Callable on any thread.
+    /// Writes the text as one line, without delay. Callable on any thread.
     virtual void writeLine(std::string_view text) = 0;
 };
 

@@ -10,18 +10,19 @@ namespace marlevo {
 
 /// A kind of file that a panel offers.
 struct FileType {
-    std::string description;              ///< as shown in the panel, such as "PNG image"
-    std::vector<std::string> extensions;  ///< without the dot; the first one is added when missing
+    std::string description;  ///< as the panel shows it, such as "PNG image"
+    std::vector<std::string>
+        extensions;  ///< without the dot; a save panel adds a missing first one
 };
 
 struct SavePanelRequest {
     std::string title;
     FileType fileType;
     std::string proposedName;
-    std::optional<std::filesystem::path> folder;  ///< where to start; else the panel's own choice
+    std::optional<std::filesystem::path> folder;  ///< shown first; else the panel's own choice
 };
 
-/// One existing file is to be chosen, no folder.
+/// A request for one existing file. Folders cannot be chosen.
 struct OpenPanelRequest {
     std::string title;
     FileType fileType;
@@ -30,14 +31,14 @@ struct OpenPanelRequest {
 /// The desktop's panels for choosing files, shown over one window without blocking it.
 class FilePanels {
 public:
-    /// Receives the chosen file, or nothing when the user cancelled. Called once, on the
-    /// user-interface thread, never before the call that showed the panel has returned. Not called
-    /// at all when the window goes away first.
+    /// Receives the chosen file, or nothing if the user cancelled. Called once, on the
+    /// user-interface thread, after the call that showed the panel has returned. Not called if the
+    /// window is destroyed before.
     using Completion = std::function<void(std::optional<std::filesystem::path>)>;
 
     virtual ~FilePanels() = default;
 
-    /// Asks before an existing file is chosen; folders can be created in the panel.
+    /// Asks before an existing file is chosen. The user can create folders in the panel.
     virtual void showSavePanel(const SavePanelRequest& request, Completion completion) = 0;
 
     virtual void showOpenPanel(const OpenPanelRequest& request, Completion completion) = 0;

@@ -16,13 +16,13 @@ public:
 
     virtual ~ImageCodec() = default;
 
-    /// The picture in an image file of any kind that the desktop reads, turned upright as the
-    /// file's orientation says; nothing when the bytes are no image or would decode to more than
+    /// Decodes an image file of any format that the desktop reads. The result is upright: the
+    /// file's orientation is applied. Nothing if the bytes are not an image, or if it has more than
     /// `maxDecodedPixels`.
     virtual std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const = 0;
 
-    /// The picture as an image file that says 72 pixels an inch, so a pixel is a point; nothing
-    /// when the encoder fails.
+    /// Encodes the picture at a resolution of 72 pixels an inch, so that a pixel is a point.
+    /// Nothing if the encoder fails.
     virtual std::optional<std::vector<std::uint8_t>> encode(const RasterImage& image,
                                                             Format format) const = 0;
 

@@ -7,20 +7,20 @@
 
 namespace marlevo {
 
-/// One of the things that were dropped on the program.
+/// One item of a drop on the program.
 class ItemProvider {
 public:
-    /// Receives the bytes of an image file exactly as they are; nothing when they cannot be had.
-    /// Called once, on a thread of the provider's choosing.
+    /// Receives the unchanged bytes of an image file, or nothing if they cannot be loaded. Called
+    /// once, on any thread.
     using Completion = std::function<void(std::optional<std::vector<std::uint8_t>>)>;
 
     virtual ~ItemProvider() = default;
 
-    /// Whether the item is declared to be an image; what its bytes are is not looked at.
+    /// Whether the item is declared to be an image. Its bytes are not read.
     virtual bool offersImage() const = 0;
 
-    /// Begins to load the item's image and returns at once. The load goes on when the provider
-    /// goes away.
+    /// Begins to load the item's image and returns at once. The load continues when the provider
+    /// is destroyed.
     virtual void loadImage(Completion completion) = 0;
 };
 

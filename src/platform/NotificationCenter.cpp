@@ -13,7 +13,7 @@ NotificationCenter::Observation NotificationCenter::observe(std::string_view nam
 }
 
 void NotificationCenter::post(std::string_view name) {
-    // A copy, since observers may come while others are told; those that went are expired.
+    // A copy, since a call can add observers. The pointers of removed observers are expired.
     const auto observers = observers_;
     for (const Observer& observer : observers)
         if (observer.name == name)

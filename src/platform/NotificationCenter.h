@@ -8,7 +8,7 @@
 
 namespace marlevo {
 
-/// What one part of the program announces to whoever wants to hear it.
+/// The names of the announcements.
 namespace notification {
 
 /// Every open window shows its new-canvas sheet.
@@ -16,20 +16,21 @@ inline constexpr std::string_view newCanvas = "newCanvas";
 
 }  // namespace notification
 
-/// Passes announcements on by name. Used on the user-interface thread only.
+/// Announcements by name from one part of the program to any other. Used on the user-interface
+/// thread only.
 class NotificationCenter {
 public:
-    /// A registration, which ends when it is dropped; it may outlive the centre.
+    /// A registration, which ends with its destruction. It may outlive the centre.
     using Observation = std::shared_ptr<const std::function<void()>>;
 
     NotificationCenter() = default;
     NotificationCenter(const NotificationCenter&) = delete;
     NotificationCenter& operator=(const NotificationCenter&) = delete;
 
-    /// Calls `onPost` at each post of that name. Observers may come and go while they are told.
+    /// Calls `onPost` at each post of that name. Observers may be added and removed during a post.
     [[nodiscard]] Observation observe(std::string_view name, std::function<void()> onPost);
 
-    /// Tells the observers of that name before it returns.
+    /// Calls the observers of that name before it returns.
     void post(std::string_view name);
 
 private:

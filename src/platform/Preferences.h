@@ -8,8 +8,8 @@
 
 namespace marlevo {
 
-/// A setting of the user: its key in the store, and the value that it has until the user changes
-/// it, which is never written.
+/// A setting of the user: its key in the store, and its value until the user changes it. The
+/// initial value is not written to the store.
 template <typename T>
 struct Preference {
     std::string_view key;
@@ -25,10 +25,10 @@ inline constexpr Preference<bool> autoSaveEnabled{"autoSaveEnabled", true};
 
 }  // namespace preference
 
-/// The user's settings, kept across runs of the program. Used on the user-interface thread only.
+/// The user's settings, stored across runs of the program. Used on the user-interface thread only.
 class Preferences {
 public:
-    /// A registration for changes, which ends when it is dropped; it may outlive the preferences.
+    /// A registration for changes, which ends with its destruction. It may outlive the preferences.
     using Observation = NotificationCenter::Observation;
 
     Preferences() = default;
@@ -36,17 +36,18 @@ public:
     Preferences(const Preferences&) = delete;
     Preferences& operator=(const Preferences&) = delete;
 
-    /// The value in the store. The initial one when there is none, when it has another type, and
-    /// when the store cannot be read.
+    /// The value in the store. The initial value if the store has none, has one of another type, or
+    /// cannot be read.
     double get(const Preference<double>& preference) const;
     bool get(const Preference<bool>& preference) const;
 
-    /// Stores the value at once, for this run also when the store cannot be written. Values are not
-    /// checked. Observers are told when the value differs from before.
+    /// Stores the value at once. It holds for this run even if the store cannot be written. Values
+    /// are not checked. Observers are called if the value differs from before.
     void set(const Preference<double>& preference, double value);
     void set(const Preference<bool>& preference, bool value);
 
-    /// Calls `onChange` after each change. While being told, observers may read, set, come and go.
+    /// Calls `onChange` after each change. Observers may read and set preferences, and observers
+    /// may be added and removed, during a call.
     [[nodiscard]] Observation observe(std::function<void()> onChange);
 
 protected:

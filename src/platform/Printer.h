@@ -7,14 +7,14 @@
 
 namespace marlevo {
 
-/// The desktop's way to paper.
+/// Prints on the desktop's printers.
 class Printer {
 public:
     virtual ~Printer() = default;
 
-    /// Shows the print dialog without blocking and, when the user agrees, prints the picture at
-    /// `size` points, centred on one page; a larger one is scaled down to what the page can show.
-    /// The outcome is not reported.
+    /// Shows the print dialog without blocking. If the user confirms, prints the picture at `size`
+    /// points, centred on one page, or scaled down to the printable area if it is larger. Errors
+    /// are not reported.
     virtual void print(const RasterImage& picture, Size size, const std::string& jobTitle) = 0;
 };
 

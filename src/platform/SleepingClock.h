@@ -6,11 +6,11 @@
 
 namespace marlevo {
 
-/// Sleeps on the user-interface thread without blocking it, on a clock that keeps running while the
-/// machine is suspended: a sleep that ended meanwhile completes at waking up.
+/// Sleeps on the user-interface thread without blocking it. The clock keeps running while the
+/// machine is suspended: a sleep whose time ends during suspension completes at resume.
 class SleepingClock {
 public:
-    /// A sleep under way; destroying it cancels it. It may be destroyed by its own completion.
+    /// A sleep in progress. Its destruction cancels it. The completion may destroy it.
     class Sleep {
     public:
         virtual ~Sleep() = default;
@@ -18,7 +18,7 @@ public:
 
     virtual ~SleepingClock() = default;
 
-    /// Calls `completion` once, on the user-interface thread, never before this call has returned.
+    /// Calls `completion` once, on the user-interface thread, after this call has returned.
     [[nodiscard]] virtual std::unique_ptr<Sleep> sleep(std::chrono::nanoseconds duration,
                                                        std::function<void()> completion) = 0;
 };

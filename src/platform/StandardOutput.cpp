@@ -11,7 +11,7 @@ void StandardOutput::writeLine(std::string_view text) {
     std::ranges::replace_if(
         line, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
     line += '\n';
-    // In one call, so that lines of two threads do not mix.
+    // One call, so that lines of two threads do not mix.
     std::fwrite(line.data(), 1, line.size(), stdout);
     std::fflush(stdout);
 }

@@ -4,8 +4,8 @@
 
 namespace marlevo {
 
-/// The program's standard output. Control characters, which a file's name may bring, come out as
-/// spaces: a line stays one line and does nothing to a terminal.
+/// The program's standard output. Control characters, which file names can contain, are written as
+/// spaces, so that they neither break the line nor control a terminal.
 class StandardOutput final : public Console {
 public:
     void writeLine(std::string_view text) override;

@@ -13,8 +13,8 @@ namespace marlevo {
 
 namespace {
 
-// The settings of org.freedesktop.portal.Settings, of which every desktop with a portal passes on
-// the group of GNOME.
+// The interface org.freedesktop.portal.Settings. All desktops with a portal offer GNOME's group of
+// settings, too.
 const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
@@ -29,7 +29,7 @@ const Setting motion{QStringLiteral("org.gnome.desktop.interface"),
                      QStringLiteral("enable-animations")};
 const Setting scheme{QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme")};
 
-/// The value itself: some portals wrap it in one variant more than they need to.
+/// The value inside the variant. Some portals wrap it in two variants instead of one.
 QVariant unwrapped(QVariant value) {
     while (value.canConvert<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();

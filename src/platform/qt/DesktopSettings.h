@@ -5,19 +5,19 @@
 
 namespace marlevo {
 
-/// What the user has told the desktop of how programs should behave. Asked for through the desktop
-/// portal, in the background, and followed while the program runs; the defaults hold until the
-/// answer is there and where nobody answers.
+/// The user's settings for all programs of the desktop, from the desktop portal. They are requested
+/// in the background and updated while the program runs. The defaults hold before the first answer
+/// and on desktops without a portal.
 class DesktopSettings final : public QObject {
     Q_OBJECT
 
 public:
     enum class ColorScheme : unsigned char { any, dark, light };
 
-    /// The application's, which must exist.
+    /// The one object, a child of the application object, which must exist.
     static DesktopSettings& instance();
 
-    /// Whether things on screen may move; true by default.
+    /// Whether animations are on. True by default.
     bool isMotionWanted() const { return isMotionWanted_; }
 
     ColorScheme colorScheme() const { return colorScheme_; }

@@ -5,7 +5,7 @@
 namespace marlevo {
 
 bool KeyRepeatFilter::eventFilter(QObject* receiver, QEvent* event) {
-    // A window gets each event first, then hands it on to its widgets.
+    // Each event is sent to a window first, then by the window to its widgets.
     if (!receiver->isWindowType()) return false;
     if (event->type() == QEvent::KeyRelease) {
         repeats_.release(static_cast<const QKeyEvent&>(*event));

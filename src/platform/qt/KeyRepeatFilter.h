@@ -6,11 +6,11 @@
 
 namespace marlevo {
 
-/// Keeps shortcuts from running again and again while their key is held, for commands that do not
-/// auto-repeat, also where Qt misses the repeat. To be installed on the application.
+/// Stops repeats of a held key from triggering shortcuts that do not auto-repeat, including the
+/// repeats that Qt does not recognise. Must be installed on the application object.
 ///
-/// A repeat is withheld from the shortcuts and reaches the focused widget like any other press, so
-/// text fields repeat.
+/// The shortcuts do not get such a repeat. The focused widget gets it like any other press, so text
+/// fields repeat.
 class KeyRepeatFilter final : public QObject {
 public:
     bool eventFilter(QObject* receiver, QEvent* event) override;

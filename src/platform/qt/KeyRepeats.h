@@ -6,11 +6,10 @@ class QKeyEvent;
 
 namespace marlevo {
 
-/// Tells the repeats of a key that is held from new presses. To be shown every event of the
-/// keyboard, in order.
+/// Distinguishes repeats of a held key from new presses. Needs all keyboard events in their order.
 ///
-/// X11 tells a repeat as a release and a press of one time stamp. Qt marks the pair as a repeat
-/// only when it has already received both; the pairs that it misses are recognised here.
+/// X11 sends a repeat as a release and a press with the same time stamp. Qt marks such a pair as a
+/// repeat only if both have arrived when it reads the first. This class recognises the other pairs.
 class KeyRepeats {
 public:
     void release(const QKeyEvent& event);

@@ -18,7 +18,7 @@ public:
     QtFilePanels(const QtFilePanels&) = delete;
     QtFilePanels& operator=(const QtFilePanels&) = delete;
 
-    /// While a panel is open a further request is answered as cancelled.
+    /// While a panel is open, another request is answered as cancelled.
     void showSavePanel(const SavePanelRequest& request, Completion completion) override;
     void showOpenPanel(const OpenPanelRequest& request, Completion completion) override;
 

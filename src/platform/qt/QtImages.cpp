@@ -7,7 +7,7 @@ namespace marlevo {
 
 namespace {
 
-/// A pixel is a point, 1/72 inch, whatever screen the program runs on.
+/// Makes a pixel a point, 1/72 inch, on all screens.
 void setPixelsToPoints(QImage& image) {
     constexpr int dotsPerMeter = 2835;
     image.setDotsPerMeterX(dotsPerMeter);
@@ -16,7 +16,7 @@ void setPixelsToPoints(QImage& image) {
 
 }  // namespace
 
-// QRgb is 0xAARRGGBB: its big-endian bytes are ours.
+// QRgb is 0xAARRGGBB: its big-endian bytes have the order of RasterImage.
 RasterImage rasterFrom(const QImage& image) {
     const auto width = static_cast<std::size_t>(image.width());
     std::vector<std::uint8_t> bytes(width * static_cast<std::size_t>(image.height()) *

@@ -6,15 +6,14 @@
 
 namespace marlevo {
 
-/// The picture as one of Qt's, premultiplied, at 72 pixels an inch; null when there is no memory
-/// for it.
+/// The picture as a premultiplied QImage at 72 pixels an inch. Null if there is no memory for it.
 QImage qImageFrom(const RasterImage& raster);
 
 /// The pixels of an image in QImage::Format_ARGB32_Premultiplied.
 RasterImage rasterFrom(const QImage& image);
 
-/// The image laid on white, without alpha, at 72 pixels an inch; null when it is or there is no
-/// memory.
+/// The image on white, without alpha, at 72 pixels an inch. Null if the image is null or if there is
+/// no memory for the result.
 QImage onWhite(const QImage& image);
 
 }  // namespace marlevo

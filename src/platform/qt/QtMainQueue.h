@@ -6,8 +6,8 @@
 
 namespace marlevo {
 
-/// The main queue on Qt's event loop. To be made and destroyed on the user-interface thread; work
-/// still waiting at its destruction, or posted when the loop runs no more, is dropped.
+/// The main queue on Qt's event loop. Must be created and destroyed on the user-interface thread.
+/// Work that has not run at its destruction, or that is posted after the loop has ended, is dropped.
 class QtMainQueue final : public MainQueue {
 public:
     void post(std::function<void()> work) override;

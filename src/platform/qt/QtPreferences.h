@@ -7,7 +7,7 @@
 namespace marlevo {
 
 /// The user's settings in an INI file, by default Marlevo/Marlevo.ini in the user's folder for
-/// settings. Changes are written at once; those of another run of the program are seen too.
+/// settings. Changes are written at once. Changes by other processes are read, too.
 class QtPreferences final : public Preferences {
 public:
     QtPreferences();
@@ -23,7 +23,7 @@ private:
     QString storedText(std::string_view key) const;
     void storeText(std::string_view key, const QString& text);
 
-    mutable QSettings settings_;  // mutable: reading looks at the file again
+    mutable QSettings settings_;  // mutable: a getter reads the file again
 };
 
 }  // namespace marlevo

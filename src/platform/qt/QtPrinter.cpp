@@ -42,7 +42,7 @@ void QtPrinter::print(const RasterImage& picture, Size size, const std::string& 
     auto* dialog = new QPrintDialog(printer.get(), QApplication::activeWindow());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    // The connection keeps the printer as long as the dialog lives.
+    // The connection owns the printer, which the dialog uses.
     QObject::connect(dialog, &QDialog::accepted, dialog, [this, printer, image, size] {
         remember(*printer);
         paintCentred(*printer, image, {size.width, size.height});

@@ -9,10 +9,10 @@ class QPrinter;
 
 namespace marlevo {
 
-/// Prints through Qt's dialog, over the active window or alone when there is none. The printer and
-/// the paper that the user chose last are proposed again until the program ends.
+/// Prints by Qt's dialog, which is shown over the active window if there is one. The dialog proposes
+/// the printer and the paper that the user chose last in this run of the program.
 ///
-/// A picture is laid on white and sent without loss.
+/// The picture is printed on white, without lossy compression.
 class QtPrinter final : public Printer {
 public:
     void print(const RasterImage& picture, Size size, const std::string& jobTitle) override;

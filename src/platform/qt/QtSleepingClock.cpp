@@ -13,11 +13,11 @@ namespace marlevo {
 
 namespace {
 
-/// For objects that may be in the middle of a signal when their owner goes away.
+/// For objects that may be emitting a signal when their owner is destroyed.
 template <typename Object>
 using DeletedLater = std::unique_ptr<Object, QScopedPointerDeleteLater>;
 
-/// A timer of the system, seen by the event loop as a file that becomes readable.
+/// A timer of the system. For the event loop it is a file that becomes readable.
 class SystemSleep final : public SleepingClock::Sleep {
 public:
     SystemSleep(int timer, std::function<void()> completion)
@@ -57,11 +57,11 @@ private:
     DeletedLater<QTimer> timer_;
 };
 
-/// A running timer's descriptor; negative when the system has none left.
+/// The descriptor of a running timer, negative if the system has no more timers.
 int startSystemTimer(std::chrono::nanoseconds duration) {
     const int timer = ::timerfd_create(CLOCK_BOOTTIME, TFD_NONBLOCK | TFD_CLOEXEC);
     if (timer < 0) return timer;
-    // A time of zero would disarm it.
+    // A time of zero would disarm the timer.
     const auto time = std::max(duration, std::chrono::nanoseconds(1));
     const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
     itimerspec due{};
