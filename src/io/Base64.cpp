@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view alphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-/// The two characters of each 12-bit group: half the look-ups of one character at a time.
+/// The two characters of each 12-bit group. Pairs need half as many look-ups as single characters.
 constexpr auto pairs = [] {
     std::array<std::array<char, 2>, 4096> table{};
     for (std::size_t bits = 0; bits < table.size(); ++bits)
@@ -19,8 +19,8 @@ constexpr auto pairs = [] {
 
 constexpr std::uint32_t invalid = 1U << 24;
 
-/// For each place in a group of four, what a character adds to the 24 bits; `invalid` survives
-/// every combination.
+/// For each place in a group of four, the bits of a character within the 24 bits of the group. A
+/// group with an `invalid` character has that bit.
 constexpr auto places = [] {
     std::array<std::array<std::uint32_t, 256>, 4> table{};
     for (auto& place : table)
@@ -62,7 +62,7 @@ std::optional<std::vector<std::uint8_t>> decodeBase64(std::string_view text) {
     const std::size_t padding = text.ends_with("==") ? 2 : text.ends_with('=') ? 1 : 0;
     std::vector<std::uint8_t> bytes(text.size() / 4 * 3 - padding);
 
-    // All groups but the last are whole; errors are collected and looked at once.
+    // All groups but the last are whole. Invalid bits are collected and tested once.
     const char* from = text.data();
     std::uint8_t* to = bytes.data();
     std::uint32_t seen = 0;

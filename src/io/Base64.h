@@ -16,9 +16,8 @@ constexpr std::size_t base64Length(std::size_t byteCount) { return (byteCount + 
 /// Writes base64Length(bytes.size()) characters and returns the end of them.
 char* encodeBase64(std::span<const std::uint8_t> bytes, char* to);
 
-/// Nothing when the text is not exactly what encodeBase64 writes for some bytes: a character
-/// outside the alphabet (also white space), padding missing or elsewhere, unused bits that are not
-/// zero.
+/// Nothing if the text differs from every text that encodeBase64() writes: a character outside the
+/// alphabet (white space, too), missing or misplaced padding, unused bits that are not zero.
 std::optional<std::vector<std::uint8_t>> decodeBase64(std::string_view text);
 
 }  // namespace marlevo

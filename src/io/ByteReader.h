@@ -7,7 +7,7 @@
 
 namespace marlevo {
 
-/// Reads numbers out of bytes that may end anywhere: what lies beyond the end reads as 0.
+/// Reads numbers from bytes. A position beyond their end is allowed and reads as 0.
 class ByteReader {
 public:
     enum class Order : unsigned char { bigEndian, littleEndian };
@@ -37,7 +37,7 @@ public:
         return true;
     }
 
-    /// The bytes from `at` on, in the same order; none beyond the end.
+    /// A reader of the bytes from `at` on, with the same byte order. Empty beyond the end.
     ByteReader from(std::size_t at) const {
         return ByteReader(at < size() ? bytes_.subspan(at) : bytes_.first(0), order_);
     }

@@ -15,7 +15,7 @@ double fixedPoint(const ByteReader& reader, std::size_t at) {
     return static_cast<std::int32_t>(reader.word(at)) / 65536.0;
 }
 
-/// The data of the tag with the signature, from its type on.
+/// The data of the tag with the signature, including its type.
 std::optional<ByteReader> findTag(const ByteReader& profile, std::string_view signature) {
     constexpr std::size_t header = 128;
     constexpr std::size_t entrySize = 12;
@@ -29,7 +29,7 @@ std::optional<ByteReader> findTag(const ByteReader& profile, std::string_view si
     return std::nullopt;
 }
 
-/// What the tone curve makes of `x`, or nothing for a kind of curve that no sRGB profile has.
+/// The tone curve's value at `x`. Nothing for a kind of curve that no sRGB profile has.
 std::optional<double> curveValue(const ByteReader& curve, double x) {
     constexpr std::size_t values = 12;
     if (curve.hasText(0, "curv")) {
@@ -58,7 +58,7 @@ bool isNear(double value, double expected) { return std::abs(value - expected) <
 struct Primary {
     std::string_view colorTag;
     std::string_view curveTag;
-    std::array<double, 3> xyz;  ///< adapted to the light D50, as profiles have it
+    std::array<double, 3> xyz;  ///< adapted to illuminant D50, as in profiles
 };
 
 constexpr std::array primaries{
@@ -82,7 +82,7 @@ bool isSRGBPrimary(const ByteReader& profile, const Primary& primary) {
 
 bool isSRGBProfile(std::span<const std::uint8_t> bytes) {
     const ByteReader profile(bytes);
-    // A profile with tables says more than its primaries.
+    // The tables of a profile replace its primaries.
     if (!profile.hasText(16, "RGB XYZ ") || findTag(profile, "A2B0")) return false;
     for (const Primary& primary : primaries)
         if (!isSRGBPrimary(profile, primary)) return false;

@@ -5,8 +5,8 @@
 
 namespace marlevo {
 
-/// Whether the bytes are an ICC profile (ISO 15076-1) of the sRGB colour space, by its primaries
-/// and its curves, whatever its name.
+/// Whether the bytes are an ICC profile (ISO 15076-1) of the sRGB colour space. Compares primaries
+/// and tone curves, not the name.
 bool isSRGBProfile(std::span<const std::uint8_t> profile);
 
 }  // namespace marlevo

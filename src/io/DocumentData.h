@@ -10,11 +10,10 @@
 
 namespace marlevo {
 
-/// A stroke as a document file holds it. The field names are the file's keys.
+/// A stroke of a document file. The names of the members are the file's keys.
 ///
-/// The file lists the points as x0, y0, x1, y1, …; the record keeps them as pairs, so that it
-/// shares the block of the stroke it was made from. A last number without its partner is dropped on
-/// reading.
+/// The file lists the points as x0, y0, x1, y1, …; the record has pairs, so that it shares the
+/// block of points with its stroke. Reading drops a last x without y.
 struct StrokeData {
     PointList points;   ///< canvas pixels, y downwards
     double colorR = 0;  ///< sRGB components, not clamped
@@ -25,26 +24,26 @@ struct StrokeData {
     double opacity = 0;
     bool isEraser = false;
     bool isFill = false;
-    std::string shapeType;  ///< a name of Stroke::ShapeType, or any other text that a file brought
+    std::string shapeType;  ///< a name of Stroke::ShapeType, or any other text from a file
 
     friend bool operator==(const StrokeData&, const StrokeData&) = default;
 };
 
-/// A layer as a document file holds it.
+/// A layer of a document file.
 struct LayerData {
     std::string name;  ///< UTF-8
     bool isVisible = false;
     double opacity = 0;
-    std::optional<Bytes> imageData;  ///< the imported image file as it was; the key may be absent
+    std::optional<Bytes> imageData;  ///< the unchanged image file; the key may be absent
     std::vector<StrokeData> strokes;
 
     friend bool operator==(const LayerData&, const LayerData&) = default;
 };
 
-/// The root of a document file: all that defines the picture. Plain values; nothing is checked but
-/// their types, so sizes and components may be any finite number.
+/// The root of a document file: all values that define the picture. Only the types are checked, so
+/// sizes and components can be any finite number.
 struct DocumentData {
-    std::int64_t version = 1;  ///< written as 1; what a file says is read and not looked at
+    std::int64_t version = 1;  ///< always written as 1; a file's version is read and not used
     double canvasWidth = 0;    ///< canvas pixels
     double canvasHeight = 0;
     double bgColorR = 0;
@@ -52,7 +51,7 @@ struct DocumentData {
     double bgColorB = 0;
     double bgColorA = 0;
     bool bgTransparent = false;
-    std::vector<LayerData> layers;  ///< index 0 lies lowest
+    std::vector<LayerData> layers;  ///< index 0 is the lowest
 
     friend bool operator==(const DocumentData&, const DocumentData&) = default;
 };

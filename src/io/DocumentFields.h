@@ -9,8 +9,8 @@
 
 namespace marlevo {
 
-/// A key of a record's JSON object and the member that holds its value. The member's type says what
-/// the JSON value must be; a std::optional one may be absent.
+/// A key of a record's JSON object and the member for its value. The JSON value must have the type
+/// of the member. It may be absent if that type is a std::optional.
 template <typename Record, typename Value>
 struct Field {
     std::string_view key;
@@ -20,7 +20,7 @@ struct Field {
 template <typename Record, typename Value>
 Field(std::string_view, Value Record::*) -> Field<Record, Value>;
 
-/// The fields of each record, in the order in which they are written.
+/// The fields of each record, in the order of writing.
 template <typename Record>
 inline constexpr auto fieldsOf = std::tuple<>();
 

@@ -27,11 +27,11 @@ constexpr bool isRequired = true;
 template <typename Value>
 constexpr bool isRequired<std::optional<Value>> = false;
 
-/// Fills the records straight from the parser's position in the text; no tree in between.
+/// Fills the records directly from the parser's position in the text, without a tree of values.
 ///
-/// There are two ways to fail. A value that is not what its record wants is a problem, whose path
-/// grows on the way out. Broken text stops everything; JsonSyntax then finds the place, since the
-/// parser does not know it.
+/// There are two kinds of errors. A value of another type than its record's is a problem, whose
+/// path is completed on the way out of the recursion. Malformed text stops the reading. JsonSyntax
+/// then finds the place, because the parser does not report it.
 class RecordReader {
 public:
     enum class Strokes : unsigned char { oneByOne, inParallel };
@@ -42,7 +42,7 @@ public:
         DocumentData document;
         const bool isRead = readRoot(document, 0);
         if (!isRead || sawProblem_) {
-            // After a problem the parser has skipped text that nobody looked at.
+            // After a problem the parser has skipped text without a check of its syntax.
             if (const auto fault = JsonSyntax::findFault(text_))
                 return Unexpected(describe(*fault));
         }
@@ -51,7 +51,7 @@ public:
         return Unexpected(Failure{problem_.path.text() + (hasPath ? ": " : "") + problem_.text});
     }
 
-    /// The document if nothing in it is wrong; why it is not, only read() can say.
+    /// The document if it is free of errors. Only read() finds the reason of an error.
     std::optional<DocumentData> readFaultless() {
         std::optional<DocumentData> document(std::in_place);
         if (!readRoot(*document, 0) || sawProblem_) document.reset();
@@ -66,7 +66,7 @@ private:
 
     // ---- Records --------------------------------------------------------------------------------
 
-    /// The whole text as one record, which stands inside `depth` arrays and objects.
+    /// Reads the whole text as one record, which is inside `depth` arrays and objects.
     template <typename Record>
     bool readRoot(Record& record, std::size_t depth) {
         ondemand::document document;
@@ -83,10 +83,10 @@ private:
         return isAtEnd || broken(simdjson::TRAILING_CONTENT);
     }
 
-    /// `depth` counts the arrays and objects around the members.
+    /// `depth` is the number of arrays and objects around the members.
     template <typename Record>
     bool readMembers(ondemand::object& object, Record& record, std::size_t depth) {
-        // A wrong value is a problem only if no later one with the same key replaces it.
+        // A wrong value is a problem only if no later value of the same key replaces it.
         std::array<std::optional<Problem>, fieldCount<Record>> problems;
         std::array<bool, fieldCount<Record>> isPresent{};
 
@@ -136,8 +136,8 @@ private:
         return readMembers(object, record, depth + 1);
     }
 
-    /// Strokes are most of a long text. Finding where each of them ends is quick, reading them is
-    /// shared out.
+    /// Strokes are most of a long text. One thread finds the end of each, which is quick; all cores
+    /// read them.
     bool readValue(ondemand::value value, std::vector<StrokeData>& strokes, std::size_t depth) {
         if (strokes_ == Strokes::oneByOne) return readList(value, strokes, depth);
         ondemand::array array;
@@ -206,7 +206,7 @@ private:
             if (!isX) points_.push_back(point);
             ++count;
         }
-        points = PointList(std::vector<Point>(points_));  // a copy has no spare capacity
+        points = PointList(std::vector<Point>(points_));  // a copy, which has no spare capacity
         return true;
     }
 
@@ -224,20 +224,21 @@ private:
         return problem("the number is too large");
     }
 
-    /// Before its version 3.1 simdjson miscounts the digits behind "0." and returns nonsense when
+    /// Before version 3.1, simdjson miscounts the digits after "0." and returns a wrong number if
     /// there are more than 19.
     static bool isLongFraction(std::string_view token) {
         constexpr std::size_t longestRight = std::string_view("0.1234567890123456789").size();
         return token.size() > longestRight && (token.starts_with("0.") || token.starts_with("-0."));
     }
 
-    /// The token reaches to the next one: it may end with white space, or with what makes it none.
+    /// The token ends where the next one starts: white space after the number is allowed, any other
+    /// character is an error.
     static bool readLongFraction(std::string_view token, double& number) {
         static const locale_t plainLocale = newlocale(LC_ALL_MASK, "C", nullptr);
         const auto digits = JsonSyntax::leadingNumber(token);
         if (!digits || token.find_first_not_of(" \n\r\t", digits->size()) != token.npos)
             return false;
-        // The digits end before something that strtod does not take for a digit.
+        // strtod stops at the character after the digits, which cannot continue a number.
         number = strtod_l(token.data(), nullptr, plainLocale);
         return std::isfinite(number);
     }
@@ -245,7 +246,7 @@ private:
     bool readValue(ondemand::value value, std::int64_t& number, std::size_t /*depth*/) {
         if (!is(value, json_type::number)) return problem("a whole number was expected");
         if (value.get_int64().get(number) == simdjson::SUCCESS) return true;
-        double whole = 0;  // perhaps written with a fraction of zero or an exponent
+        double whole = 0;  // for numbers with a fraction of zero or an exponent
         if (value.get_double().get(whole) != simdjson::SUCCESS || std::trunc(whole) != whole)
             return problem("a whole number was expected");
         if (std::abs(whole) >= 0x1p63) return problem("the number is too large");
@@ -274,8 +275,8 @@ private:
             return isNull || broken(simdjson::N_ATOM_ERROR);
         }
         if (!is(value, json_type::string)) return problem("a string was expected");
-        // An image is long: decode it from where it lies. A quote or a backslash is no base64, so
-        // the first quote ends it; a text with escapes ("\/") takes the long way round.
+        // An image is long, so it is decoded in place. Base64 has no quotes and no backslashes, so
+        // the first quote is its end. A text with escapes ("\/") is copied and unescaped first.
         const std::string_view text = textFrom(value).substr(1);
         auto decoded = decodeBase64(text.substr(0, text.find('"')));
         if (!decoded) {

@@ -6,11 +6,11 @@
 
 namespace marlevo {
 
-/// The contents of a document file: UTF-8 JSON, indented by two spaces, one member per line, a
-/// stroke's points on one line, numbers as writeNumber() writes them. Complete in memory; large
-/// documents are encoded on all cores (platform/ParallelFor.h); the text does not depend on that.
+/// The contents of a document file: UTF-8 JSON, indented by two spaces, one member per line, the
+/// points of a stroke on one line, numbers as in writeNumber(). Encoded on all cores
+/// (platform/ParallelFor.h). The text is the same for every number of cores.
 ///
-/// Fails only when a number is not finite; the error names the first one's place.
+/// Fails only if a number is not finite. The error has the key path of the first such number.
 Result<TextBlocks> writeDocumentData(const DocumentData& document);
 
 }  // namespace marlevo

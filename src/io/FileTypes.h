@@ -6,10 +6,10 @@
 
 namespace marlevo {
 
-/// What a panel offers for an export in this format, described in the user's language.
+/// The file type of an export in this format, with its description in the user's language.
 FileType fileType(ExportFormat format, const Services& services);
 
-/// What the panels offer for drawings.
+/// The file type of drawings, with its description in the user's language.
 FileType documentFileType(const Services& services);
 
 }  // namespace marlevo

@@ -16,7 +16,7 @@ int hexValue(char c) {
     return -1;
 }
 
-/// The code unit of four hexadecimal digits, or -1.
+/// The code unit of four hexadecimal digits, or −1.
 int codeUnit(std::string_view text) {
     if (text.size() < 4) return -1;
     int unit = 0;
@@ -50,8 +50,8 @@ void appendUtf8(std::string& text, std::uint32_t code) {
     }
 }
 
-/// The length of the UTF-8 sequence of more than one byte that the text starts with; 0 when it is
-/// malformed, overlong, a surrogate or beyond U+10FFFF.
+/// The length of the UTF-8 sequence at the start of the text, which has more than one byte. 0 if it
+/// is malformed, overlong, a surrogate or beyond U+10FFFF.
 std::size_t utf8Length(std::string_view text) {
     const auto byte = [&](std::size_t i) {
         return i < text.size() ? static_cast<unsigned char>(text[i]) : 0;
@@ -73,7 +73,7 @@ std::size_t utf8Length(std::string_view text) {
     return 0;
 }
 
-/// Printable ASCII that a string holds as it is.
+/// Printable ASCII that needs no escape.
 constexpr auto isPlain = [] {
     std::array<bool, 256> plain{};
     for (std::size_t c = 0x20; c < 0x80; ++c)
@@ -81,8 +81,8 @@ constexpr auto isPlain = [] {
     return plain;
 }();
 
-/// Recursive descent; each function stands at the start of what it is named after, returns whether
-/// it is well-formed, and leaves the position behind it or at the fault.
+/// A recursive-descent parser. Each function starts at the element of its name, returns whether the
+/// element is well-formed, and leaves the position behind the element or at the fault.
 class Scanner {
 public:
     explicit Scanner(std::string_view text) : text_(text) {}
@@ -156,7 +156,7 @@ public:
     JsonSyntax::Fault fault() const { return {position_, path_, reason_}; }
 
 private:
-    /// The key path of a fault ends here; deeper, line and column tell the place as well.
+    /// Maximum length of a fault's key path. Line and column give the place inside deeper values.
     static constexpr std::size_t stepsShown = 10;
 
     bool object(std::size_t depth) {
@@ -322,7 +322,7 @@ std::string JsonSyntax::unescape(std::string_view string) {
             break;
         }
         default:
-            text.push_back(kind);  // a quote, a slash or a backslash stands for itself
+            text.push_back(kind);  // a quote, a slash or a backslash
         }
     }
     return text;

@@ -9,35 +9,35 @@
 
 namespace marlevo {
 
-/// A plain, strict check of JSON text (RFC 8259): the second opinion beside the fast parser, which
-/// does not look at what it skips and cannot say where it failed.
+/// A plain, strict check of JSON text (RFC 8259). The fast parser does not check the text that it
+/// skips, and does not report the place of an error.
 class JsonSyntax {
 public:
-    /// Arrays and objects may be nested this deep.
+    /// Maximum depth of nested arrays and objects.
     static constexpr std::size_t maxDepth = 512;
 
-    /// Where and why a text is not JSON.
+    /// The place and the reason of an error in the text.
     struct Fault {
         std::size_t offset;  ///< in bytes
-        KeyPath path;        ///< the value it happened in
+        KeyPath path;        ///< of the value with the error
         std::string_view reason;
     };
 
-    /// Nothing when the text is one value with nothing but white space around it.
+    /// Nothing if the text is one value, with or without white space around it.
     static std::optional<Fault> findFault(std::string_view text);
 
-    /// True when the text starts with a value and the ',' or '}' that ends a member. The value
-    /// stands inside `depth` arrays and objects.
+    /// True if the text starts with a value and the ',' or '}' that ends a member. The value is
+    /// inside `depth` arrays and objects.
     static bool startsWithMemberValue(std::string_view text, std::size_t depth);
 
-    /// The string that the text starts with, between its quotes and with its escapes; nothing when
-    /// there is none or it is malformed.
+    /// The string at the start of the text, without its quotes and with its escapes. Nothing if the
+    /// text starts with another value or the string is malformed.
     static std::optional<std::string_view> leadingString(std::string_view text);
 
-    /// The number that the text starts with; nothing when there is none.
+    /// The number at the start of the text. Nothing if the text starts with another value.
     static std::optional<std::string_view> leadingNumber(std::string_view text);
 
-    /// A string as leadingString() returns it, with its escapes replaced.
+    /// A result of leadingString() with its escapes replaced.
     static std::string unescape(std::string_view string);
 };
 

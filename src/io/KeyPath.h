@@ -7,8 +7,8 @@
 
 namespace marlevo {
 
-/// The place of a value in a JSON document, as "layers[3].strokes[17].points[4]". Built from the
-/// inside out: whoever passes an error upwards puts its own step before it.
+/// The place of a value in a JSON document, such as "layers[3].strokes[17].points[4]". Built from
+/// the innermost step outwards: each function that passes an error on prepends its own step.
 class KeyPath {
 public:
     void prependKey(std::string_view key) { prepend(std::string(key)); }

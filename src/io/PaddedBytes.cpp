@@ -11,12 +11,12 @@ namespace {
 
 constexpr std::size_t hugePage = std::size_t{2} << 20;
 
-/// Large memory comes in large pages where the system has them: to give it page by page would take
-/// longer than to read the file into it.
+/// Allocates large memory in large pages where the system has them. With small pages the page
+/// faults take longer than reading the file.
 void* allocate(std::size_t size) {
     if (size < 2 * hugePage) return std::malloc(size);
     void* const memory = std::aligned_alloc(hugePage, (size + hugePage - 1) / hugePage * hugePage);
-    // A wish: without it the pages are small.
+    // An error does no harm: the pages are small.
     if (memory != nullptr) ::madvise(memory, size, MADV_HUGEPAGE);
     return memory;
 }

@@ -9,13 +9,12 @@
 
 namespace marlevo {
 
-/// A file's contents with a few readable bytes behind them, for parsers that look ahead in whole
-/// vectors.
+/// A file's contents with readable bytes behind them, for parsers that read whole vectors.
 class PaddedBytes {
 public:
     static constexpr std::size_t padding = 64;
 
-    /// The contents are left for the caller to fill; the padding is zero.
+    /// The caller must fill the contents. The padding is zero.
     explicit PaddedBytes(std::size_t size);
 
     explicit PaddedBytes(std::span<const std::uint8_t> contents) : PaddedBytes(contents.size()) {

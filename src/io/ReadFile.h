@@ -7,8 +7,8 @@
 
 namespace marlevo {
 
-/// The contents of a file. Only regular files are read: a folder, a pipe or a device is an error at
-/// once, never a wait. The error's text names the file.
+/// The contents of a regular file. Anything else, such as a folder, a pipe or a device, is an
+/// error, without waiting. The error's text names the file.
 Result<PaddedBytes> readWholeFile(const std::filesystem::path& file);
 
 }  // namespace marlevo

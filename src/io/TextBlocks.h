@@ -11,14 +11,13 @@
 
 namespace marlevo {
 
-/// A text held in blocks, so that it grows without being copied and two of them join without either
-/// being touched.
+/// A text in blocks, so that appending and joining texts copies none of the characters before.
 class TextBlocks {
 public:
     static constexpr std::size_t blockSize = std::size_t{1} << 18;
 
-    /// A place for up to `length` more characters, at most blockSize; valid until the next call.
-    /// What was written there counts once advanceTo() has been told its end.
+    /// Room for `length` more characters, at most blockSize, valid until the next call. After
+    /// writing there, advanceTo() adds the characters up to its argument to the text.
     char* room(std::size_t length) {
         if (blocks_.empty() || blockSize - blocks_.back().size < length)
             blocks_.push_back({std::make_unique_for_overwrite<char[]>(blockSize), 0});
