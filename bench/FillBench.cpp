@@ -1,8 +1,8 @@
-// What a click with the fill tool costs beyond the rendering of the picture.
+// The costs of a click with the fill tool, without the rendering of the picture.
 //
-// Every figure is the shortest of repeated runs, the one that other programs disturbed least,
-// beside the floor (reading the picture's bytes once with the same vectors) and, where it is
-// installed, OpenCV's flood fill.
+// Each figure is the shortest of repeated runs, which other programs disturbed least. For
+// comparison: the floor (reading the picture's bytes once with the same vectors) and OpenCV's flood
+// fill, if it is installed.
 
 #include "tests/tools/FillPictures.h"
 #include "tools/FloodFill.h"
@@ -78,7 +78,7 @@ RasterImage scribbledPicture(int width, int height, int strokes) {
     return {width, height, std::move(bytes)};
 }
 
-/// Of some random cells the one that lies in the largest region.
+/// The cell with the largest region among some random cells.
 GridPoint seedOfALargeRegion(const RasterImage& image, std::mt19937& random) {
     GridPoint best;
     std::size_t largest = 0;
@@ -99,7 +99,7 @@ double floorMilliseconds(const RasterImage& image) {
 }
 
 #if MARLEVO_HAS_OPENCV
-/// OpenCV fills pictures of one or three channels only: it gets three quarters of the bytes.
+/// OpenCV fills pictures of one or three channels only, so it reads three quarters of the bytes.
 double openCvMilliseconds(const RasterImage& image, GridPoint seed, int tolerance) {
     cv::Mat colors(image.height(), image.width(), CV_8UC3);
     for (int y = 0; y < image.height(); ++y) {

@@ -14,7 +14,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 
-/// Looks at each byte once and does as little with it as possible.
+/// Reads each byte once, with as little work as possible.
 inline std::uint8_t readOnce(std::span<const std::uint8_t> bytes) {
     namespace hn = hwy::HWY_NAMESPACE;
     const hn::ScalableTag<std::uint8_t> tag;

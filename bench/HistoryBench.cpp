@@ -1,5 +1,5 @@
-// What a drawing of 100,000 strokes with its whole history costs, in time and memory, beside the
-// same operations on plain vectors of strokes.
+// Time and memory of a drawing of 100,000 strokes with its whole history, compared with the same
+// operations on plain vectors of strokes.
 
 #include "model/DrawingDocument.h"
 
@@ -20,7 +20,7 @@ std::size_t bytesInUse() {
     return info.uordblks + info.hblkhd;
 }
 
-/// Of this process: other programs on the machine do not count.
+/// Processor time of this process, independent of other programs.
 double processorMicroseconds() {
     timespec time{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
@@ -36,8 +36,7 @@ std::vector<Point> walk(std::mt19937& random) {
     return points;
 }
 
-/// A document whose lists are vectors all through: every snapshot copies every stroke's record and
-/// every point.
+/// A document whose lists are vectors: a snapshot copies the records and the points of all strokes.
 struct PlainStroke {
     std::vector<Point> points;
     Color color;
@@ -83,7 +82,7 @@ struct SharingDocument {
     DrawingDocument doc;
 };
 
-/// As after 199 fills, each of which makes a layer.
+/// A document after 199 fills, each of which adds a layer.
 struct LayeredDocument : SharingDocument {
     LayeredDocument() {
         for (int i = 0; i < 200; ++i)
@@ -91,7 +90,7 @@ struct LayeredDocument : SharingDocument {
     }
 };
 
-/// The bytes of the strokes themselves, held in the program's own list without any history.
+/// The bytes of the strokes in the program's own list, without a history.
 std::size_t bytesOfStrokes(int count) {
     std::mt19937 random(1);
     const std::size_t before = bytesInUse();

@@ -1,5 +1,5 @@
-// The document file's reader and writer beside Qt's JSON document class, in one run. Best of
-// several rounds; memory is what the process grew by at its peak.
+// Reader and writer of document files, compared with Qt's JSON document class in the same run.
+// Times are the best of several rounds. Memory is the growth of the process at its peak.
 
 #include "io/DocumentReader.h"
 #include "io/DocumentWriter.h"
@@ -173,11 +173,11 @@ double megabytesOf(const char* key) {
     return 0;
 }
 
-/// By how much the process grows at its peak while working, in megabytes.
+/// The growth of the process at its peak during the work, in megabytes.
 template <typename Work>
 double peakGrowth(Work work) {
     malloc_trim(0);
-    std::ofstream("/proc/self/clear_refs") << "5\n";  // forgets the peak so far
+    std::ofstream("/proc/self/clear_refs") << "5\n";  // resets the peak
     const double before = megabytesOf("VmRSS:");
     [[maybe_unused]] const auto result = work();
     return megabytesOf("VmHWM:") - before;

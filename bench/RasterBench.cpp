@@ -1,6 +1,6 @@
-// Draws the same scenes with our rasteriser, cairo and Qt, and prints one table: the time a shape
-// takes each, our lead, the time of only blending the pixels that our drawing covers, and how far
-// each strays from a supersampled truth. Then the time of repainting a small part of a picture.
+// Draws the same scenes with Marlevo's rasteriser, cairo and Qt, and prints one table: the time a
+// shape takes in each, the ratio, the time of only blending the covered pixels, and the difference
+// of each from a supersampled truth. Then the time of repainting a small part of a picture.
 
 #include "bench/RasterScenes.h"
 #include "bench/SupersampledTruth.h"
@@ -25,7 +25,7 @@ namespace {
 
 constexpr IntRect wholePicture{0, 0, sceneWidth, sceneHeight};
 
-/// Pixels in the order blue, green, red, alpha, which all three can draw on.
+/// Pixels in the order blue, green, red, alpha, which all three support.
 struct Picture {
     std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(4 * sceneWidth * sceneHeight);
 
@@ -161,7 +161,7 @@ std::vector<QPainterPath> toQt(const std::vector<Shape>& shapes) {
     return paths;
 }
 
-/// What our drawing of a shape covers, as runs of whole 8-pixel blocks ready to be blended.
+/// The coverage of a shape as runs of whole 8-pixel blocks, for blending only.
 class CoveredRuns {
 public:
     explicit CoveredRuns(const Shape& shape) : color_(packColor(shape.color, shape.opacity, {})) {
@@ -204,7 +204,7 @@ private:
     std::vector<Run> runs_;
 };
 
-/// Processor time of this thread, so that a busy machine does not count.
+/// Processor time of this thread, independent of other programs.
 double microseconds(const std::function<void()>& work) {
     const auto now = [] {
         timespec time{};
@@ -216,7 +216,7 @@ double microseconds(const std::function<void()>& work) {
     return now() - start;
 }
 
-/// The mean over all covered pixels of how far a drawing of single shapes is from the truth.
+/// The mean difference from the truth over all covered pixels, for single shapes.
 class Straying {
 public:
     void add(const SupersampledTruth& truth, const Picture& picture) {
@@ -251,7 +251,7 @@ void measure(const Scene& scene, int rounds) {
                 runs.blendOnto(picture);
         },
     };
-    // The fastest of several turns: other work on the machine only ever slows a turn down.
+    // The fastest of several turns, because other programs can only slow a turn down.
     double best[std::size(works)];
     std::fill(std::begin(best), std::end(best), 1e18);
     for (int round = 0; round < rounds; ++round) {
@@ -299,7 +299,7 @@ bool reaches(const Shape& shape, const IntRect& area) {
            maxY + reach > area.top;
 }
 
-/// Repaints squares with the strokes whose bounds meet them, as all three would be asked to.
+/// Repaints squares with the strokes whose bounds touch them.
 void measureRepaint(const std::vector<Shape>& strokes, int side, int rounds) {
     double ours = 0;
     double cairo = 0;
@@ -335,7 +335,7 @@ void measureRepaint(const std::vector<Shape>& strokes, int side, int rounds) {
 
 }  // namespace marlevo::bench
 
-// raster [rounds] [scene]: more rounds for steadier figures, a scene's number to draw only that.
+// raster [rounds] [scene]: more rounds give steadier figures; a number selects one scene.
 int main(int argc, char** argv) {
     using namespace marlevo::bench;
     const int rounds = argc > 1 ? std::atoi(argv[1]) : 5;

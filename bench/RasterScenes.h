@@ -27,7 +27,7 @@ struct Scene {
     std::vector<Shape> shapes;
 };
 
-/// A freehand stroke as the program smooths it: curves between the midpoints of its points.
+/// A freehand stroke, smoothed as in the program: curves between the midpoints of its points.
 inline Path smoothed(const std::vector<Point>& points) {
     Path path;
     path.move(points.front());
@@ -53,7 +53,7 @@ public:
         return scene;
     }
 
-    /// What the fill tool makes of regions; its outlines are drawn with the curves of strokes.
+    /// Outlines that the fill tool makes of regions, drawn with the curves of strokes.
     Scene fills(int count, int points) {
         Scene scene{"fills of traced regions, 4,000 points", {}};
         TracedRegions regions(sceneWidth, sceneHeight);
@@ -64,8 +64,8 @@ public:
         return scene;
     }
 
-    /// Outlines whose points lie a third of a pixel apart, as no fill leaves them: next to nothing
-    /// but the reading of points.
+    /// Outlines whose points are a third of a pixel apart, closer than the fill tool leaves them.
+    /// Measures little else than the reading of points.
     Scene denseOutlines(int count, int points) {
         Scene scene{"dense outlines, 4,000 points", {}};
         for (int i = 0; i < count; ++i) {

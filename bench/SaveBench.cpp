@@ -1,5 +1,5 @@
-// What a save costs the user-interface thread: the document's text, and handing it to the system.
-// The flush to disk is left out, since it follows behind.
+// The time of a save on the user-interface thread: encoding the document and writing the file.
+// Without the flush to the disk, which another thread does.
 
 #include "io/DocumentData.h"
 #include "io/DocumentWriter.h"
@@ -13,7 +13,7 @@
 namespace marlevo {
 namespace {
 
-/// As many strokes of 100 points, all numbers with every digit that a double has.
+/// Draws strokes of 100 points, whose coordinates have all digits of a double.
 void draw(DrawingDocument& document, std::int64_t strokeCount) {
     std::mt19937_64 random(7);
     std::uniform_real_distribution<double> coordinate(0, 1280);

@@ -12,13 +12,13 @@
 
 namespace marlevo::bench {
 
-/// Makes outlines the way the fill tool does: a picture is flooded, the region's outer edge traced
-/// and simplified. The pictures are random spots that run together into one ragged shape.
+/// Makes outlines in the way of the fill tool: floods a picture, traces the outer edge of the
+/// region and simplifies it. The pictures are random spots that join into one ragged shape.
 class TracedRegions {
 public:
     TracedRegions(int width, int height) : width_(width), height_(height) {}
 
-    /// The outline of a region that takes between `least` and `most` points.
+    /// The outline of a region with `least` to `most` points.
     std::vector<Point> outline(std::size_t least, std::size_t most) {
         for (;;) {
             const std::vector<GridPoint> vertices = tracedRegion();

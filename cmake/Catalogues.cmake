@@ -5,7 +5,7 @@ qt_add_translation(compiled_catalogues ${catalogues})
 qt_add_resources(marlevo_ui_windows catalogues PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR}
   FILES ${compiled_catalogues})
 
-# Collects the texts of the sources into a catalogue; to be followed by its file.
+# Command that collects the texts of the sources into a catalogue. Append the catalogue's file.
 set(MARLEVO_COLLECT_TEXTS $<TARGET_FILE:Qt6::lupdate> ${PROJECT_SOURCE_DIR}/src -silent
   -tr-function-alias QT_TRANSLATE_NOOP+=translatable -locations none -no-obsolete -ts)
 

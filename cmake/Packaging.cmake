@@ -1,11 +1,11 @@
-# What "cmake --install" brings, and the .deb made of it (scripts/package.sh).
+# The files of "cmake --install", and the .deb made of them (scripts/package.sh).
 include(GNUInstallDirs)
 
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 
-# Manuals and change logs are installed compressed, and the same bytes each time.
+# Manuals and change logs are installed compressed, without time stamps: equal bytes in each build.
 function(marlevo_compressed file)
   set(compressed ${PROJECT_BINARY_DIR}/packaging/${file}.gz)
   add_custom_command(OUTPUT ${compressed} DEPENDS ${packaging}/${file}
@@ -47,7 +47,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTOR
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Beside the libraries: the toolkit's own texts, and the codec of TIFF files.
+# In addition to the libraries: the toolkit's own texts, and the codec of TIFF files.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

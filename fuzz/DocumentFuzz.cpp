@@ -1,5 +1,5 @@
-// Whatever the document reader accepts is JSON for the plain checker too, and writes and reads back
-// as the same document.
+// Checks for each text that the document reader accepts: the plain checker accepts it as JSON, and
+// the document is the same after writing and reading.
 
 #include "io/DocumentReader.h"
 #include "io/DocumentWriter.h"

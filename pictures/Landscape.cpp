@@ -19,7 +19,7 @@ constexpr Point sun{842, 318};
 constexpr double sunRadius = 52;
 
 constexpr double brush = 20;
-constexpr double overlap = 14;  // from one stroke to the next, so that no gap shows
+constexpr double overlap = 14;  // of neighbouring strokes, so that there is no gap
 
 constexpr Color rgb(unsigned code) {
     return {(code >> 16 & 255) / 255.0, (code >> 8 & 255) / 255.0, (code & 255) / 255.0, 1};
@@ -30,7 +30,7 @@ Color mix(const Color& a, const Color& b, double share) {
     return {between(a.red, b.red), between(a.green, b.green), between(a.blue, b.blue), 1};
 }
 
-/// The colour at a share of the way along evenly spaced ones.
+/// The colour at `share` (0 to 1) of a gradient of evenly spaced colours.
 Color along(const std::vector<Color>& colors, double share) {
     const double place = std::clamp(share, 0.0, 1.0) * double(colors.size() - 1);
     const auto index = std::min(std::size_t(place), colors.size() - 2);
@@ -40,7 +40,7 @@ Color along(const std::vector<Color>& colors, double share) {
 const std::vector<Color> evening{rgb(0x24365f), rgb(0x4a5b8c), rgb(0x9a7f9f),
                                  rgb(0xe79a83), rgb(0xf9c795), rgb(0xfde6bd)};
 
-/// Always the same line of peaks, of about unit height; `seed` chooses it.
+/// A line of peaks of about unit height, the same for the same `seed`.
 double ridge(double x, double seed) {
     double sum = 0;
     double weight = 0.75;
@@ -54,7 +54,8 @@ double ridge(double x, double seed) {
     return sum;
 }
 
-/// Starts on the canvas, where the pointer has to be pressed.
+/// The points (x, y(x)) across the canvas. The first is inside, because a press outside draws
+/// nothing.
 std::vector<Point> acrossTheCanvas(double step, const std::function<double(double)>& y) {
     std::vector<Point> way;
     for (double x = 1; x <= width + step; x += step)
@@ -115,7 +116,7 @@ void Landscape::drawSky() {
     drawClouds();
 }
 
-/// What is erased is white here: the colour of the paper.
+/// The eraser shows the white of the paper.
 void Landscape::drawClouds() {
     struct Cloud {
         Point at;
@@ -146,7 +147,7 @@ void Landscape::drawSun() {
     chooseFill(document_);
     pen(rgb(0xfff3d2), 6);
     click(sun);
-    // What the fill leaves at the edge.
+    // The pixels that the fill leaves at the edge.
     chooseShape(document_, Stroke::ShapeType::ellipse);
     disc(sunRadius - 4);
 }
@@ -231,7 +232,7 @@ void Landscape::drawShore() {
         drawPine({tree.x, edge(tree.x) + 14}, tree.height);
 }
 
-/// Its branches are one stroke that goes from side to side on its way down.
+/// The branches are one zigzag stroke from top to bottom.
 void Landscape::drawPine(Point foot, double tall) {
     pen(rgb(0x121f29), 5);
     drag({foot, {foot.x + 1, foot.y - tall / 2}, {foot.x, foot.y - tall}});

@@ -7,8 +7,8 @@
 
 namespace marlevo {
 
-/// Draws an evening at a lake in a window, with the mouse and the program's own tools: the brush,
-/// a shape, the fill and the eraser. Made for a canvas of 1280 × 720.
+/// Draws a lake in the evening in a window, with the mouse and the program's own tools: the brush,
+/// a shape, the fill and the eraser. For a canvas of 1280 × 720.
 class Landscape {
 public:
     /// The window must be shown, and outlive the drawing.

@@ -1,5 +1,5 @@
-// Draws in a real window with the mouse and saves pictures of it: make_pictures <folder>. At a
-// scale factor, or in another language than English, only the windows that show what differs.
+// Draws in a real window with the mouse and saves pictures of it: make_pictures <folder>. With a
+// scale factor, or in a language other than English, only the windows that differ are saved.
 
 #include "pictures/Landscape.h"
 #include "platform/BackgroundThread.h"
@@ -36,14 +36,14 @@ struct View {
     double zoom;
 };
 
-/// As much as a page shows without scaling it down, and no larger files than needed.
+/// The largest window that the README shows unscaled.
 constexpr View viewAt(double scale) {
     return scale < 2 ? View{{1160, 860}, 0.65} : View{{980, 850}, 0.53};
 }
 
 constexpr int mostCompressed = 0;
 
-/// In steps that nobody sees; the pictures travel with the sources and should be small.
+/// Reduces the colours invisibly, for small files: the pictures are part of the repository.
 QImage inFewerColors(const QImage& picture) {
     constexpr int step = 5;
     QImage image = picture.convertToFormat(QImage::Format_RGB888);
@@ -86,12 +86,12 @@ public:
 
 private:
     static QPixmap shot(QWidget& widget) {
-        // Thumbnails come from another thread, and sections open with a motion.
+        // Thumbnails are made on another thread, and sections open with an animation.
         QTest::qWait(600);
         return widget.grab();
     }
 
-    /// A dialog over its window, without the frame that a desktop would give it.
+    /// A dialog over its window, without the frame of the desktop.
     static QPixmap withDialog(QPixmap window, QWidget& dialog) {
         const QPixmap front = shot(dialog);
         QPainter painter(&window);
@@ -130,7 +130,7 @@ void openAllSections(DocumentWindow& window) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    // Nobody's settings are to be seen or changed.
+    // The settings of the user are neither shown nor changed.
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     QApplication application(argc, argv);

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Builds the benchmarks and runs them, each beside a peer or a floor in the same run:
-# bench.sh [--quick] [name]... (raster, history, …, window; all without a name).
+# Builds the benchmarks and runs them, each with a peer or a floor in the same run:
+# bench.sh [--quick] [name]... (raster, history, …, window; without a name all of them).
 #
-# A whole run takes about seven minutes and writes docs/performance.md with its picture; a part of
-# one, or a quick one with fewer events, leaves its page in build/bench/results.
+# A whole run takes about seven minutes and writes docs/performance.md with its picture. A part of
+# it, or a quick run with fewer events, writes its page to build/bench/results.
 set -euo pipefail
 "$(dirname "$0")/setup.sh" bench
 . "$(dirname "$0")/common.sh"
@@ -23,7 +23,7 @@ if [ $# -eq 0 ]; then
     done
 fi
 
-# The program in its real window: each measurement a process of its own, for its memory's sake.
+# The program in its real window. Each measurement is a process of its own, because it reports memory.
 measure_window() {
     local measure=build/bench/bench/window/bench_window
     local drawing=$results/strokes.marlevo
@@ -43,7 +43,7 @@ measure_window() {
 for name in "$@"; do
     echo "== $name"
     if [ "$name" = window ]; then
-        # By its text: the shell between here and the virtual screen does not hand functions on.
+        # By its text: with_display starts a new shell, which does not have the function.
         screen_size=3840x2160 with_display bash -euc "$(declare -f measure_window)
             results=$results; quick=(${quick[*]}); measure_window" | tee "$results/window.jsonl"
     else

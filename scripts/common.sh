@@ -1,8 +1,8 @@
-# Shared by the scripts of this folder; to be sourced. Leaves the shell in the project's root.
+# Functions for the scripts of this folder, which source it. Changes to the project's root.
 # shellcheck shell=bash
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
-# build_preset <preset> [cmake options...]: configures (again only when needed) and builds.
+# build_preset <preset> [cmake options...]: configures if needed, and builds.
 build_preset() {
     local preset=$1
     shift
@@ -12,14 +12,14 @@ build_preset() {
     cmake --build --preset "$preset" -j "$(nproc)" -- --quiet
 }
 
-# with_display <command>...: runs the command on a virtual screen with a window manager; the screen
-# is as large as $screen_size says.
+# with_display <command>...: runs the command on a virtual screen with a window manager. The size of
+# the screen is $screen_size.
 with_display() {
     # shellcheck disable=SC2016
     xvfb-run -a -s "-screen 0 ${screen_size:-1600x1000}x24" bash -c '
         scratch=$(mktemp -d)
         mkfifo "$scratch/ready"
-        # Windows opened while the manager starts are hidden and shown again under their feet.
+        # The window manager hides and re-shows windows that exist when it starts.
         openbox --startup "tee $scratch/ready" </dev/null >/dev/null 2>&1 &
         manager=$!
         trap "kill $manager 2>/dev/null; rm -r $scratch" EXIT

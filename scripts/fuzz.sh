@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Fuzzes the document reader for so many seconds (60 if not said) under sanitizers. Fails on the
-# first crash, whose input is left in build/fuzz/.
+# Fuzzes the document reader under sanitizers: fuzz.sh [seconds] (default 60). Fails at the first
+# crash, whose input is written to build/fuzz/.
 set -euo pipefail
 "$(dirname "$0")/setup.sh" sanitize
 . "$(dirname "$0")/common.sh"

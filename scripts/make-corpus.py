@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the seeds of the document fuzzer into the folder named: small files that reach every key
-and every kind of value, each a little different from the last."""
+"""Writes the seeds of the document fuzzer into the folder of the first argument: small files that
+contain all keys and all kinds of values."""
 
 import base64
 import json

@@ -7,7 +7,7 @@ cmake --preset release >/dev/null
 cmake --build build/release --target marlevo_pictures
 mkdir -p docs/pictures
 
-# make_pictures [variable=value...]: with these in the program's environment.
+# make_pictures [variable=value...]: runs the program with these variables in its environment.
 make_pictures() { with_display env "$@" build/release/pictures/marlevo_pictures docs/pictures; }
 make_pictures LC_ALL=C.UTF-8
 SCREEN=3400x2200 make_pictures LC_ALL=C.UTF-8 QT_SCALE_FACTOR=2

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the program and starts it. Without a display it runs on a virtual one and leaves a picture
-# of the window in build/screenshot.png.
+# Builds the program and starts it. Without a display it runs on a virtual one, and a picture of the
+# window is written to build/screenshot.png.
 set -euo pipefail
 "$(dirname "$0")/setup.sh" run
 . "$(dirname "$0")/common.sh"
@@ -28,5 +28,5 @@ run_and_picture() {
     fi
 }
 export picture
-# By its text: the shell between here and the virtual screen does not hand functions on.
+# By its text: with_display starts a new shell, which does not have the function.
 with_display bash -ec "$(declare -f run_and_picture); run_and_picture"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing for one purpose: setup.sh [build|run|test|bench|lint|sanitize|package|pictures]...
-# Debian 12 or newer, Ubuntu 24.04. Quick when nothing is missing.
+# Installs the missing packages: setup.sh [build|run|test|bench|lint|sanitize|package|pictures]...
+# For Debian 12 or newer and Ubuntu 24.04. Quick if no package is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev libcairo2-dev pkg-config qt6-base-dev qt6-svg-dev

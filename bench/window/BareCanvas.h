@@ -6,9 +6,9 @@
 
 namespace marlevo {
 
-/// The floor under every drawing program on this toolkit: a widget that draws the newest piece of a
-/// line into an image with Qt's painter and shows what changed. It keeps no points, undoes nothing
-/// and shows a translucent line wrong.
+/// The floor for drawing programs on Qt: a widget that draws the newest segment of a line into an
+/// image with Qt's painter and shows the changed part. It stores no points, has no undo, and shows
+/// translucent lines wrong.
 class BareCanvas final : public QWidget {
 public:
     explicit BareCanvas(QSize size);

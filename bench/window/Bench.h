@@ -8,13 +8,13 @@
 
 namespace marlevo {
 
-/// What every measurement has at hand.
+/// The parameters of all measurements.
 struct Bench {
     Hand& hand;
     Meter& meter;
-    QStringList arguments;  ///< behind the measurement's name
+    QStringList arguments;  ///< after the measurement's name
 
-    /// Fewer events, for a first look.
+    /// Fewer events, for a quick estimate.
     bool isQuick = false;
 
     /// Writes one line of results, a JSON object.
@@ -23,10 +23,10 @@ struct Bench {
 
 /// The costs of the events of one kind as members of a result: the processor time of the process
 /// (median and mean), that of the user-interface thread (median and 99th percentile) and the wall
-/// time from the event to the painted window if anything was, all in milliseconds.
+/// time from the event to the painted window if it was painted, all in milliseconds.
 QJsonObject summary(const std::vector<EventCost>& costs, QEvent::Type type);
 
-/// Both objects' members.
+/// The members of both objects.
 QJsonObject operator+(QJsonObject a, const QJsonObject& b);
 
 // The measurements, each in the file of its name.

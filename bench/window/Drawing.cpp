@@ -1,4 +1,4 @@
-// One event of the mouse while drawing, on pictures of all sizes; beside a bare Qt widget.
+// One event of the mouse during drawing, on pictures of all sizes, compared with a bare Qt widget.
 
 #include "bench/window/BareCanvas.h"
 #include "bench/window/Bench.h"
@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t eventsPerStroke = 80;
 
-/// Draws strokes over `sight`, whose corner is at `corner` of the screen.
+/// Draws strokes over `sight`, a part of the canvas whose corner is at `corner` of the screen.
 std::vector<EventCost> drawStrokes(Bench& bench, const CanvasSize& sight, QPoint corner) {
     const int strokes = bench.isQuick ? 2 : 6;
     Random random(2);

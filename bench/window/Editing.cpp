@@ -13,7 +13,7 @@ namespace {
 
 constexpr CanvasSize usualCanvas{1280, 720};
 
-/// Where the hand works: in sight whatever the canvas is.
+/// The place of the edits, which is visible for every canvas size.
 constexpr Point place{640, 360};
 
 std::vector<QPoint> circle(RealWindow& real, int events) {
@@ -36,7 +36,7 @@ void measureHistory(Bench& bench, RealWindow& real, const QJsonObject& about) {
     for (int i = 0; i < rounds; ++i)
         for (auto* const costs : {&undos, &redos}) {
             auto acts = clickAt(real.control(costs == &undos ? "Undo" : "Redo").center());
-            // Pointing at the button and pressing it are not what is measured.
+            // Moving to the button and pressing it are not measured.
             for (HandAct& act : acts)
                 act.pause = 60'000;
             Meter::settle();
@@ -52,7 +52,7 @@ void measureHistory(Bench& bench, RealWindow& real, const QJsonObject& about) {
 
 void measureSelection(Bench& bench, RealWindow& real, const QJsonObject& about) {
     DrawingDocument& document = real.document();
-    // The stroke to be selected: drawn last, so that nothing lies over it.
+    // The stroke to be selected. Drawn last, so that no other stroke is above it.
     bench.hand.perform(dragThrough(circle(real, 20)));
     document.isSelectTool = true;
     bench.hand.perform(clickAt(real.onScreen({60, 40})));

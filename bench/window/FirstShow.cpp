@@ -1,4 +1,4 @@
-// The first paint of 100,000 strokes, beside Qt's painter doing the same picture.
+// The first paint of 100,000 strokes, compared with the same picture by Qt's painter.
 
 #include "bench/window/Bench.h"
 #include "bench/window/RealWindow.h"

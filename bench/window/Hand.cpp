@@ -36,7 +36,7 @@ bool writeAll(int file, const void* from, std::size_t size) {
     return true;
 }
 
-/// Keeps to the pace that was asked for, whatever the acts themselves take.
+/// Sleeps until the next act is due, independent of the duration of the acts.
 class Pace {
 public:
     Pace() { clock_gettime(CLOCK_MONOTONIC, &next_); }
@@ -52,7 +52,7 @@ private:
     timespec next_{};
 };
 
-/// The life of the hand's process.
+/// The main loop of the hand's process.
 void serve(int commands, int answers) {
     xcb_connection_t* const server = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(server)) return;
@@ -73,7 +73,7 @@ void serve(int commands, int answers) {
                                     act.button, XCB_CURRENT_TIME, root, act.x, act.y, 0);
             xcb_flush(server);
         }
-        // An answer from the server: it has seen them all.
+        // The answer arrives when the server has processed all requests.
         free(xcb_query_pointer_reply(server, xcb_query_pointer(server, root), nullptr));
         const char done = 1;
         if (!writeAll(answers, &done, 1)) return;

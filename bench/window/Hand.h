@@ -7,24 +7,24 @@
 
 namespace marlevo {
 
-/// What a hand does with the mouse: a pause, then one act at a place on the screen.
+/// A pause, then one act of the mouse at a place on the screen.
 struct HandAct {
     enum class Kind : std::uint8_t { move, press, release };
 
-    /// Between two events of a mouse in motion.
+    /// Time between two events of a moving mouse.
     static constexpr std::int32_t usualPause = 12'000;
 
     Kind kind = Kind::move;
-    std::uint8_t button = 1;  ///< as X numbers them; 4 and 5 are the wheel
+    std::uint8_t button = 1;  ///< X's number; 4 and 5 are the wheel
     std::int16_t x = 0;       ///< device pixels of the screen
     std::int16_t y = 0;
     std::int32_t pause = usualPause;  ///< before the act, in microseconds
 };
 
-/// Moves the mouse of the X server from a process of its own, so that the program under measurement
-/// gets its events from the server and pays for nothing but handling them.
+/// Moves the mouse of the X server from another process, so that the measured program gets its
+/// events from the server and spends time only on handling them.
 ///
-/// To be made before the application, since it forks.
+/// Must be created before the application object, since it forks.
 class Hand {
 public:
     Hand();
@@ -32,7 +32,7 @@ public:
     Hand(const Hand&) = delete;
     Hand& operator=(const Hand&) = delete;
 
-    /// Runs the event loop until the hand has done everything. There must be an application.
+    /// Runs the event loop until all acts are done. Needs the application object.
     void perform(const std::vector<HandAct>& acts);
 
 private:
@@ -41,7 +41,7 @@ private:
     int process_ = -1;
 };
 
-/// Acts that move to places, the first one being pressed and the last one released.
+/// A drag: acts that move to the places, with a press at the first and a release at the last.
 std::vector<HandAct> dragThrough(const std::vector<QPoint>& way);
 
 /// A press and a release.

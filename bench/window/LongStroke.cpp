@@ -10,7 +10,7 @@ namespace marlevo {
 
 namespace {
 
-/// The stroke's points from `from` on, drawn by the hand.
+/// Draws the stroke's points from `from` on.
 QJsonObject drawOn(Bench& bench, RealWindow& real, const std::vector<Point>& way, std::size_t from,
                    std::size_t count) {
     std::vector<HandAct> acts;

@@ -9,11 +9,11 @@
 using namespace marlevo;
 
 int main(int argc, char* argv[]) {
-    // Before the application, which has threads.
+    // Before the application object, which starts threads.
     Hand hand;
     QApplication::setStyle(QStringLiteral("fusion"));
     Meter meter(argc, argv);
-    // As the program has it.
+    // The same as in the program.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QApplication::setQuitOnLastWindowClosed(false);
 

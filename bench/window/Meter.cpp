@@ -40,11 +40,11 @@ Meter::Clocks Meter::Clocks::now() {
 
 bool Meter::notify(QObject* receiver, QEvent* event) {
     const QEvent::Type type = event->type();
-    // An event of the server comes to the window first and is handed on to a widget from there.
+    // Qt sends an event of the server to the window, which sends it to a widget.
     if (isRunning_ && isOfMouse(type) && receiver->isWindowType())
         arrivals_.push_back({type, Clocks::now(), -1});
     if (type == QEvent::Paint && receiver == watched_) isWatchedPainted_ = true;
-    // A window paints what changed when it is asked to update, and all of it when it is exposed.
+    // A window paints its changed part on an update request, and its whole area on an expose event.
     const bool paints = type == QEvent::UpdateRequest || type == QEvent::Expose;
     if (!paints) return QApplication::notify(receiver, event);
 

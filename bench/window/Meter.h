@@ -6,32 +6,32 @@
 
 namespace marlevo {
 
-/// What one event of the mouse cost, in milliseconds, from its arrival to that of the next one.
+/// The costs of one event of the mouse, in milliseconds, from its arrival to that of the next one.
 struct EventCost {
     QEvent::Type type{};
     double process = 0;        ///< processor time of all the program's threads
     double ui = 0;             ///< processor time of the user-interface thread
-    double untilPainted = -1;  ///< wall time until the window showed it; −1 if it showed nothing
+    double untilPainted = -1;  ///< wall time until the window was painted; −1 if it was not
     bool isPainted() const { return untilPainted >= 0; }
 };
 
-/// An application that notes what handling the events of the mouse costs.
+/// An application object that measures the handling of mouse events.
 class Meter final : public QApplication {
 public:
     using QApplication::QApplication;
 
     bool notify(QObject* receiver, QEvent* event) override;
 
-    /// Only paints of this widget count from now on; null for any.
+    /// From now on only paints of this widget count; with null, paints of all widgets.
     void watch(const QObject* widget) { watched_ = widget; }
 
     void start();
     std::vector<EventCost> stop();
 
-    /// How many paints there were so far.
+    /// The number of paints so far.
     std::size_t paints() const { return paints_; }
 
-    /// Runs the event loop until the program has nothing to do any more.
+    /// Runs the event loop until the program is idle.
     static void settle();
 
 private:
@@ -54,7 +54,7 @@ private:
     std::size_t paints_ = 0;
 };
 
-/// The middle value and that below which 99 of 100 lie.
+/// The median and the 99th percentile.
 double median(std::vector<double> values);
 double percentile99(std::vector<double> values);
 

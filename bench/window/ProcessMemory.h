@@ -5,7 +5,7 @@
 
 namespace marlevo {
 
-/// The memory that this process has in use, in bytes.
+/// The memory in use by this process, in bytes.
 inline double residentBytes() {
     std::ifstream status("/proc/self/status");
     for (std::string word; status >> word;)

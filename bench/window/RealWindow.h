@@ -16,27 +16,27 @@
 
 namespace marlevo {
 
-/// A document window of the program on the X server's screen, as large as its canvas wants it.
+/// A document window of the program on the X server's screen, large enough for its canvas.
 class RealWindow {
 public:
     enum class Sheet : bool { dismissed, showing };
 
-    /// Started with a drawing there is no sheet to begin with.
+    /// A window that is opened with a drawing shows no new-canvas sheet.
     explicit RealWindow(Sheet sheet, const std::vector<std::filesystem::path>& drawings = {});
 
     DocumentWindow& window() { return *window_; }
     DrawingDocument& document() { return window_->document(); }
 
-    /// Shows a picture at actual size in a window that has room for it, as far as the screen has.
+    /// Shows the picture at actual size in a window with room for it, or as large as the screen.
     void show(LayerList layers, const CanvasSize& canvas);
 
-    /// The place on the screen of a point in sight of the canvas.
+    /// The place on the screen of a visible point of the canvas.
     QPoint onScreen(Point canvasPoint);
 
     /// The place on the screen of the control with this accessible name.
     QRect control(const QString& name);
 
-    /// The part of the canvas that is in sight and large enough to draw in, from its corner.
+    /// The visible part of the canvas, from its corner.
     CanvasSize inSight();
 
 private:

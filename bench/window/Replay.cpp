@@ -1,5 +1,5 @@
-// A long series of what a hand does: strokes of changing speed, undo and redo, scrolling, zooming,
-// selecting and moving. The same on every run.
+// A long series of user actions: strokes of changing speed, undo and redo, scrolling, zooming,
+// selecting and moving. The same in each run.
 
 #include "bench/window/Bench.h"
 #include "bench/window/RealWindow.h"
@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    /// Between random places, slow at each of them and fast in between, as an arm moves, with a
+    /// Moves between random places like a hand: slow at each place, fast between them, with a
     /// little tremor.
     std::vector<HandAct> stroke() {
         constexpr double tremor = 0.6;
@@ -57,7 +57,7 @@ private:
             from = to;
         }
         auto acts = dragThrough(way);
-        acts.front().pause = 250'000;  // looks where to begin
+        acts.front().pause = 250'000;  // a pause before the stroke
         return acts;
     }
 

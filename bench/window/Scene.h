@@ -10,12 +10,12 @@
 
 namespace marlevo {
 
-/// Random numbers that are the same on every machine and with every standard library.
+/// Random numbers that are the same on all machines and with all standard libraries.
 class Random {
 public:
     explicit Random(std::uint64_t seed) : engine_(seed) {}
 
-    /// From `least` to below `most`.
+    /// A number from `least` to below `most`.
     double between(double least, double most) {
         return least + (most - least) * static_cast<double>(engine_() >> 11) * 0x1p-53;
     }
@@ -24,7 +24,7 @@ private:
     std::mt19937_64 engine_;
 };
 
-/// A line of points about 8 pixels apart that turns like one drawn by hand and stays on the canvas.
+/// Points about 8 pixels apart on a curve like one drawn by hand, inside the canvas.
 std::vector<Point> scribble(Random& random, std::size_t points, const CanvasSize& canvas);
 
 /// One layer of strokes of 40 points, 3 pixels wide, spread evenly over the canvas.

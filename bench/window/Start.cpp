@@ -1,4 +1,5 @@
-// From the start of the program to its first painted window, beside an empty Qt window.
+// The time from the start of the program to its first painted window, compared with an empty Qt
+// window.
 
 #include "bench/window/Bench.h"
 #include "bench/window/RealWindow.h"
@@ -13,7 +14,7 @@ namespace marlevo {
 
 namespace {
 
-/// Runs the program for starting once; what it reports.
+/// Runs bench_start once and returns its report.
 QJsonObject startOnce(const QStringList& arguments) {
     QProcess program;
     QElapsedTimer now;

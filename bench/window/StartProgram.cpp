@@ -46,6 +46,6 @@ int main(int argc, char* argv[]) {
     Meter::settle();
     std::printf("{\"painted\": %.1f, \"resident\": %.0f}\n", painted, residentBytes());
     std::fflush(stdout);
-    // The end is not what is measured.
+    // The end of the process is not measured.
     std::_Exit(EXIT_SUCCESS);
 }

@@ -25,7 +25,7 @@ void measureZooming(Bench& bench) {
         for (int x = slider.right(); x >= slider.left(); x -= step)
             way.emplace_back(x, slider.center().y());
         const auto acts = dragThrough(way);
-        // Each step is to be a frame: the next event comes when this one has been shown.
+        // One step is one frame: the next event follows when this one has been painted.
         std::vector<double> frames;
         const double zoomBefore = real.document().zoom;
         double zoomMost = zoomBefore;
@@ -33,7 +33,7 @@ void measureZooming(Bench& bench) {
             const std::size_t before = bench.meter.paints();
             bench.meter.start();
             bench.hand.perform({act});
-            // Where the knob does not move there is nothing to show.
+            // A step that does not move the knob paints nothing.
             const QDeadlineTimer deadline(50);
             while (bench.meter.paints() == before && !deadline.hasExpired())
                 QCoreApplication::processEvents();

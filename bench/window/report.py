@@ -95,7 +95,7 @@ def add_editing(results, table):
         few = results.one(row=row, strokes=100)
         spread = results.one(row=row, spread="as dense as 100")
         dense = results.one(row=row, strokes=100000, spread="on 1280 × 720")
-        # Where events wait for each other, the median is not what one of them costs.
+        # If events queue up, the median includes waiting, so the mean is used.
         cost = "processMean" if row == "drag" else "process"
         add_ratio(table, f"{title} among 100,000, process", few[cost], spread[cost], 1.5,
                   "among 100 as dense")

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-/// The desktop as a document sees it; everything is remembered.
+/// Fakes of the desktop's services, which record all calls.
 struct Desktop {
     Services services() {
         return {.filePanels = &panels,
@@ -37,13 +37,13 @@ struct Desktop {
     WorkQueue flushQueue;
 };
 
-/// Opens the file in the document as a user does.
+/// Opens the file in the document by the open panel.
 void open(Desktop& desktop, DrawingDocument* document, const fs::path& file) {
     openDocument(desktop.services(), [document] { return document; });
     desktop.panels.answer(file);
 }
 
-/// A picture with something in every field that a file holds.
+/// A picture with a value other than the default in all fields of a file.
 void fill(DrawingDocument& document) {
     document.canvasSize = {800.5, -3};
     document.backgroundColor = {0.1, 2, -1, 0.4};
@@ -166,7 +166,7 @@ TEST(OpeningDocuments, replacesThePictureInAFixedOrderAndKeepsTheTools) {
     EXPECT_TRUE(*document.selectedLayerID);
 }
 
-TEST(OpeningDocuments, actsOnWhoIsFrontmostAtConfirmation) {
+TEST(OpeningDocuments, actsOnTheDocumentThatIsFrontmostAtConfirmation) {
     Desktop desktop;
     DrawingDocument first(desktop.services());
     first.writeDocument(desktop.folder / "a.marlevo");
@@ -211,7 +211,7 @@ TEST(OpeningDocuments, aFileThatCannotBeReadIsOneLineAndChangesNothing) {
     EXPECT_FALSE(*document.currentFileURL);
 }
 
-TEST(AutoSaving, writesEveryThirtySecondsWhenThereIsAFileAndTheUserWantsIt) {
+TEST(AutoSaving, writesEveryThirtySecondsIfThereIsAFileAndTheSettingIsOn) {
     using std::chrono::seconds;
     Desktop desktop;
     DrawingDocument document(desktop.services());

@@ -55,7 +55,7 @@ const std::string sample = R"({
 }
 )";
 
-/// The sample with the first `from` replaced.
+/// The sample with the first `from` replaced by `to`.
 std::string sampleWith(std::string_view from, std::string_view to) {
     std::string text = sample;
     const std::size_t at = text.find(from);
@@ -92,7 +92,7 @@ TEST(DocumentReader, readsEveryField) {
     EXPECT_TRUE(document->layers[1].strokes.empty());
 }
 
-TEST(DocumentReader, acceptsWhatSaysTheSameOtherwise) {
+TEST(DocumentReader, acceptsOtherTextsOfTheSameDocument) {
     const std::pair<const char*, std::string> cases[] = {
         {"whole number with a fraction", sampleWith("1,", "1.0,")},
         {"whole number with an exponent", sampleWith("1,", "10e-1,")},
@@ -123,7 +123,7 @@ TEST(DocumentReader, acceptsWhatSaysTheSameOtherwise) {
     }
 }
 
-TEST(DocumentReader, doesNotJudgeValues) {
+TEST(DocumentReader, acceptsAllValuesOfTheRightType) {
     EXPECT_EQ(read(sampleWith("1,", "7,"))->version, 7);
     EXPECT_EQ(read(sampleWith("1,", "-9223372036854775808,"))->version,
               std::numeric_limits<std::int64_t>::min());
@@ -198,7 +198,7 @@ TEST(DocumentReader, readsNumbersOfAnyLengthLikeTheStandardLibrary) {
     }
 }
 
-TEST(DocumentReader, namesTheValueThatIsWrong) {
+TEST(DocumentReader, reportsTheKeyPathOfAWrongValue) {
     const std::tuple<std::string, std::string, std::string> cases[] = {
         {"1280", "\"1280\"", "canvasWidth: a number was expected"},
         {"1280", "null", "canvasWidth: a number was expected"},
@@ -227,7 +227,7 @@ TEST(DocumentReader, namesTheValueThatIsWrong) {
     EXPECT_EQ(errorOf("12"), "an object was expected");
 }
 
-TEST(DocumentReader, namesThePlaceWhereTheTextIsBroken) {
+TEST(DocumentReader, reportsLineAndColumnOfMalformedText) {
     const std::tuple<std::string, std::string, std::string> cases[] = {
         {"1280", "01280", "line 3, column 20: ',' or '}' was expected"},
         {"1280", "+1280", "canvasWidth: line 3, column 19: a value was expected"},
@@ -272,8 +272,8 @@ TEST(DocumentReader, namesThePlaceWhereTheTextIsBroken) {
     EXPECT_EQ(errorOf("\"abc"), "line 1, column 5: the text ends within a string");
 }
 
-TEST(DocumentReader, readsLongTextsAsItReadsShortOnes) {
-    // Long enough to be read by two threads.
+TEST(DocumentReader, readsLongTextsLikeShortOnes) {
+    // Long enough for two threads.
     constexpr std::size_t copies = 10'000;
     const std::size_t from = sample.find("        {\n");
     const std::string stroke = sample.substr(from, sample.find("\n      ]") - from);
@@ -311,7 +311,7 @@ TEST(DocumentReader, readsLongTextsAsItReadsShortOnes) {
     EXPECT_EQ(errorOf(textWith("{},")),
               "layers[0].strokes[10000]: line 120005, column 7: a value was expected");
     EXPECT_EQ(errorOf(textWith("17")), "layers[0].strokes[9999]: an object was expected");
-    // Of a key that comes twice the last value counts, also when the first one is wrong.
+    // The last value of a repeated key counts, even if the first one is wrong.
     EXPECT_EQ(errorOf(textWith(changed("\"isFill\"", "\"isFill\" : 1, \"isFill\""))), "accepted");
 }
 

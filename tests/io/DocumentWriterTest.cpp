@@ -17,7 +17,7 @@ std::string textOf(const DocumentData& document) {
     return text ? text->joined() : "error: " + text.error().text;
 }
 
-/// Documents of every shape, with numbers of every kind of bit pattern.
+/// Random documents, with numbers of all kinds of bit patterns.
 class RandomDocument {
 public:
     explicit RandomDocument(unsigned seed) : random_(seed) {}
@@ -101,7 +101,7 @@ private:
     std::mt19937_64 random_;
 };
 
-TEST(DocumentWriter, writesTheFileAsPeopleKnowIt) {
+TEST(DocumentWriter, writesTheDocumentedText) {
     DocumentData document;
     document.canvasWidth = 1280;
     document.canvasHeight = 0.1;
@@ -172,13 +172,13 @@ TEST(DocumentWriter, writesTheFileAsPeopleKnowIt) {
 
 TEST(DocumentWriter, randomDocumentsComeBackBitForBit) {
     for (unsigned seed = 0; seed < 60; ++seed) {
-        // Every tenth is long enough for two threads to share the work.
+        // Every tenth is long enough for two threads.
         const DocumentData document = RandomDocument(seed).make(seed % 10 == 0 ? 3000 : 8);
         const std::string text = textOf(document);
         const auto copy = readDocumentData(PaddedBytes(text));
         ASSERT_TRUE(copy) << seed << ": " << copy.error().text;
         EXPECT_TRUE(*copy == document) << seed;
-        EXPECT_EQ(textOf(*copy), text) << seed;  // tells −0 from 0, which == does not
+        EXPECT_EQ(textOf(*copy), text) << seed;  // distinguishes −0 from 0, unlike ==
     }
 }
 

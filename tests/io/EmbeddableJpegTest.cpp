@@ -27,7 +27,7 @@ void appendText(std::vector<std::uint8_t>& bytes, std::string_view text) {
         bytes.push_back(static_cast<std::uint8_t>(character));
 }
 
-/// A curve x^gamma, as profiles hold it.
+/// A curve x^gamma in the form of a profile.
 std::vector<std::uint8_t> gammaCurve(double gamma) {
     std::vector<std::uint8_t> curve;
     appendText(curve, std::string_view("curv\0\0\0\0\0\0\0\1", 12));
@@ -35,7 +35,7 @@ std::vector<std::uint8_t> gammaCurve(double gamma) {
     return curve;
 }
 
-/// The curve of sRGB, with its straight piece near black.
+/// The curve of sRGB, with its straight part near black.
 std::vector<std::uint8_t> sRGBCurve() {
     std::vector<std::uint8_t> curve;
     appendText(curve, std::string_view("para\0\0\0\0\0\3\0\0", 12));
@@ -83,10 +83,10 @@ std::vector<std::uint8_t> withByte(std::size_t at, std::uint8_t value) {
     return file;
 }
 
-// Where the small file's frame header lies: marker, length, precision, height, width, components.
+// Offset of the small file's frame header: marker, length, precision, height, width, components.
 constexpr std::size_t frame = 158;
 
-TEST(EmbeddableJpeg, KnowsSizeAndOrientation) {
+TEST(EmbeddableJpeg, ReadsSizeAndOrientation) {
     const auto plain = EmbeddableJpeg::recognise(smallJpeg);
     ASSERT_TRUE(plain);
     EXPECT_EQ(plain->width, 32);
@@ -120,7 +120,7 @@ TEST(EmbeddableJpeg, RefusesProfilesOtherThanSRGB) {
 TEST(EmbeddableJpeg, RefusesFilesCutShortAnywhere) {
     for (const auto& file : {jpegWithOrientation(6), jpegWithProfile(sRGB, sRGBCurve())}) {
         for (std::size_t size = 0; size < file.size(); ++size) {
-            // A copy, so that a read beyond its end is seen by the sanitizer.
+            // A copy, so that the address sanitizer reports reads beyond its end.
             const std::vector<std::uint8_t> cut(file.begin(), file.begin() + size);
             EXPECT_FALSE(EmbeddableJpeg::recognise(cut)) << size;
         }

@@ -78,7 +78,7 @@ TEST_F(Exchange, ExportThatFailsLeavesEverythingAsItWas) {
     EXPECT_EQ(textOf(file), "old");
 }
 
-TEST_F(Exchange, PrintsAfterTheCurrentEventThePictureOfItsBeginning) {
+TEST_F(Exchange, PrintsThePictureOfTheCallAfterTheCurrentEvent) {
     const auto picture = document->renderCGImage();
     document->printDocument();
     document->currentFileURL = folder / "My drawing.marlevo";

@@ -14,7 +14,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Records each call as "<name> <first byte>+<length>" before it passes it on or fails as told.
+/// Records each call as "<name> <first byte>+<length>", then makes it, or fails if set so.
 class RecordedCalls : public FileCalls {
 public:
     int fallocate(int file, int mode, off_t begin, off_t length) const override {
@@ -78,7 +78,7 @@ protected:
     RecordedCalls calls;
 };
 
-TEST_F(FileReplacing, WritesWhatLiesBehindTheOldEndFirst) {
+TEST_F(FileReplacing, WritesThePartBehindTheOldEndFirst) {
     EXPECT_FALSE(write("abcdefghij"));
     EXPECT_THAT(calls.lines,
                 ElementsAre("reserve 0+10", "unshare 0+6", "write 6+4", "write 0+2", "write 2+4"));

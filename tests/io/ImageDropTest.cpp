@@ -40,7 +40,7 @@ protected:
     std::vector<ItemProvider::Completion> loads;
 };
 
-TEST_F(ImageDropTest, EveryImageBecomesALayerAndAnUndoStepInTheOrderOfArrival) {
+TEST_F(ImageDropTest, EachImageBecomesALayerAndAnUndoStepInTheOrderOfLoading) {
     ASSERT_TRUE(dropItems({true, false, true, true}));
     EXPECT_FALSE(loads[1]);
     loads[2](std::vector<std::uint8_t>());  // an empty file is a file

@@ -52,7 +52,7 @@ TEST(NumberText, writesTheShortestPlainText) {
         {5e-324, "5e-324"},
         {1e22, "1e+22"},
         {123456789012345678901.0, "123456789012345683968"},
-        // Halfway between two shortest texts: the even one.
+        // Halfway between two shortest texts: the one with the even last digit.
         {1125899906842624.25, "1125899906842624.2"},
         {1125899906842624.75, "1125899906842624.8"},
         {std::numeric_limits<double>::max(), "1.7976931348623157e+308"},

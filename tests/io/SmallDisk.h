@@ -9,7 +9,7 @@
 
 namespace marlevo {
 
-/// A file system in memory, if this process may mount one.
+/// A file system in memory. Not mounted if this process has no right to mount.
 class SmallDisk {
 public:
     static constexpr const char* oneMebibyte = "tmpfs";
@@ -36,7 +36,7 @@ private:
     bool isMounted_;
 };
 
-/// No file of this process may grow beyond the size.
+/// Limits the size of the files that this process writes.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t size) {

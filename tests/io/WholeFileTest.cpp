@@ -17,7 +17,7 @@ using testing::HasSubstr;
 
 const std::string oldText = "the old contents, a little longer than the new";
 
-/// The error's text, or nothing when the file was written.
+/// The error's text, empty if the file was written.
 std::string errorOfWriting(const fs::path& file, std::string_view text) {
     const std::string_view pieces[] = {text.substr(0, text.size() / 3), "",
                                        text.substr(text.size() / 3)};
@@ -67,7 +67,7 @@ TEST(WriteWholeFile, keepsLinksOwnerAndPermissionsOfTheFile) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 3);
 }
 
-TEST(WriteWholeFile, createsWhatALinkPointsTo) {
+TEST(WriteWholeFile, createsTheMissingTargetOfALink) {
     const TemporaryFolder folder;
     fs::create_directory(folder / "sub");
     fs::create_symlink("sub/second", folder / "first");
@@ -149,7 +149,7 @@ TEST(WriteWholeFile, refusesAFolderThatForbidsIt) {
     fs::permissions(folder.path(), fs::perms::owner_all);
 }
 
-TEST(WholeFile, refusesAtOnceWhatIsNoRegularFile) {
+TEST(WholeFile, refusesFoldersPipesAndDevicesAtOnce) {
     const TemporaryFolder folder;
     const fs::path pipe = folder / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -173,7 +173,7 @@ TEST(ReadWholeFile, reportsAFileTooLargeForMemory) {
     writeText(folder / "huge", "");
     std::error_code error;
     fs::resize_file(folder / "huge", std::uintmax_t{1} << 43, error);
-    if (error) GTEST_SKIP() << "the file system knows no sparse files of this size";
+    if (error) GTEST_SKIP() << "the file system has no sparse files of this size";
     EXPECT_THAT(errorOfReading(folder / "huge"), EndsWith("Cannot allocate memory"));
 }
 
@@ -186,7 +186,7 @@ TEST(FlushBehind, flushesInOrderBeforeTheQueueEnds) {
         const std::string_view piece = "new";
         auto good = writeWholeFile(folder / "good", std::span(&piece, 1));
         flushBehind(&queue, std::move(*good), report);
-        // What cannot be flushed: the end of a pipe.
+        // The end of a pipe cannot be flushed.
         int ends[2];
         ASSERT_EQ(::pipe(ends), 0);
         const FileDescriptor other(ends[1]);

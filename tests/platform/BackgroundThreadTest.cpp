@@ -18,7 +18,7 @@ TEST(BackgroundThread, EndsWithTheWorkThatHasBegunAndDropsTheRest) {
                 ++ended;
             });
     }
-    // Without a race: the queue's thread has been joined.
+    // Not a race: the queue's thread has been joined.
     EXPECT_LT(ended, posted);
 }
 

@@ -15,7 +15,7 @@ TEST(Preferences, startWithTheirInitialValuesAndTakeAnyOther) {
     EXPECT_EQ(preferences.get(preference::defaultCanvasWidth), 1280);
 }
 
-TEST(Preferences, observersHearOfChangesUntilTheyGo) {
+TEST(Preferences, callObserversAfterChangesUntilTheyAreRemoved) {
     std::vector<double> heard;
     Preferences::Observation late;
     Preferences::Observation second;
@@ -24,7 +24,7 @@ TEST(Preferences, observersHearOfChangesUntilTheyGo) {
         const auto hear = [&] { heard.push_back(preferences.get(preference::defaultCanvasWidth)); };
         const auto first = preferences.observe([&] {
             hear();
-            second.reset();  // who goes meanwhile is not told
+            second.reset();  // an observer that is removed meanwhile is not called
             if (!late) late = preferences.observe(hear);
         });
         second = preferences.observe(hear);

@@ -23,8 +23,8 @@ TEST(ThreadPool, RunsPiecesAtTheSameTime) {
     EXPECT_TRUE(metOther[0] && metOther[1]);
 }
 
-/// Many threads for few pieces: most of them wake up when the round has ended, or when the next one
-/// has begun with other work in the same place.
+/// Many threads for few pieces: most of them wake up after the end of the round, or when the next
+/// one has begun with other work at the same address.
 TEST(ThreadPool, TouchesNothingOfARoundThatHasEnded) {
     ThreadPool pool(16);
     for (std::size_t round = 0; round < 1000; ++round) {
