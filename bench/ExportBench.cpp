@@ -2,6 +2,7 @@
 // called with nothing around it. And how its size compares with the numbers that the drawing is
 // made of.
 
+#include "io/RenderPdf.h"
 #include "model/DrawingDocument.h"
 
 #include <cairo-pdf.h>
@@ -17,7 +18,7 @@ namespace {
 
 using namespace marlevo;
 
-constexpr int strokeCount = 10000;
+constexpr int strokesOnPage = 10000;
 constexpr int pointsPerStroke = 100;
 constexpr Size page{1280, 720};
 
@@ -31,7 +32,7 @@ double processorSeconds() {
 std::vector<Stroke> drawing() {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> unit(0, 1);
-    std::vector<Stroke> strokes(strokeCount);
+    std::vector<Stroke> strokes(strokesOnPage);
     for (Stroke& stroke : strokes) {
         std::vector<Point> points{{unit(random) * page.width, unit(random) * page.height}};
         double direction = unit(random) * 6.28;
@@ -114,9 +115,9 @@ int main() {
     document.ensureLayers();
     document.layers.modify([&](LayerList& layers) { layers[0].strokes = StrokeList(strokes); });
 
-    std::printf("%d strokes of %d points as one PDF page, processor time and size\n", strokeCount,
+    std::printf("%d strokes of %d points as one PDF page, processor time and size\n", strokesOnPage,
                 pointsPerStroke);
-    report("ours", [&] { return document.renderPDFData().value().size(); });
+    report("ours", [&] { return renderPDFData(document).value().size(); });
     report("cairo", [&] { return exportByCairo(strokes); });
     std::printf("%-8s %21.1f MB\n", "points", static_cast<double>(digitsOf(strokes)) / 1e6);
 }

@@ -2,6 +2,7 @@
 // operations on plain vectors of strokes.
 
 #include "model/DrawingDocument.h"
+#include "tools/StrokeCapture.h"
 
 #include <cstdio>
 #include <ctime>
@@ -71,10 +72,10 @@ struct PlainDocument {
 
 struct SharingDocument {
     void draw(const std::vector<Point>& points) {
-        doc.beginStroke(points.front());
+        beginStroke(doc, points.front());
         for (std::size_t i = 1; i < points.size(); ++i)
-            doc.addPointToStroke(points[i]);
-        doc.endStroke();
+            addPointToStroke(doc, points[i]);
+        endStroke(doc);
     }
     void undo() { doc.undo(); }
     void redo() { doc.redo(); }

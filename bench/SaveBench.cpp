@@ -2,7 +2,9 @@
 // Without the flush to the disk, which another thread does.
 
 #include "io/DocumentData.h"
+#include "io/DocumentRecords.h"
 #include "io/DocumentWriter.h"
+#include "io/Save.h"
 #include "model/DrawingDocument.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -34,7 +36,7 @@ void saveIntoTheSameFile(benchmark::State& state) {
     DrawingDocument document;
     draw(document, state.range(0));
     for (auto _ : state)
-        document.writeDocument(folder / "drawing.marlevo");
+        writeDocument(document, folder / "drawing.marlevo");
     state.SetBytesProcessed(static_cast<std::int64_t>(
         state.iterations() * std::filesystem::file_size(folder / "drawing.marlevo")));
 }
@@ -43,7 +45,7 @@ void encodeOnly(benchmark::State& state) {
     DrawingDocument document;
     draw(document, state.range(0));
     for (auto _ : state)
-        benchmark::DoNotOptimize(writeDocumentData(document.encodeDocumentData()));
+        benchmark::DoNotOptimize(writeDocumentData(encodeDocumentData(document)));
 }
 
 BENCHMARK(saveIntoTheSameFile)

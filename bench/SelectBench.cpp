@@ -1,6 +1,7 @@
 // Selecting and moving one stroke among few and among many.
 
 #include "model/DrawingDocument.h"
+#include "tools/Selection.h"
 
 #include <algorithm>
 #include <chrono>
@@ -53,17 +54,19 @@ void measure(int count) {
     constexpr int clicks = 500;
     for (int i = 0; i < clicks; ++i) {
         const Point p{x(random), y(random)};
-        const double took = microseconds(1, [&](int) { document.selectStroke(p); });
+        const double took = microseconds(1, [&](int) { selectStroke(document, p); });
         slowest = std::max(slowest, took);
         sum += took;
     }
-    const double miss = microseconds(100, [&](int) { document.selectStroke({-500, -500}); });
+    const double miss = microseconds(100, [&](int) { selectStroke(document, {-500, -500}); });
 
     document.selectedLayerID = document.layers->front().id;
     document.selectedStrokeIndex = count / 2;
-    document.beginSelectDrag();
-    const double move = microseconds(2000, [&](int i) { document.updateSelectDrag({i * 0.5, 1}); });
-    document.endSelectDrag();
+    beginSelectDrag(document);
+    const double move = microseconds(2000, [&](int i) {
+        updateSelectDrag(document, {i * 0.5, 1});
+    });
+    endSelectDrag(document);
     std::printf("%8d strokes  hit test %8.1f µs (slowest %8.1f, miss %6.1f)  move %6.2f µs\n",
                 count, sum / clicks, slowest, miss, move);
 }

@@ -1,6 +1,6 @@
 #include "pictures/Landscape.h"
 
-#include "ui/ToolChoice.h"
+#include "tools/ToolChoice.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,6 +3,7 @@
 #include "bench/window/Bench.h"
 #include "bench/window/RealWindow.h"
 #include "bench/window/Scene.h"
+#include "tools/StrokeCapture.h"
 
 #include <algorithm>
 
@@ -47,7 +48,7 @@ void measureLongStroke(Bench& bench) {
             bench.hand.perform(press);
             const auto add = [&](std::size_t from, std::size_t to) {
                 for (std::size_t i = from; i < to; ++i)
-                    document.addPointToStroke(way[i]);
+                    addPointToStroke(document, way[i]);
             };
             const QJsonObject about{{"row", "long stroke"}, {"width", width}, {"opacity", opacity}};
             const std::size_t early = 100 - std::min<std::size_t>(100, measured / 2);

@@ -4,6 +4,7 @@
 #include "bench/window/ProcessMemory.h"
 #include "bench/window/RealWindow.h"
 #include "bench/window/Scene.h"
+#include "tools/StrokeCapture.h"
 
 namespace marlevo {
 
@@ -19,10 +20,10 @@ void measureMemory(Bench& bench) {
     Random random(1);
     for (std::size_t i = 0; i < strokes; ++i) {
         const std::vector<Point> way = scribble(random, points, canvas);
-        document.beginStroke(way.front());
+        beginStroke(document, way.front());
         for (std::size_t j = 1; j < points; ++j)
-            document.addPointToStroke(way[j]);
-        document.endStroke();
+            addPointToStroke(document, way[j]);
+        endStroke(document);
     }
     Meter::settle();
     bench.report({{"row", "memory"},

@@ -4,6 +4,7 @@
 #include "bench/window/Bench.h"
 #include "bench/window/RealWindow.h"
 #include "bench/window/Scene.h"
+#include "io/Save.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -55,7 +56,7 @@ void makeDocument(Bench& bench) {
     DrawingDocument document;
     document.canvasSize = canvas;
     document.layers = scribbles(100'000, canvas);
-    document.writeDocument(bench.arguments.value(0).toStdString());
+    writeDocument(document, bench.arguments.value(0).toStdString());
 }
 
 }  // namespace marlevo

@@ -1,5 +1,6 @@
 #include "io/AutoSave.h"
 
+#include "io/Save.h"
 #include "model/DrawingDocument.h"
 #include "platform/Preferences.h"
 
@@ -17,7 +18,7 @@ void AutoSave::sleep() {
 void AutoSave::runCycle() {
     const bool isEnabled = document_.services().preferences->get(preference::autoSaveEnabled);
     const std::optional<std::filesystem::path> file = document_.currentFileURL;
-    if (isEnabled && file) document_.writeDocument(*file);
+    if (isEnabled && file) writeDocument(document_, *file);
     sleep();
 }
 

@@ -1,3 +1,5 @@
+#include "io/DocumentRecords.h"
+
 #include "io/DocumentData.h"
 #include "model/DrawingDocument.h"
 
@@ -36,9 +38,7 @@ Layer decodeLayer(const LayerData& data) {
     return layer;
 }
 
-}  // namespace
-
-StrokeData DrawingDocument::encodeStroke(const Stroke& stroke) {
+StrokeData encodeStroke(const Stroke& stroke) {
     return {.points = stroke.points,
             .colorR = stroke.color.red,
             .colorG = stroke.color.green,
@@ -51,18 +51,20 @@ StrokeData DrawingDocument::encodeStroke(const Stroke& stroke) {
             .shapeType = std::string(rawValue(stroke.shapeType))};
 }
 
-DocumentData DrawingDocument::encodeDocumentData() const {
+}  // namespace
+
+DocumentData encodeDocumentData(const DrawingDocument& document) {
     DocumentData data{.version = 1,
-                      .canvasWidth = canvasSize->width,
-                      .canvasHeight = canvasSize->height,
-                      .bgColorR = backgroundColor->red,
-                      .bgColorG = backgroundColor->green,
-                      .bgColorB = backgroundColor->blue,
-                      .bgColorA = backgroundColor->alpha,
-                      .bgTransparent = backgroundIsTransparent,
+                      .canvasWidth = document.canvasSize->width,
+                      .canvasHeight = document.canvasSize->height,
+                      .bgColorR = document.backgroundColor->red,
+                      .bgColorG = document.backgroundColor->green,
+                      .bgColorB = document.backgroundColor->blue,
+                      .bgColorA = document.backgroundColor->alpha,
+                      .bgTransparent = document.backgroundIsTransparent,
                       .layers = {}};
-    data.layers.reserve(layers->size());
-    for (const Layer& layer : *layers) {
+    data.layers.reserve(document.layers->size());
+    for (const Layer& layer : *document.layers) {
         LayerData& layerData = data.layers.emplace_back();
         layerData.name = layer.name;
         layerData.isVisible = layer.isVisible;
@@ -74,20 +76,17 @@ DocumentData DrawingDocument::encodeDocumentData() const {
     return data;
 }
 
-void DrawingDocument::applyDocumentData(const DocumentData& data) {
-    // Readers are told of each assignment: the order is part of what they may rely on.
-    canvasSize = {data.canvasWidth, data.canvasHeight};
-    backgroundColor = {data.bgColorR, data.bgColorG, data.bgColorB, data.bgColorA};
-    backgroundIsTransparent = data.bgTransparent;
+void applyDocumentData(DrawingDocument& document, const DocumentData& data) {
+    // Each assignment publishes. Readers may rely on the order.
+    document.canvasSize = {data.canvasWidth, data.canvasHeight};
+    document.backgroundColor = {data.bgColorR, data.bgColorG, data.bgColorB, data.bgColorA};
+    document.backgroundIsTransparent = data.bgTransparent;
     LayerList loaded;
     std::ranges::transform(data.layers, std::back_inserter(loaded), decodeLayer);
-    layers = std::move(loaded);
-    activeLayerIndex = 0;
-    zoom = 1.0;
-    undoStack = {};
-    redoStack = {};
-    currentStroke = std::nullopt;
-    layerThumbnails = {};
+    document.layers = std::move(loaded);
+    document.activeLayerIndex = 0;
+    document.zoom = 1.0;
+    document.startNewHistory();
 }
 
 }  // namespace marlevo

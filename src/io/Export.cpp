@@ -1,8 +1,15 @@
+#include "io/Export.h"
+
 #include "io/FileTypes.h"
+#include "io/RenderPdf.h"
 #include "io/WriteFile.h"
 #include "model/DrawingDocument.h"
 #include "platform/FilePanels.h"
 #include "platform/ImageCodec.h"
+#include "platform/MainQueue.h"
+#include "platform/Pasteboard.h"
+#include "platform/Printer.h"
+#include "render/RasterCompositing.h"
 
 #include <cstdint>
 #include <string>
@@ -33,10 +40,10 @@ std::optional<ImageCodec::Format> rasterFormat(ExportFormat format) {
 std::optional<std::vector<std::uint8_t>> encodedPicture(const DrawingDocument& document,
                                                         ExportFormat format) {
     const auto raster = rasterFormat(format);
-    if (!raster) return document.renderPDFData();
+    if (!raster) return renderPDFData(document);
     const ImageCodec* codec = document.services().imageCodec;
     if (codec == nullptr) return std::nullopt;
-    const auto image = document.renderCGImage();
+    const auto image = renderCGImage(document);
     return image ? codec->encode(*image, *raster) : std::nullopt;
 }
 
@@ -47,29 +54,56 @@ std::string wholeNumber(double value) {
     return std::to_string(fits ? static_cast<std::int64_t>(value) : 0);
 }
 
+std::string jobTitle(const std::optional<std::filesystem::path>& file) {
+    return file ? file->filename().string() : "Marlevo";
+}
+
 }  // namespace
 
-std::string DrawingDocument::proposedPictureName(ExportFormat format) const {
-    return services_.translate("Files", "Drawing-") + wholeNumber(canvasSize->width) + "x" +
-           wholeNumber(canvasSize->height) + "." + fileType(format, services_).extensions.front();
+std::string proposedPictureName(const DrawingDocument& document, ExportFormat format) {
+    const Services& services = document.services();
+    const CanvasSize canvas = document.canvasSize;
+    return services.translate("Files", "Drawing-") + wholeNumber(canvas.width) + "x" +
+           wholeNumber(canvas.height) + "." + fileType(format, services).extensions.front();
 }
 
-void DrawingDocument::exportTo(const std::filesystem::path& file, ExportFormat format) {
-    const auto bytes = encodedPicture(*this, format);
+void exportTo(const DrawingDocument& document, const std::filesystem::path& file,
+              ExportFormat format) {
+    const auto bytes = encodedPicture(document, format);
     if (!bytes) return;
     auto written = writeWholeFile(file, *bytes);
-    if (written) flushBehind(services_.flushQueue, std::move(*written), [](const Failure&) {});
+    if (written)
+        flushBehind(document.services().flushQueue, std::move(*written), [](const Failure&) {});
 }
 
-void DrawingDocument::performExport(ExportFormat format) {
-    if (services_.filePanels == nullptr) return;
-    const FileType type = fileType(format, services_);
-    services_.filePanels->showSavePanel(
-        {services_.translate("Files", "Export Drawing"), type, proposedPictureName(format),
-         std::nullopt},
-        [this, format](const std::optional<std::filesystem::path>& file) {
-            if (file) exportTo(*file, format);
+void performExport(DrawingDocument& document, ExportFormat format) {
+    const Services& services = document.services();
+    if (services.filePanels == nullptr) return;
+    services.filePanels->showSavePanel(
+        {services.translate("Files", "Export Drawing"), fileType(format, services),
+         proposedPictureName(document, format), std::nullopt},
+        [&document, format](const std::optional<std::filesystem::path>& file) {
+            if (file) exportTo(document, *file, format);
         });
+}
+
+void printDocument(const DrawingDocument& document) {
+    const Services& services = document.services();
+    if (services.printer == nullptr || services.mainQueue == nullptr) return;
+    auto picture = renderCGImage(document);
+    if (!picture) return;
+    const CanvasSize canvas = document.canvasSize;
+    // By value: the document may be destroyed before the queue runs this.
+    services.mainQueue->post(
+        [printer = services.printer, picture = *std::move(picture),
+         size = Size{canvas.width, canvas.height},
+         title = jobTitle(document.currentFileURL)] { printer->print(picture, size, title); });
+}
+
+void copyToClipboard(const DrawingDocument& document) {
+    Pasteboard* const pasteboard = document.services().pasteboard;
+    if (pasteboard == nullptr) return;
+    if (const auto picture = renderCGImage(document)) pasteboard->setImage(*picture);
 }
 
 }  // namespace marlevo

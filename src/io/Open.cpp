@@ -1,6 +1,7 @@
 #include "io/Open.h"
 
 #include "io/DocumentReader.h"
+#include "io/DocumentRecords.h"
 #include "io/FileDescriptor.h"
 #include "io/FileTypes.h"
 #include "io/ReadFile.h"
@@ -38,7 +39,7 @@ std::optional<DocumentData> loadDrawing(const std::filesystem::path& file, Conso
 
 void replacePicture(DrawingDocument& document, const DocumentData& drawing,
                     const std::filesystem::path& file) {
-    document.applyDocumentData(drawing);
+    applyDocumentData(document, drawing);
     document.currentFileURL = file;
 }
 

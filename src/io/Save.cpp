@@ -1,3 +1,6 @@
+#include "io/Save.h"
+
+#include "io/DocumentRecords.h"
 #include "io/DocumentWriter.h"
 #include "io/FileTypes.h"
 #include "io/WriteFile.h"
@@ -18,7 +21,7 @@ void reportFailedSave(Console* console, std::string_view reason) {
 
 Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesystem::path& file) {
     try {
-        return writeDocumentData(document.encodeDocumentData());
+        return writeDocumentData(encodeDocumentData(document));
     } catch (const std::bad_alloc&) {
         return Unexpected(outOfMemoryFailure(file));
     }
@@ -26,39 +29,41 @@ Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesy
 
 }  // namespace
 
-void DrawingDocument::writeDocument(const std::filesystem::path& to) {
+void writeDocument(DrawingDocument& document, const std::filesystem::path& to) {
+    const Services& services = document.services();
     // The whole text before the file is touched.
-    const auto text = encodeFile(*this, to);
-    if (!text) return reportFailedSave(services_.console, text.error().text);
+    const auto text = encodeFile(document, to);
+    if (!text) return reportFailedSave(services.console, text.error().text);
     auto written = writeWholeFile(to, text->pieces());
-    if (!written) return reportFailedSave(services_.console, written.error().text);
+    if (!written) return reportFailedSave(services.console, written.error().text);
 
-    flushBehind(services_.flushQueue, std::move(*written),
-                [console = services_.console](const Failure& failure) {
+    flushBehind(services.flushQueue, std::move(*written),
+                [console = services.console](const Failure& failure) {
                     reportFailedSave(console, failure.text);
                 });
-    currentFileURL = to;
+    document.currentFileURL = to;
 }
 
-void DrawingDocument::save() {
-    if (const std::optional<std::filesystem::path> file = currentFileURL)
-        writeDocument(*file);
+void save(DrawingDocument& document) {
+    if (const std::optional<std::filesystem::path> file = document.currentFileURL)
+        writeDocument(document, *file);
     else
-        saveAs();
+        saveAs(document);
 }
 
-void DrawingDocument::saveAs() {
-    if (services_.filePanels == nullptr) return;
-    SavePanelRequest request{services_.translate("Files", "Save Drawing"),
-                             documentFileType(services_), "Untitled.marlevo", std::nullopt};
-    if (const std::optional<std::filesystem::path>& file = currentFileURL) {
+void saveAs(DrawingDocument& document) {
+    const Services& services = document.services();
+    if (services.filePanels == nullptr) return;
+    SavePanelRequest request{services.translate("Files", "Save Drawing"),
+                             documentFileType(services), "Untitled.marlevo", std::nullopt};
+    if (const std::optional<std::filesystem::path>& file = document.currentFileURL) {
         request.proposedName = file->filename().string();
         request.folder = file->parent_path();
     }
-    services_.filePanels->showSavePanel(request,
-                                        [this](const std::optional<std::filesystem::path>& file) {
-                                            if (file) writeDocument(*file);
-                                        });
+    services.filePanels->showSavePanel(
+        request, [&document](const std::optional<std::filesystem::path>& file) {
+            if (file) writeDocument(document, *file);
+        });
 }
 
 }  // namespace marlevo

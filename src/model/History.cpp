@@ -10,6 +10,13 @@ void DrawingDocument::saveState() {
     layerThumbnails = {};
 }
 
+void DrawingDocument::startNewHistory() {
+    undoStack = {};
+    redoStack = {};
+    currentStroke = std::nullopt;
+    layerThumbnails = {};
+}
+
 void DrawingDocument::undo() { stepHistory(undoStack, redoStack); }
 
 void DrawingDocument::redo() { stepHistory(redoStack, undoStack); }

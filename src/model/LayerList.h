@@ -117,4 +117,12 @@ inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
     return index >= 0 && index < std::ssize(layers);
 }
 
+/// The number of strokes in all layers, hidden ones too.
+inline std::size_t strokeCount(const LayerList& layers) {
+    std::size_t count = 0;
+    for (const Layer& layer : layers)
+        count += layer.strokes.size();
+    return count;
+}
+
 }  // namespace marlevo

@@ -1,6 +1,9 @@
+#include "model/LayerOperations.h"
+
 #include "model/DrawingDocument.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 namespace marlevo {
@@ -58,6 +61,20 @@ void DrawingDocument::clearSelection() {
 
 void DrawingDocument::clampActiveLayerIndex() {
     activeLayerIndex = std::min<std::int64_t>(*activeLayerIndex, std::ssize(*layers) - 1);
+}
+
+void deleteActiveLayer(DrawingDocument& document) {
+    if (std::ssize(*document.layers) > 1) document.deleteLayer(document.activeLayerIndex);
+}
+
+void moveActiveLayerUp(DrawingDocument& document) {
+    const std::int64_t index = document.activeLayerIndex;
+    if (index < std::ssize(*document.layers) - 1) document.moveLayer(index, index + 1);
+}
+
+void moveActiveLayerDown(DrawingDocument& document) {
+    const std::int64_t index = document.activeLayerIndex;
+    if (index > 0) document.moveLayer(index, index - 1);
 }
 
 }  // namespace marlevo

@@ -1,8 +1,8 @@
 #include "render/LayerPainting.h"
 
 #include "graphics/BitmapContext.h"
+#include "model/StrokeGeometry.h"
 #include "render/MakeRaster.h"
-#include "render/StrokeGeometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -44,6 +44,12 @@ Path pathOfStroke(const Stroke& stroke, double height) {
 }
 
 }  // namespace
+
+void drawLayers(GraphicsContext& context, const LayerList& layers, CanvasSize canvas, double height,
+                const ImageDecoder& decode) {
+    for (const Layer& layer : layers)
+        if (layer.isVisible) drawLayer(context, layer, canvas, height, decode);
+}
 
 void drawLayer(GraphicsContext& context, const Layer& layer, CanvasSize canvas, double height,
                const ImageDecoder& decode) {

@@ -2,7 +2,7 @@
 
 #include "graphics/GraphicsContext.h"
 #include "model/CanvasSize.h"
-#include "model/Layer.h"
+#include "model/LayerList.h"
 
 #include <functional>
 #include <optional>
@@ -14,6 +14,10 @@ using ImageDecoder = std::function<std::optional<RasterImage>(const Bytes& file)
 
 // The painting steps, in a frame whose y grows upwards: canvas y = `height` lies at 0. They know no
 // document and may run on any thread that owns what they are given.
+
+/// Draws the visible layers from the lowest to the topmost.
+void drawLayers(GraphicsContext& context, const LayerList& layers, CanvasSize canvas, double height,
+                const ImageDecoder& decode);
 
 /// Draws the layer's image, then its strokes of at least two points; visible or not.
 void drawLayer(GraphicsContext& context, const Layer& layer, CanvasSize canvas, double height,

@@ -1,3 +1,5 @@
+#include "render/RasterCompositing.h"
+
 #include "graphics/BitmapContext.h"
 #include "model/DrawingDocument.h"
 #include "platform/ParallelFor.h"
@@ -28,22 +30,24 @@ std::vector<IntRect> bandsOf(const IntRect& picture) {
 
 }  // namespace
 
-std::optional<RasterImage> DrawingDocument::renderCGImage() const {
-    const auto size = RasterSize::truncating(canvasSize->width, canvasSize->height);
+std::optional<RasterImage> renderCGImage(const DrawingDocument& document) {
+    const CanvasSize canvas = document.canvasSize;
+    const auto size = RasterSize::truncating(canvas.width, canvas.height);
     if (!size) return std::nullopt;
     const double height = size->height;
     return makeRaster(*size, 0, [&](const PixelBuffer& picture) {
-        if (!backgroundIsTransparent) {
+        if (!document.backgroundIsTransparent) {
             const Rect whole{{0, 0}, {static_cast<double>(size->width), height}};
-            BitmapContext(picture, DeviceFrame::yUp(height)).fillRect(whole, backgroundColor);
+            BitmapContext(picture, DeviceFrame::yUp(height))
+                .fillRect(whole, document.backgroundColor);
         }
-        decodedImages_.decodeAhead(layers);
-        // Workers see values only, never the document.
-        const CanvasSize canvas = canvasSize;
-        const auto decode = [this](const Bytes& file) { return decodedImages_.image(file); };
+        DecodedImages& images = document.decodedImages();
+        images.decodeAhead(document.layers);
+        const auto decode = [&](const Bytes& file) { return images.image(file); };
         const std::vector<IntRect> bands = bandsOf(picture.area);
-        forEachRun(layers, decode, [&](const LayerRun& run) {
+        forEachRun(document.layers, decode, [&](const LayerRun& run) {
             const StrokesInSight strokes(run, picture.area, 1);
+            // The threads read values only, not the document.
             parallelFor(bands.size(), [&](std::size_t i) {
                 BitmapContext context(picture.part(bands[i]), DeviceFrame::yUp(height));
                 drawLayerImageIfPresent(context, *run.layers.front(), canvas, height,
@@ -56,22 +60,14 @@ std::optional<RasterImage> DrawingDocument::renderCGImage() const {
     });
 }
 
-std::optional<RasterImage> DrawingDocument::renderForFill() const {
-    // A transparent background leaves the zeroed bytes as they are: the very picture of an export.
-    return renderCGImage();
+std::optional<RasterImage> renderForFill(const DrawingDocument& document) {
+    return renderCGImage(document);
 }
 
-std::optional<RasterImage> DrawingDocument::renderSingleLayer(const Layer& layer, Size size) const {
-    return renderLayer(layer, canvasSize, size,
-                       [this](const Bytes& file) { return decodedImages_.image(file); });
-}
-
-void DrawingDocument::drawLayers(GraphicsContext& context, double height) const {
-    for (const Layer& layer : *layers) {
-        if (!layer.isVisible) continue;
-        drawLayer(context, layer, canvasSize, height,
-                  [this](const Bytes& file) { return decodedImages_.image(file); });
-    }
+std::optional<RasterImage> renderSingleLayer(const DrawingDocument& document, const Layer& layer,
+                                             Size size) {
+    return renderLayer(layer, document.canvasSize, size,
+                       [&](const Bytes& file) { return document.decodedImages().image(file); });
 }
 
 }  // namespace marlevo

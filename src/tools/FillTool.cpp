@@ -1,4 +1,7 @@
+#include "tools/FillTool.h"
+
 #include "model/DrawingDocument.h"
+#include "render/RasterCompositing.h"
 #include "tools/FloodFill.h"
 #include "tools/PixelAddress.h"
 #include "tools/TraceBoundary.h"
@@ -32,24 +35,25 @@ PointList canvasPoints(std::span<const GridPoint> vertices, int gridHeight) {
 
 }  // namespace
 
-void DrawingDocument::performFill(Point at) {
-    ensureLayers();
-    const auto image = renderForFill();
+void performFill(DrawingDocument& document, Point at) {
+    document.ensureLayers();
+    const auto image = renderForFill(document);
     if (!image) return;
     const auto seed = pixelAddress(at, *image);
     if (!seed) return;
     const Region region =
         floodFill(*image, {seed->column, image->height() - 1 - seed->row}, fillTolerance);
 
-    saveState();
+    document.saveState();
+    auto& layers = document.layers;
     Layer layer("Fill " + std::to_string(layers->size()));
     layers.modify([&](LayerList& all) { all.push_back(std::move(layer)); });
-    activeLayerIndex = static_cast<std::int64_t>(layers->size()) - 1;
+    document.activeLayerIndex = static_cast<std::int64_t>(layers->size()) - 1;
 
     Stroke shape{canvasPoints(shapeOf(region), image->height()),
-                 selectedColor,
+                 document.selectedColor,
                  0,
-                 brushOpacity,
+                 document.brushOpacity,
                  false,
                  true,
                  Stroke::ShapeType::freehand};

@@ -1,5 +1,10 @@
 #include "tools/PointerGesture.h"
 
+#include "tools/EyeDropper.h"
+#include "tools/FillTool.h"
+#include "tools/Selection.h"
+#include "tools/StrokeCapture.h"
+
 #include <utility>
 
 namespace marlevo {
@@ -21,7 +26,7 @@ void PointerGesture::move(const Sample& sample) {
     else if (std::holds_alternative<Selecting>(state_))
         startMove(sample);
     else if (std::holds_alternative<Moving>(state_))
-        document_.updateSelectDrag(sample.sincePress);
+        updateSelectDrag(document_, sample.sincePress);
 }
 
 void PointerGesture::end(Point at, Click click) {
@@ -35,17 +40,17 @@ void PointerGesture::interrupt() { finish(); }
 void PointerGesture::finish() {
     const auto ended = std::exchange(state_, Idle{});
     if (std::holds_alternative<Drawing>(ended))
-        document_.endStroke();
+        endStroke(document_);
     else if (std::holds_alternative<Moving>(ended))
-        document_.endSelectDrag();
+        endSelectDrag(document_);
 }
 
 /// The stroke may be absent in mid-press, because another drawing was opened.
 void PointerGesture::draw(Point at) {
     if (document_.currentStroke->has_value())
-        document_.addPointToStroke(at);
+        addPointToStroke(document_, at);
     else
-        document_.beginStroke(at);
+        beginStroke(document_, at);
 }
 
 /// A press beside every stroke may reach one later. With a stroke selected, it moves that one,
@@ -55,22 +60,22 @@ void PointerGesture::startMove(const Sample& sample) {
         state_ = Pressing{};
         return;
     }
-    if (!document_.selectedStrokeIndex->has_value()) document_.selectStroke(sample.at);
-    if (!document_.selectionDragStartPositions->has_value()) document_.beginSelectDrag();
+    if (!document_.selectedStrokeIndex->has_value()) selectStroke(document_, sample.at);
+    if (!document_.selectionDragStartPositions->has_value()) beginSelectDrag(document_);
     // Absent if nothing is selected, or if the selection names a stroke that is gone.
     if (!document_.selectionDragStartPositions->has_value()) return;
     state_ = Moving{};
-    document_.updateSelectDrag(sample.sincePress);
+    updateSelectDrag(document_, sample.sincePress);
 }
 
 /// The order differs from that of a press, which matters when several tool flags are set.
 void PointerGesture::click(Point at) {
     if (document_.isFillTool)
-        document_.performFill(at);
+        performFill(document_, at);
     else if (document_.isEyeDropper)
-        document_.pickColor(at);
+        pickColor(document_, at);
     else if (document_.isSelectTool)
-        document_.selectStroke(at);
+        selectStroke(document_, at);
 }
 
 }  // namespace marlevo

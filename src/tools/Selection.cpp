@@ -1,66 +1,79 @@
+#include "tools/Selection.h"
+
 #include "model/DrawingDocument.h"
 #include "tools/HitTest.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace marlevo {
 
 namespace {
 
-/// How near a click must come to a stroke, in view points at any zoom.
+/// The greatest distance from a click to a stroke, in view points at any zoom.
 constexpr double hitTolerance = 10;
 
-/// How far the outline stands off the selected stroke's points, in canvas pixels at any zoom.
+/// The distance of the outline from the selected stroke's points, in canvas pixels at any zoom.
 constexpr double outlineMargin = 6;
+
+struct StrokePlace {
+    std::size_t layer;
+    std::size_t stroke;
+};
+
+std::optional<StrokePlace> selectedStroke(const DrawingDocument& document) {
+    const std::optional<Uuid>& layerID = document.selectedLayerID;
+    const std::optional<std::int64_t>& strokeIndex = document.selectedStrokeIndex;
+    if (!layerID || !strokeIndex || *strokeIndex < 0) return std::nullopt;
+    const LayerList& all = document.layers;
+    const auto layer = std::find_if(all.begin(), all.end(),
+                                    [&](const Layer& each) { return each.id == *layerID; });
+    const auto index = static_cast<std::size_t>(*strokeIndex);
+    if (layer == all.end() || index >= layer->strokes.size()) return std::nullopt;
+    return StrokePlace{static_cast<std::size_t>(layer - all.begin()), index};
+}
+
+const Stroke& strokeAt(const LayerList& layers, const StrokePlace& place) {
+    return layers[place.layer].strokes[place.stroke];
+}
 
 }  // namespace
 
-std::optional<DrawingDocument::StrokePlace> DrawingDocument::selectedStroke() const {
-    const std::optional<Uuid>& layerID = selectedLayerID;
-    const std::optional<std::int64_t>& strokeIndex = selectedStrokeIndex;
-    if (!layerID || !strokeIndex || *strokeIndex < 0) return std::nullopt;
-    const auto layer = std::find_if(layers->begin(), layers->end(),
-                                    [&](const Layer& each) { return each.id == *layerID; });
-    const auto index = static_cast<std::size_t>(*strokeIndex);
-    if (layer == layers->end() || index >= layer->strokes.size()) return std::nullopt;
-    return StrokePlace{static_cast<std::size_t>(layer - layers->begin()), index};
-}
-
-void DrawingDocument::selectStroke(Point at) {
-    const double tolerance = hitTolerance / zoom;
-    const LayerList& all = layers;
+void selectStroke(DrawingDocument& document, Point at) {
+    const double tolerance = hitTolerance / document.zoom;
+    const LayerList& all = document.layers;
     for (auto layer = all.rbegin(); layer != all.rend(); ++layer) {
         if (!layer->isVisible) continue;
         if (const auto index = firstHit(layer->strokes, at, tolerance)) {
-            selectedLayerID = layer->id;
-            selectedStrokeIndex = static_cast<std::int64_t>(*index);
+            document.selectedLayerID = layer->id;
+            document.selectedStrokeIndex = static_cast<std::int64_t>(*index);
             return;
         }
     }
-    clearSelection();
+    document.clearSelection();
 }
 
-std::optional<Rect> DrawingDocument::selectedStrokeBoundingRect() const {
-    const auto place = selectedStroke();
+std::optional<Rect> selectedStrokeBoundingRect(const DrawingDocument& document) {
+    const auto place = selectedStroke(document);
     if (!place) return std::nullopt;
-    return (*layers)[place->layer].strokes[place->stroke].boundingRect().grownBy(outlineMargin);
+    return strokeAt(document.layers, *place).boundingRect().grownBy(outlineMargin);
 }
 
-void DrawingDocument::beginSelectDrag() {
-    const auto place = selectedStroke();
+void beginSelectDrag(DrawingDocument& document) {
+    const auto place = selectedStroke(document);
     if (!place) return;
-    saveState();
-    selectionDragStartPositions = (*layers)[place->layer].strokes[place->stroke].points;
+    document.saveState();
+    document.selectionDragStartPositions = strokeAt(document.layers, *place).points;
 }
 
-void DrawingDocument::updateSelectDrag(Size translation) {
-    const auto place = selectedStroke();
-    const std::optional<PointList>& start = selectionDragStartPositions;
+void updateSelectDrag(DrawingDocument& document, Size translation) {
+    const auto place = selectedStroke(document);
+    const std::optional<PointList>& start = document.selectionDragStartPositions;
     if (!place || !start) return;
-    const Stroke& selected = (*layers)[place->layer].strokes[place->stroke];
+    const Stroke& selected = strokeAt(document.layers, *place);
     if (start->size() != selected.points.size()) return;
 
-    // Always from the start positions, so that no rounding adds up however often the pointer moves.
+    // From the start positions each time, so that no rounding adds up over many small movements.
     std::vector<Point> moved;
     moved.reserve(start->size());
     for (const Point p : *start) {
@@ -68,22 +81,24 @@ void DrawingDocument::updateSelectDrag(Size translation) {
     }
     Stroke stroke = selected;
     stroke.points = PointList(std::move(moved));
-    layers.modify([&](LayerList& all) {
+    document.layers.modify([&](LayerList& all) {
         all[place->layer].strokes.replace(place->stroke, std::move(stroke));
     });
 }
 
-void DrawingDocument::endSelectDrag() {
-    if (selectionDragStartPositions->has_value()) selectionDragStartPositions = std::nullopt;
+void endSelectDrag(DrawingDocument& document) {
+    if (document.selectionDragStartPositions->has_value())
+        document.selectionDragStartPositions = std::nullopt;
 }
 
-void DrawingDocument::deleteSelectedStroke() {
-    const auto place = selectedStroke();
+void deleteSelectedStroke(DrawingDocument& document) {
+    const auto place = selectedStroke(document);
     if (!place) return;
-    saveState();
-    layers.modify([&](LayerList& all) { all[place->layer].strokes.erase(place->stroke); });
-    selectedStrokeIndex = std::nullopt;
-    selectedLayerID = std::nullopt;
+    document.saveState();
+    document.layers.modify([&](LayerList& all) { all[place->layer].strokes.erase(place->stroke); });
+    // The index first, unlike clearSelection(): the order in which the properties publish is fixed.
+    document.selectedStrokeIndex = std::nullopt;
+    document.selectedLayerID = std::nullopt;
 }
 
 }  // namespace marlevo

@@ -1,3 +1,5 @@
+#include "tools/StrokeCapture.h"
+
 #include "model/DrawingDocument.h"
 
 #include <optional>
@@ -11,44 +13,46 @@ constexpr double eraserWidthFactor = 8.0;
 
 }  // namespace
 
-void DrawingDocument::beginStroke(Point at) {
-    ensureLayers();
-    saveState();
+void beginStroke(DrawingDocument& document, Point at) {
+    document.ensureLayers();
+    document.saveState();
 
     Stroke stroke;
     stroke.points = {at};
-    stroke.color = *selectedColor;
-    stroke.lineWidth = *lineWidth;
-    stroke.opacity = *brushOpacity;
-    if (*isShapeTool) {
+    stroke.color = *document.selectedColor;
+    stroke.lineWidth = *document.lineWidth;
+    stroke.opacity = *document.brushOpacity;
+    if (*document.isShapeTool) {
         stroke.points = {at, at};
-        stroke.shapeType = *currentShapeType;
-    } else if (*isEraser) {
-        stroke.color = *backgroundColor;
-        stroke.lineWidth = *lineWidth * eraserWidthFactor;
+        stroke.shapeType = *document.currentShapeType;
+    } else if (*document.isEraser) {
+        stroke.color = *document.backgroundColor;
+        stroke.lineWidth = *document.lineWidth * eraserWidthFactor;
         stroke.opacity = 1.0;
         stroke.isEraser = true;
     }
-    currentStroke = std::move(stroke);
+    document.currentStroke = std::move(stroke);
 }
 
-void DrawingDocument::addPointToStroke(Point point) {
-    if (!*currentStroke) return;
-    if (*isShapeTool && !(*currentStroke)->points.isEmpty()) {
-        Stroke stroke = **currentStroke;
+void addPointToStroke(DrawingDocument& document, Point point) {
+    auto& current = document.currentStroke;
+    if (!*current) return;
+    if (*document.isShapeTool && !(*current)->points.isEmpty()) {
+        Stroke stroke = **current;
         stroke.points = {stroke.points[0], point};
-        currentStroke = std::move(stroke);
+        current = std::move(stroke);
         return;
     }
-    currentStroke.modify([&](std::optional<Stroke>& stroke) { stroke->points.append(point); });
+    current.modify([&](std::optional<Stroke>& stroke) { stroke->points.append(point); });
 }
 
-void DrawingDocument::endStroke() {
-    if (*currentStroke && (*currentStroke)->points.size() >= 2 && activeLayer()) {
-        layers.modify(
-            [&](LayerList& all) { all[*activeLayerIndex].strokes.append(**currentStroke); });
+void endStroke(DrawingDocument& document) {
+    const auto& current = document.currentStroke;
+    if (*current && (*current)->points.size() >= 2 && document.activeLayer()) {
+        document.layers.modify(
+            [&](LayerList& all) { all[*document.activeLayerIndex].strokes.append(**current); });
     }
-    currentStroke = std::nullopt;
+    document.currentStroke = std::nullopt;
 }
 
 }  // namespace marlevo

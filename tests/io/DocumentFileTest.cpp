@@ -1,6 +1,8 @@
 #include "io/AutoSave.h"
 #include "io/DocumentData.h"
+#include "io/DocumentRecords.h"
 #include "io/Open.h"
+#include "io/Save.h"
 #include "model/DrawingDocument.h"
 #include "platform/WorkQueue.h"
 #include "tests/io/SmallDisk.h"
@@ -64,14 +66,14 @@ TEST(SavingDocuments, aSavedAndReopenedPictureIsTheSame) {
     Desktop desktop;
     DrawingDocument saved(desktop.services());
     fill(saved);
-    saved.writeDocument(desktop.folder / "a.marlevo");
+    writeDocument(saved, desktop.folder / "a.marlevo");
     ASSERT_THAT(desktop.console.lines, IsEmpty());
     EXPECT_EQ(*saved.currentFileURL, desktop.folder / "a.marlevo");
 
     DrawingDocument opened(desktop.services());
     open(desktop, &opened, desktop.folder / "a.marlevo");
     EXPECT_EQ(*opened.currentFileURL, desktop.folder / "a.marlevo");
-    EXPECT_EQ(opened.encodeDocumentData(), saved.encodeDocumentData());
+    EXPECT_EQ(encodeDocumentData(opened), encodeDocumentData(saved));
     EXPECT_EQ(opened.canvasSize->height, -3);
     EXPECT_EQ(opened.layers->back().strokes[3].shapeType, Stroke::ShapeType::ellipse);
     EXPECT_NE(opened.layers->front().id, saved.layers->front().id);
@@ -81,7 +83,7 @@ TEST(SavingDocuments, aSavedAndReopenedPictureIsTheSame) {
 TEST(SavingDocuments, asksOnlyWithoutAFileAndProposesItsNameAndFolder) {
     Desktop desktop;
     DrawingDocument document(desktop.services());
-    document.save();
+    save(document);
     ASSERT_TRUE(desktop.panels.save);
     EXPECT_EQ(desktop.panels.save->title, "Save Drawing");
     EXPECT_EQ(desktop.panels.save->proposedName, "Untitled.marlevo");
@@ -90,15 +92,15 @@ TEST(SavingDocuments, asksOnlyWithoutAFileAndProposesItsNameAndFolder) {
     desktop.panels.answer(std::nullopt);
     EXPECT_FALSE(*document.currentFileURL);
 
-    document.saveAs();
+    saveAs(document);
     desktop.panels.answer(desktop.folder / "a.marlevo");
     desktop.panels.save.reset();
     writeText(desktop.folder / "a.marlevo", "");
-    document.save();
+    save(document);
     EXPECT_FALSE(desktop.panels.save);
     EXPECT_THAT(textOf(desktop.folder / "a.marlevo"), StartsWith("{\n"));
 
-    document.saveAs();
+    saveAs(document);
     EXPECT_EQ(desktop.panels.save->proposedName, "a.marlevo");
     EXPECT_EQ(desktop.panels.save->folder, desktop.folder.path());
 }
@@ -106,17 +108,17 @@ TEST(SavingDocuments, asksOnlyWithoutAFileAndProposesItsNameAndFolder) {
 TEST(SavingDocuments, aFailureIsOneLineAndChangesNothing) {
     Desktop desktop;
     DrawingDocument document(desktop.services());
-    document.writeDocument(desktop.folder / "a.marlevo");
+    writeDocument(document, desktop.folder / "a.marlevo");
     const std::string before = textOf(desktop.folder / "a.marlevo");
 
-    document.writeDocument(desktop.folder / "gone/b.marlevo");
+    writeDocument(document, desktop.folder / "gone/b.marlevo");
     fill(document);
     document.canvasSize = {std::numeric_limits<double>::infinity(), 1};
-    document.save();
+    save(document);
     document.canvasSize = {1, 1};
     {
         const FileSizeLimit limit(100);
-        document.save();
+        save(document);
     }
 
     EXPECT_EQ(textOf(desktop.folder / "a.marlevo"), before);
@@ -132,7 +134,7 @@ TEST(OpeningDocuments, replacesThePictureInAFixedOrderAndKeepsTheTools) {
     Desktop desktop;
     DrawingDocument source(desktop.services());
     fill(source);
-    source.writeDocument(desktop.folder / "a.marlevo");
+    writeDocument(source, desktop.folder / "a.marlevo");
 
     DrawingDocument document(desktop.services());
     document.ensureLayers();
@@ -158,7 +160,7 @@ TEST(OpeningDocuments, replacesThePictureInAFixedOrderAndKeepsTheTools) {
     EXPECT_THAT(changes, ElementsAre(P::canvasSize, P::backgroundColor, P::backgroundIsTransparent,
                                      P::layers, P::activeLayerIndex, P::zoom, P::undoStack,
                                      P::redoStack, P::currentStroke, P::currentFileURL));
-    EXPECT_EQ(document.encodeDocumentData(), source.encodeDocumentData());
+    EXPECT_EQ(encodeDocumentData(document), encodeDocumentData(source));
     EXPECT_EQ(*document.activeLayerIndex, 0);
     EXPECT_EQ(*document.zoom, 1.0);
     EXPECT_FALSE(document.canUndo() || document.canRedo() || document.currentStroke->has_value());
@@ -169,7 +171,7 @@ TEST(OpeningDocuments, replacesThePictureInAFixedOrderAndKeepsTheTools) {
 TEST(OpeningDocuments, actsOnTheDocumentThatIsFrontmostAtConfirmation) {
     Desktop desktop;
     DrawingDocument first(desktop.services());
-    first.writeDocument(desktop.folder / "a.marlevo");
+    writeDocument(first, desktop.folder / "a.marlevo");
     first.currentFileURL = std::nullopt;
     DrawingDocument second(desktop.services());
 
@@ -192,7 +194,7 @@ TEST(OpeningDocuments, aFileThatCannotBeReadIsOneLineAndChangesNothing) {
     Desktop desktop;
     DrawingDocument document(desktop.services());
     fill(document);
-    const DocumentData before = document.encodeDocumentData();
+    const DocumentData before = encodeDocumentData(document);
     const Uuid id = document.layers->front().id;
 
     writeText(desktop.folder / "broken", "{");
@@ -206,7 +208,7 @@ TEST(OpeningDocuments, aFileThatCannotBeReadIsOneLineAndChangesNothing) {
                 ElementsAre(StartsWith("Load failed: " + folder + "/broken: "),
                             StartsWith("Load failed: " + folder + "/incomplete: "),
                             "Load failed: " + folder + "/missing: No such file or directory"));
-    EXPECT_EQ(document.encodeDocumentData(), before);
+    EXPECT_EQ(encodeDocumentData(document), before);
     EXPECT_EQ(document.layers->front().id, id);
     EXPECT_FALSE(*document.currentFileURL);
 }
@@ -220,7 +222,7 @@ TEST(AutoSaving, writesEveryThirtySecondsIfThereIsAFileAndTheSettingIsOn) {
     EXPECT_FALSE(desktop.panels.save);
 
     const fs::path file = desktop.folder / "a.marlevo";
-    document.writeDocument(file);
+    writeDocument(document, file);
     const auto isWrittenWithin = [&](seconds time) {
         fs::remove(file);
         desktop.clock.advance(time);

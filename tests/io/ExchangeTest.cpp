@@ -1,6 +1,8 @@
+#include "io/Export.h"
 #include "model/DrawingDocument.h"
 #include "platform/Pasteboard.h"
 #include "platform/Printer.h"
+#include "render/RasterCompositing.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/ManualQueue.h"
 #include "tests/support/TemporaryFolder.h"
@@ -58,31 +60,31 @@ protected:
 TEST_F(Exchange, ExportReplacesTheFile) {
     const auto file = folder / "picture";
     writeText(file, std::string(100000, 'x'));
-    document->exportTo(file, ExportFormat::bmp);
-    const auto encoded = codec.encode(*document->renderCGImage(), ImageCodec::Format::bmp);
+    exportTo(*document, file, ExportFormat::bmp);
+    const auto encoded = codec.encode(*renderCGImage(*document), ImageCodec::Format::bmp);
     EXPECT_EQ(textOf(file), std::string(encoded->begin(), encoded->end()));
-    document->exportTo(file, ExportFormat::pdf);
+    exportTo(*document, file, ExportFormat::pdf);
     EXPECT_THAT(textOf(file), StartsWith("%PDF-"));
 }
 
 TEST_F(Exchange, ExportThatFailsLeavesEverythingAsItWas) {
-    document->exportTo(folder / "missing/picture.png", ExportFormat::png);
-    document->exportTo(folder.path(), ExportFormat::pdf);
+    exportTo(*document, folder / "missing/picture.png", ExportFormat::png);
+    exportTo(*document, folder.path(), ExportFormat::pdf);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 
     const auto file = folder / "picture";
     writeText(file, "old");
     document->canvasSize = CanvasSize{0, 10};
     for (const ExportFormat format : allExportFormats)
-        document->exportTo(file, format);
+        exportTo(*document, file, format);
     EXPECT_EQ(textOf(file), "old");
 }
 
 TEST_F(Exchange, PrintsThePictureOfTheCallAfterTheCurrentEvent) {
-    const auto picture = document->renderCGImage();
-    document->printDocument();
+    const auto picture = renderCGImage(*document);
+    printDocument(*document);
     document->currentFileURL = folder / "My drawing.marlevo";
-    document->printDocument();
+    printDocument(*document);
     EXPECT_TRUE(printer.jobs.empty());
     document.reset();
     mainQueue.run();
@@ -94,12 +96,12 @@ TEST_F(Exchange, PrintsThePictureOfTheCallAfterTheCurrentEvent) {
 }
 
 TEST_F(Exchange, ACanvasWithoutPictureIsNeitherPrintedNorCopied) {
-    document->copyToClipboard();
-    const auto copied = document->renderCGImage();
+    copyToClipboard(*document);
+    const auto copied = renderCGImage(*document);
     EXPECT_EQ(pasteboard.contents, copied);
     document->canvasSize = CanvasSize{0.5, 100};
-    document->copyToClipboard();
-    document->printDocument();
+    copyToClipboard(*document);
+    printDocument(*document);
     EXPECT_EQ(pasteboard.contents, copied);
     EXPECT_FALSE(mainQueue.run());
 }

@@ -1,4 +1,6 @@
+#include "io/RenderPdf.h"
 #include "model/DrawingDocument.h"
+#include "render/RasterCompositing.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/PageReaders.h"
 #include "tests/support/SmallJpeg.h"
@@ -47,7 +49,7 @@ protected:
     }
 
     std::string text() const {
-        const auto bytes = document.renderPDFData();
+        const auto bytes = renderPDFData(document);
         return bytes ? std::string(bytes->begin(), bytes->end()) : std::string();
     }
 
@@ -105,8 +107,8 @@ protected:
 
     /// How far the page is from the raster, in levels of 255.
     double difference() {
-        const auto page = showPage(GetParam(), document.renderPDFData().value());
-        const auto raster = document.renderCGImage();
+        const auto page = showPage(GetParam(), renderPDFData(document).value());
+        const auto raster = renderCGImage(document);
         if (!page || page->width != raster->width() || page->height != raster->height()) return 255;
         return meanDifference(*raster, *page);
     }
@@ -213,12 +215,12 @@ TEST_F(PdfExport, CanvasesThatNoPageCanHaveGiveNothing) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     for (const double side : {0.0, -5.0, nan, 1e300, 1.0 / 0.0}) {
         document.canvasSize = CanvasSize{side, 100};
-        EXPECT_FALSE(document.renderPDFData()) << side;
+        EXPECT_FALSE(renderPDFData(document)) << side;
         document.canvasSize = CanvasSize{100, side};
-        EXPECT_FALSE(document.renderPDFData()) << side;
+        EXPECT_FALSE(renderPDFData(document)) << side;
     }
     document.canvasSize = CanvasSize{0.5, 100};
-    EXPECT_TRUE(document.renderPDFData());
+    EXPECT_TRUE(renderPDFData(document));
 }
 
 TEST_F(PdfExport, PhotosKeepTheirBytesUnlessTheirPixelsAreOthers) {

@@ -1,6 +1,7 @@
 #include "render/LayerThumbnail.h"
 
 #include "platform/BackgroundThread.h"
+#include "render/RasterCompositing.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/ManualQueue.h"
 #include "tests/support/Strokes.h"
@@ -57,7 +58,7 @@ TEST_F(LayerThumbnailTest, ShowsNothingUntilTheRenderIsBack) {
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(thumbnail.cgImage()->width(), 88);
     EXPECT_EQ(thumbnail.cgImage()->height(), 64);
-    EXPECT_EQ(*thumbnail.cgImage(), document.renderSingleLayer(layer(), {88, 64}));
+    EXPECT_EQ(*thumbnail.cgImage(), renderSingleLayer(document, layer(), {88, 64}));
 }
 
 TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
@@ -88,7 +89,7 @@ TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
                   document.layers.modify([](LayerList& layers) { layers[0].opacity = 0.5; });
               }),
               1);
-    EXPECT_EQ(*thumbnail.cgImage(), document.renderSingleLayer(layer(), {88, 64}));
+    EXPECT_EQ(*thumbnail.cgImage(), renderSingleLayer(document, layer(), {88, 64}));
 }
 
 TEST_F(LayerThumbnailTest, ChangesDuringARenderMakeOneMore) {
@@ -103,7 +104,7 @@ TEST_F(LayerThumbnailTest, ChangesDuringARenderMakeOneMore) {
     EXPECT_EQ(backgroundQueue.size(), 1);
     settle();
     EXPECT_EQ(changes, 2);
-    EXPECT_EQ(*thumbnail.cgImage(), document.renderSingleLayer(layer(), {88, 64}));
+    EXPECT_EQ(*thumbnail.cgImage(), renderSingleLayer(document, layer(), {88, 64}));
 }
 
 TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
@@ -136,7 +137,7 @@ TEST_F(LayerThumbnailTest, RendersWhileTheLayerIsDrawnOn) {
         mainQueue.run();
         if (i % 50 == 49) busy.undo();
     }
-    const auto wanted = busy.renderSingleLayer((*busy.layers)[0], {88, 64});
+    const auto wanted = renderSingleLayer(busy, (*busy.layers)[0], {88, 64});
     while (shown.cgImage() != wanted) {
         shown.show((*busy.layers)[0]);
         mainQueue.run();

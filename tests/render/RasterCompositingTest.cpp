@@ -1,3 +1,5 @@
+#include "render/RasterCompositing.h"
+
 #include "graphics/BitmapContext.h"
 #include "model/DrawingDocument.h"
 #include "render/LayerPainting.h"
@@ -49,7 +51,7 @@ protected:
     }
 
     Pixel pixel(int x, int y) const {
-        const auto image = document.renderCGImage();
+        const auto image = renderCGImage(document);
         const auto bytes = image.value().pixel(x, y);
         return {bytes[0], bytes[1], bytes[2], bytes[3]};
     }
@@ -66,7 +68,7 @@ constexpr Pixel blue{255, 0, 0, 255};
 
 TEST_F(RasterCompositing, SizesAreTruncatedAndImpossibleOnesGiveNoPicture) {
     document.canvasSize = CanvasSize{100.7, 50.2};
-    const auto image = document.renderCGImage();
+    const auto image = renderCGImage(document);
     ASSERT_TRUE(image);
     EXPECT_EQ(image->width(), 100);
     EXPECT_EQ(image->height(), 50);
@@ -80,7 +82,7 @@ TEST_F(RasterCompositing, SizesAreTruncatedAndImpossibleOnesGiveNoPicture) {
                                   {std::nan(""), 10},
                                   {10, infinity}}) {
         document.canvasSize = size;
-        EXPECT_FALSE(document.renderCGImage()) << size.width << " × " << size.height;
+        EXPECT_FALSE(renderCGImage(document)) << size.width << " × " << size.height;
     }
 }
 
@@ -106,7 +108,7 @@ TEST_F(RasterCompositing, StrokesOfOnePointAreSkippedAndHiddenLayersToo) {
     EXPECT_EQ(pixel(50, 50), opaqueBlack);
     document.toggleLayerVisibility(0);
     EXPECT_EQ(pixel(50, 50), opaqueWhite);
-    const auto thumbnail = document.renderSingleLayer(document.layers->front(), {100, 80});
+    const auto thumbnail = renderSingleLayer(document, document.layers->front(), {100, 80});
     EXPECT_THAT(thumbnail.value().pixel(50, 50), ElementsAre(255, 0, 0, 0));
 }
 
@@ -164,17 +166,17 @@ TEST_F(RasterCompositing, UndecodableImagesAreSkippedButNotTheirStrokes) {
 TEST_F(RasterCompositing, SingleLayersAreStretchedOverWhite) {
     document.canvasSize = CanvasSize{2000, 500};
     add(makeStroke({{0, 250}, {2000, 250}}, 100));
-    const auto image = document.renderSingleLayer(document.layers->front(), {88, 64});
+    const auto image = renderSingleLayer(document, document.layers->front(), {88, 64});
     ASSERT_TRUE(image);
     EXPECT_EQ(image->width(), 88);
     EXPECT_EQ(image->height(), 64);
     EXPECT_THAT(image->pixel(44, 32), ElementsAre(255, 0, 0, 0));
     EXPECT_THAT(image->pixel(44, 27), ElementsAre(255, 0, 0, 0));  // 100 × 0.128 = 12.8 pixels high
     EXPECT_THAT(image->pixel(44, 20), ElementsAre(255, 255, 255, 255));
-    EXPECT_FALSE(document.renderSingleLayer(document.layers->front(), {0.9, 64}));
+    EXPECT_FALSE(renderSingleLayer(document, document.layers->front(), {0.9, 64}));
 
     document.canvasSize = CanvasSize{0, 0};
-    EXPECT_TRUE(document.renderSingleLayer(document.layers->front(), {88, 64}));
+    EXPECT_TRUE(renderSingleLayer(document, document.layers->front(), {88, 64}));
 }
 
 TEST_F(RasterCompositing, PaintedInPartsThePictureHasTheBytesOfOnePaintedAtOnce) {
@@ -205,7 +207,7 @@ TEST_F(RasterCompositing, PaintedInPartsThePictureHasTheBytesOfOnePaintedAtOnce)
         drawLayer(atOnce, layer, document.canvasSize, height,
                   [&](const Bytes& file) { return codec.decode(file.span()); });
     }
-    EXPECT_EQ(document.renderCGImage(), RasterImage(330, 700, bytes));
+    EXPECT_EQ(renderCGImage(document), RasterImage(330, 700, bytes));
 }
 
 }  // namespace

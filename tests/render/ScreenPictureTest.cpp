@@ -51,6 +51,25 @@ private:
     ScreenPicture picture_;
 };
 
+void extendCurrentStroke(DrawingDocument& document, Point to) {
+    document.currentStroke.modify([&](std::optional<Stroke>& stroke) {
+        if (stroke->shapeType == Stroke::ShapeType::freehand)
+            stroke->points.append(to);
+        else
+            stroke->points = {stroke->points[0], to};
+    });
+}
+
+/// Publishes a state in which the stroke exists twice, as ending a stroke with the pointer does.
+void endCurrentStroke(DrawingDocument& document) {
+    if (document.currentStroke.get()->points.size() >= 2 && document.activeLayer()) {
+        document.layers.modify([&](LayerList& all) {
+            all[*document.activeLayerIndex].strokes.append(*document.currentStroke.get());
+        });
+    }
+    document.currentStroke = std::nullopt;
+}
+
 /// Changes a document in all ways that its picture may change.
 class RandomEditor {
 public:
@@ -102,16 +121,16 @@ private:
 
     void draw() {
         if (!document.currentStroke->has_value()) {
-            document.lineWidth = 1 + below(40);
-            document.brushOpacity = below(2) == 0 ? 1 : 0.5;
-            document.isEraser = below(3) == 0;
-            document.isShapeTool = below(4) == 0;
-            document.currentShapeType = Stroke::allShapeTypes[below(4)];
-            document.beginStroke(anywhere());
+            document.saveState();
+            Stroke stroke = makeStroke({anywhere()}, 1 + below(40));
+            stroke.opacity = below(2) == 0 ? 1 : 0.5;
+            if (below(3) == 0) stroke.color = document.backgroundColor;
+            if (below(4) == 0) stroke.shapeType = Stroke::allShapeTypes[below(4)];
+            document.currentStroke = std::move(stroke);
         }
         for (int n = below(4); n > 0; --n)
-            document.addPointToStroke(anywhere());
-        if (below(3) == 0) document.endStroke();
+            extendCurrentStroke(document, anywhere());
+        if (below(3) == 0) endCurrentStroke(document);
     }
 
     void changeStrokes(int layer) {
@@ -191,14 +210,14 @@ TEST(ScreenPicture, SaysThatLittleChangedWhenLittleDid) {
         return sum;
     };
 
-    document.lineWidth = 3;
-    document.beginStroke({100, 100});
+    document.saveState();
+    document.currentStroke = makeStroke({{100, 100}}, 3);
     for (int i = 1; i < 50; ++i)
-        document.addPointToStroke({100.0 + 30 * i, 100.0 + 15 * i});
+        extendCurrentStroke(document, {100.0 + 30 * i, 100.0 + 15 * i});
     changedPixels();
-    document.addPointToStroke({1610, 850});
+    extendCurrentStroke(document, {1610, 850});
     EXPECT_LT(changedPixels(), 80 * 60);
-    document.endStroke();
+    endCurrentStroke(document);
     EXPECT_EQ(changedPixels(), 0);  // the stroke looks as before
     document.lineWidth = 9;
     EXPECT_EQ(changedPixels(), 0);

@@ -1,5 +1,8 @@
+#include "tools/FillTool.h"
+
 #include "model/DrawingDocument.h"
 #include "tests/support/Strokes.h"
+#include "tools/EyeDropper.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +21,7 @@ protected:
 TEST_F(FillTool, CoversAnEmptyCanvasByOneShapeOnALayerOfItsOwn) {
     document.selectedColor = Color{1, 0, 0, 1};
     document.brushOpacity = 0.5;
-    document.performFill({640, 360});
+    performFill(document, {640, 360});
 
     ASSERT_EQ(document.layers->size(), 2u);
     EXPECT_EQ(document.activeLayerIndex, 1);
@@ -43,7 +46,7 @@ TEST_F(FillTool, StaysInsideAClosedOutline) {
         layers[0].strokes.append(makeStroke({{100, 100}, {300, 250}}, 4, Stroke::ShapeType::rect));
     });
     document.addLayer();
-    document.performFill({200, 200});
+    performFill(document, {200, 200});
     EXPECT_EQ(top().name, "Fill 2");
     const Rect bounds = top().strokes[0].boundingRect();
     EXPECT_NEAR(bounds.minX(), 102, 1);
@@ -54,19 +57,19 @@ TEST_F(FillTool, StaysInsideAClosedOutline) {
 
 TEST_F(FillTool, RegionsWithoutAnOutlineBecomeTheirBox) {
     document.canvasSize = CanvasSize{6, 3};
-    document.performFill({1, 1});
+    performFill(document, {1, 1});
     EXPECT_EQ(top().strokes[0].points, (PointList{{0, 3}, {5, 3}, {5, 1}, {0, 1}, {0, 3}}));
 }
 
 TEST_F(FillTool, ClicksOutsideOrOnNoPictureChangeNothing) {
     for (const Point p : {Point{1280, 10}, Point{10, 720}, Point{-1, 5}, Point{5, -1e300}})
-        document.performFill(p);
+        performFill(document, p);
     document.canvasSize = CanvasSize{0.5, 100};
-    document.performFill({0, 0});
+    performFill(document, {0, 0});
     EXPECT_EQ(document.layers->size(), 1u);
     EXPECT_FALSE(document.canUndo());
     document.canvasSize = CanvasSize{100, 100};
-    document.performFill({-0.5, -0.5});
+    performFill(document, {-0.5, -0.5});
     EXPECT_EQ(document.layers->size(), 2u) << "truncated toward zero, it lies in the first cell";
 }
 
@@ -74,12 +77,12 @@ TEST(EyeDropper, PicksWhatAnExportShowsAndTurnsItselfOff) {
     DrawingDocument document;
     document.ensureLayers();
     document.isEyeDropper = true;
-    document.pickColor({1280, 5});
-    document.pickColor({5, -1});
+    pickColor(document, {1280, 5});
+    pickColor(document, {5, -1});
     EXPECT_TRUE(document.isEyeDropper);
     EXPECT_EQ(document.selectedColor.get(), black);
 
-    document.pickColor({5, 5});
+    pickColor(document, {5, 5});
     EXPECT_EQ(document.selectedColor.get(), white);
     EXPECT_FALSE(document.isEyeDropper);
 
@@ -88,11 +91,11 @@ TEST(EyeDropper, PicksWhatAnExportShowsAndTurnsItselfOff) {
     stroke.opacity = 0.5;
     document.layers.modify([&](LayerList& layers) { layers[0].strokes.append(stroke); });
     document.backgroundIsTransparent = true;
-    document.pickColor({50.9, 10.2});
+    pickColor(document, {50.9, 10.2});
     EXPECT_NEAR(document.selectedColor->red, 0.5, 0.01);
     EXPECT_EQ(document.selectedColor->green, 0);
     EXPECT_EQ(document.selectedColor->alpha, 1);
-    document.pickColor({50, 60});
+    pickColor(document, {50, 60});
     EXPECT_EQ(document.selectedColor.get(), black);
     EXPECT_FALSE(document.canUndo());
 }

@@ -1,6 +1,7 @@
 #include "tools/PointerGesture.h"
 
 #include "tests/support/Strokes.h"
+#include "tools/Selection.h"
 
 #include <gtest/gtest.h>
 
@@ -209,7 +210,7 @@ TEST(PointerGesture, KeepsEveryPositionAndTheReleaseAddsNone) {
 TEST(PointerGesture, MovesWhatIsSelectedByTheWayOfTheView) {
     Hand hand;
     hand.choose(select);
-    hand.document.selectStroke(start);
+    selectStroke(hand.document, start);
     hand.gesture.begin(empty);
     hand.gesture.move({onSecond, {3, 4}});
     hand.gesture.end(onSecond, Click::no);

@@ -1,6 +1,9 @@
+#include "tools/Selection.h"
+
 #include "model/DrawingDocument.h"
 #include "tests/support/Strokes.h"
 #include "tools/HitTest.h"
+#include "tools/StrokeCapture.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +33,7 @@ protected:
     }
 
     bool hits(Point p) {
-        document.selectStroke(p);
+        selectStroke(document, p);
         return document.selectedStrokeIndex->has_value();
     }
 
@@ -71,10 +74,10 @@ TEST_F(Selection, PrefersUpperLayersAndOlderStrokesAndSkipsHiddenLayersAndDots) 
     add(makeStroke({{0, 1}, {100, 1}}));
     document.addLayer();
     add(makeStroke({{0, 0}, {100, 0}}), 1);
-    document.selectStroke({50, 0});
+    selectStroke(document, {50, 0});
     EXPECT_EQ(selected(), (Place{1, 0}));
     document.toggleLayerVisibility(1);
-    document.selectStroke({50, 0});
+    selectStroke(document, {50, 0});
     EXPECT_EQ(selected(), (Place{0, 1}));
     EXPECT_FALSE(hits({50, 50}));
 }
@@ -104,16 +107,16 @@ TEST_F(Selection, TreeSearchFindsWhatAPlainScanFinds) {
 
 TEST_F(Selection, DraggingMovesEveryPointByTheWholeWayAndIsOneUndoStep) {
     add(makeStroke({{0.1, 0.2}, {100.3, 0.4}}));
-    document.selectStroke({50, 0});
-    document.beginSelectDrag();
+    selectStroke(document, {50, 0});
+    beginSelectDrag(document);
     for (int i = 0; i < 1000; ++i)
-        document.updateSelectDrag({i * 0.1, -i * 0.3});
-    document.updateSelectDrag({30, -10});
+        updateSelectDrag(document, {i * 0.1, -i * 0.3});
+    updateSelectDrag(document, {30, -10});
     EXPECT_EQ(stroke(0).points, (PointList{{0.1 + 30, 0.2 - 10}, {100.3 + 30, 0.4 - 10}}));
-    document.updateSelectDrag({0, 0});
+    updateSelectDrag(document, {0, 0});
     EXPECT_EQ(stroke(0).points, (PointList{{0.1, 0.2}, {100.3, 0.4}}));
-    document.updateSelectDrag({5, 5});
-    document.endSelectDrag();
+    updateSelectDrag(document, {5, 5});
+    endSelectDrag(document);
     EXPECT_FALSE(document.selectionDragStartPositions->has_value());
     EXPECT_TRUE(document.selectedStrokeIndex->has_value());
     document.undo();
@@ -123,18 +126,18 @@ TEST_F(Selection, DraggingMovesEveryPointByTheWholeWayAndIsOneUndoStep) {
 
 TEST_F(Selection, OutlineStandsOffThePointsAtAnyZoomAndOnHiddenLayers) {
     add(makeStroke({{10, 20}, {30, 60}}, 50));
-    EXPECT_FALSE(document.selectedStrokeBoundingRect());
-    document.selectStroke({20, 40});
+    EXPECT_FALSE(selectedStrokeBoundingRect(document));
+    selectStroke(document, {20, 40});
     document.zoom = 3;
     document.toggleLayerVisibility(0);
-    EXPECT_EQ(document.selectedStrokeBoundingRect(), (Rect{{4, 14}, {32, 52}}));
+    EXPECT_EQ(selectedStrokeBoundingRect(document), (Rect{{4, 14}, {32, 52}}));
 }
 
 TEST_F(Selection, DeletingTakesOneStrokeAndTheSelection) {
     add(makeStroke({{0, 0}, {100, 0}}));
     add(makeStroke({{0, 50}, {100, 50}}));
-    document.selectStroke({50, 0});
-    document.deleteSelectedStroke();
+    selectStroke(document, {50, 0});
+    deleteSelectedStroke(document);
     EXPECT_EQ(document.layers->front().strokes.size(), 1u);
     EXPECT_EQ(stroke(0).points[0], (Point{0, 50}));
     EXPECT_FALSE(document.selectedLayerID->has_value());
@@ -144,23 +147,23 @@ TEST_F(Selection, DeletingTakesOneStrokeAndTheSelection) {
 }
 
 TEST_F(Selection, StaleSelectionsAreNone) {
-    document.beginStroke({0, 0});
-    document.addPointToStroke({100, 0});
-    document.endStroke();
-    document.selectStroke({50, 0});
+    beginStroke(document, {0, 0});
+    addPointToStroke(document, {100, 0});
+    endStroke(document);
+    selectStroke(document, {50, 0});
     document.undo();
     ASSERT_TRUE(document.selectedStrokeIndex->has_value());
-    EXPECT_FALSE(document.selectedStrokeBoundingRect());
-    document.beginSelectDrag();
-    document.updateSelectDrag({5, 5});
-    document.deleteSelectedStroke();
+    EXPECT_FALSE(selectedStrokeBoundingRect(document));
+    beginSelectDrag(document);
+    updateSelectDrag(document, {5, 5});
+    deleteSelectedStroke(document);
     EXPECT_FALSE(document.canUndo());
     EXPECT_TRUE(document.canRedo());
     EXPECT_TRUE(document.selectedStrokeIndex->has_value()) << "only a new hit test replaces it";
 
     document.redo();
     document.selectedStrokeIndex = -1;
-    EXPECT_FALSE(document.selectedStrokeBoundingRect());
+    EXPECT_FALSE(selectedStrokeBoundingRect(document));
 }
 
 }  // namespace

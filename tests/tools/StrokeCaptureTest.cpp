@@ -1,3 +1,5 @@
+#include "tools/StrokeCapture.h"
+
 #include "model/DrawingDocument.h"
 
 #include <gmock/gmock.h>
@@ -21,11 +23,11 @@ protected:
     }
 
     Stroke draw(std::initializer_list<Point> positions) {
-        doc.beginStroke(*positions.begin());
+        beginStroke(doc, *positions.begin());
         for (const Point* at = positions.begin() + 1; at != positions.end(); ++at)
-            doc.addPointToStroke(*at);
+            addPointToStroke(doc, *at);
         const Stroke drawn = **doc.currentStroke;
-        doc.endStroke();
+        endStroke(doc);
         return drawn;
     }
     const StrokeList& strokes() const { return doc.layers->back().strokes; }
@@ -48,11 +50,11 @@ TEST_F(StrokeCapture, TheBrushKeepsEveryPosition) {
 
 TEST_F(StrokeCapture, TheEraserIsABroadOpaqueStrokeInTheBackgroundOfItsBeginning) {
     doc.isEraser = true;
-    doc.beginStroke({0, 0});
+    beginStroke(doc, {0, 0});
     doc.backgroundColor = black;
     doc.lineWidth = 1;
-    doc.addPointToStroke({1, 1});
-    doc.endStroke();
+    addPointToStroke(doc, {1, 1});
+    endStroke(doc);
     EXPECT_EQ(strokes()[0].color, (Color{0.5, 0.6, 0.7, 1}));
     EXPECT_EQ(strokes()[0].lineWidth, 24.0);
     EXPECT_EQ(strokes()[0].opacity, 1.0);
@@ -87,16 +89,16 @@ TEST_F(StrokeCapture, TheLayerActiveAtTheEndReceivesTheStroke) {
     doc.ensureLayers();
     doc.addLayer();
     doc.toggleLayerVisibility(0);
-    doc.beginStroke({0, 0});
-    doc.addPointToStroke({1, 1});
+    beginStroke(doc, {0, 0});
+    addPointToStroke(doc, {1, 1});
     doc.activeLayerIndex = 0;
-    doc.endStroke();
+    endStroke(doc);
     EXPECT_EQ(doc.layers->front().strokes.size(), 1u);
 
-    doc.beginStroke({0, 0});
-    doc.addPointToStroke({1, 1});
+    beginStroke(doc, {0, 0});
+    addPointToStroke(doc, {1, 1});
     doc.activeLayerIndex = -1;
-    doc.endStroke();
+    endStroke(doc);
     EXPECT_EQ(doc.layers->front().strokes.size(), 1u);
     EXPECT_TRUE(doc.layers->back().strokes.isEmpty());
     EXPECT_FALSE(doc.currentStroke->has_value());
@@ -109,29 +111,29 @@ TEST_F(StrokeCapture, PublishesTheStrokeInItsLayerBeforeItLeavesTheHand) {
         (void)*doc.layers, (void)*doc.activeLayerIndex, (void)*doc.currentStroke;
         (void)doc.canUndo(), (void)doc.canRedo();
     });
-    doc.addPointToStroke({1, 1});
+    addPointToStroke(doc, {1, 1});
     EXPECT_TRUE(told.empty());
-    doc.beginStroke({0, 0});
+    beginStroke(doc, {0, 0});
     EXPECT_THAT(told, ElementsAre(P::layers, P::undoStack, P::redoStack, P::currentStroke));
     told.clear();
-    doc.addPointToStroke({1, 1});
+    addPointToStroke(doc, {1, 1});
     EXPECT_THAT(told, ElementsAre(P::currentStroke));
     told.clear();
-    doc.endStroke();
+    endStroke(doc);
     EXPECT_THAT(told, ElementsAre(P::layers, P::currentStroke));
     told.clear();
-    doc.endStroke();
+    endStroke(doc);
     EXPECT_THAT(told, ElementsAre(P::currentStroke));
 }
 
 TEST_F(StrokeCapture, AHeldCopyOfTheStrokeInProgressStaysAsItWas) {
-    doc.beginStroke({0, 0});
-    doc.addPointToStroke({1, 1});
+    beginStroke(doc, {0, 0});
+    addPointToStroke(doc, {1, 1});
     const Stroke held = **doc.currentStroke;
-    doc.addPointToStroke({2, 2});
+    addPointToStroke(doc, {2, 2});
     const Point* const place = (*doc.currentStroke)->points.span().data();
     EXPECT_EQ(held.points.size(), 2u);
-    doc.addPointToStroke({3, 3});
+    addPointToStroke(doc, {3, 3});
     EXPECT_EQ((*doc.currentStroke)->points.span().data(), place);
 }
 

@@ -1,4 +1,7 @@
+#include "render/RasterCompositing.h"
 #include "tests/ui/Pointer.h"
+#include "tools/Selection.h"
+#include "tools/StrokeCapture.h"
 #include "ui/controls/Colors.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
@@ -27,14 +30,14 @@ public:
 void drawSomething(DrawingDocument& document) {
     document.lineWidth = 5;
     document.brushOpacity = 0.5;
-    document.beginStroke({-20, 40});
+    beginStroke(document, {-20, 40});
     for (int i = 0; i < 60; ++i)
-        document.addPointToStroke({i * 5.3, 100 + 80 * std::sin(i / 5.0)});
-    document.endStroke();
+        addPointToStroke(document, {i * 5.3, 100 + 80 * std::sin(i / 5.0)});
+    endStroke(document);
     document.isShapeTool = true;
-    document.beginStroke({150.25, 30.5});
-    document.addPointToStroke({320, 150.75});
-    document.endStroke();
+    beginStroke(document, {150.25, 30.5});
+    addPointToStroke(document, {320, 150.75});
+    endStroke(document);
 }
 
 }  // namespace
@@ -79,8 +82,8 @@ private Q_SLOTS:
         Setting s;
         s.document.backgroundColor = {0.9, 0.8, 0.4, 1};
         drawSomething(s.document);
-        s.document.beginStroke({30, 150});
-        s.document.addPointToStroke({280, 160});
+        beginStroke(s.document, {30, 150});
+        addPointToStroke(s.document, {280, 160});
         for (const double zoom : {1.0, 0.7, 1.6}) {
             s.document.zoom = zoom;
             const double scale = zoom * s.view.devicePixelRatioF();
@@ -111,25 +114,25 @@ private Q_SLOTS:
         drawSomething(s.document);
         verify("strokes");
         s.document.isShapeTool = false;
-        s.document.beginStroke({30, 150});
-        s.document.addPointToStroke({280, 160});
+        beginStroke(s.document, {30, 150});
+        addPointToStroke(s.document, {280, 160});
         verify("a stroke in progress");
-        s.document.addPointToStroke({200, 30});
+        addPointToStroke(s.document, {200, 30});
         verify("a longer stroke in progress");
-        s.document.endStroke();
+        endStroke(s.document);
         verify("a finished stroke");
         s.document.isSelectTool = true;
-        s.document.selectStroke({155, 155});
-        QVERIFY(s.document.selectedStrokeBoundingRect());
+        selectStroke(s.document, {155, 155});
+        QVERIFY(selectedStrokeBoundingRect(s.document));
         verify("a selection");
-        s.document.beginSelectDrag();
-        s.document.updateSelectDrag({-20.5, 17});
+        beginSelectDrag(s.document);
+        updateSelectDrag(s.document, {-20.5, 17});
         verify("a moved selection");
         s.document.zoom = 1.3;
-        s.document.updateSelectDrag({-40, 20});
+        updateSelectDrag(s.document, {-40, 20});
         verify("a moved selection at another zoom");
-        s.document.endSelectDrag();
-        s.document.selectStroke({290, 5});
+        endSelectDrag(s.document);
+        selectStroke(s.document, {290, 5});
         verify("no selection");
         s.document.isSelectTool = false;
         s.document.isEyeDropper = true;
@@ -153,7 +156,7 @@ private Q_SLOTS:
         if (s.view.devicePixelRatioF() != 1) QSKIP("needs one device pixel per point");
         drawSomething(s.document);
         const QImage seen = s.shot();
-        const auto picture = s.document.renderCGImage();
+        const auto picture = renderCGImage(s.document);
         QCOMPARE(seen.size(), QSize(picture->width(), picture->height()));
         for (int y = 0; y < seen.height(); ++y) {
             for (int x = 0; x < seen.width(); ++x) {
@@ -203,8 +206,8 @@ private Q_SLOTS:
         QCOMPARE(paints.count, 0);
         s.document.showGrid = true;
         QTRY_COMPARE(paints.count, 1);
-        s.document.beginStroke({10, 10});
-        s.document.addPointToStroke({40, 10});
+        beginStroke(s.document, {10, 10});
+        addPointToStroke(s.document, {40, 10});
         QTRY_COMPARE(paints.count, 2);
     }
 

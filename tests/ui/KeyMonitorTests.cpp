@@ -30,14 +30,14 @@ private Q_SLOTS:
         RunningApp s;
         drawStroke(s.document);
         type(s.window, Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(strokeCount(s.document), qint64{0});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
         // With Shift the key makes "Z": the menu redoes, once.
         drawStroke(s.document);
         drawStroke(s.document);
         type(s.window, Qt::Key_Z, Qt::ControlModifier);
         type(s.window, Qt::Key_Z, Qt::ControlModifier);
         type(s.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(strokeCount(s.document), qint64{1});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{1});
 
         type(s.window, Qt::Key_G, Qt::ControlModifier);
         QVERIFY(s.document.showGrid);
@@ -112,10 +112,10 @@ private Q_SLOTS:
         selectTheStroke(s.document);
         s.document.isSelectTool = false;
         type(s.window, key);
-        QCOMPARE(strokeCount(s.document), qint64{1});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{1});
         s.document.isSelectTool = true;
         type(s.window, key, Qt::ShiftModifier);
-        QCOMPARE(strokeCount(s.document), qint64{0});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
     }
 
     void noKeyReachesTheDocumentBehindTheSheet() {
@@ -134,7 +134,7 @@ private Q_SLOTS:
         for (const Qt::Key key : {Qt::Key_Z, Qt::Key_E, Qt::Key_G, Qt::Key_Equal, Qt::Key_K})
             type(s.window, key, Qt::ControlModifier);
         type(s.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(strokeCount(s.document), qint64{1});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{1});
         QVERIFY(!s.document.isEraser && !s.document.showGrid);
         QCOMPARE(s.document.zoom.get(), 1.0);
 
@@ -142,7 +142,7 @@ private Q_SLOTS:
         type(s.window, Qt::Key_Escape);
         QVERIFY(!s.window.content().showNewCanvas());
         type(s.window, Qt::Key_Delete);
-        QCOMPARE(strokeCount(s.document), qint64{0});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
         QVERIFY(command(s.window, "Undo").isEnabled());
     }
 

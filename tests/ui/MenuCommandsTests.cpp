@@ -145,9 +145,9 @@ private Q_SLOTS:
         command(s.window, "Add Layer").trigger();
         drawStroke(s.document);
         command(s.window, "Clear All Layers").trigger();
-        QCOMPARE(strokeCount(s.document), qint64{0});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
         command(s.window, "Undo").trigger();
-        QCOMPARE(strokeCount(s.document), qint64{2});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{2});
     }
 
     void commandsFollowTheFrontmostWindowAndItsPanels() {

@@ -122,7 +122,7 @@ private Q_SLOTS:
         s.width.setText("333.5");
         s.create.click();
         QVERIFY((s.document.canvasSize == CanvasSize{333.5, 720}));
-        QCOMPARE(strokeCount(s.document), qint64{1});
+        QCOMPARE(strokeCount(s.document.layers), std::size_t{1});
         s.document.undo();
         QVERIFY(!s.document.canUndo());
         QVERIFY(!s.window.content().showNewCanvas());

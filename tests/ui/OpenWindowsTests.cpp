@@ -1,3 +1,4 @@
+#include "io/Save.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/ui/RunningApp.h"
 
@@ -23,8 +24,8 @@ private Q_SLOTS:
             QVERIFY(!window->content().showNewCanvas());
         QCOMPARE(windows[0]->document().currentFileURL.get(), std::optional(files[0]));
         QCOMPARE(windows[1]->document().currentFileURL.get(), std::optional(files[2]));
-        QCOMPARE(strokeCount(windows[0]->document()), std::size_t(1));
-        QCOMPARE(strokeCount(windows[1]->document()), std::size_t(2));
+        QCOMPARE(strokeCount(windows[0]->document().layers), std::size_t(1));
+        QCOMPARE(strokeCount(windows[1]->document().layers), std::size_t(2));
         QTRY_COMPARE(windows[1]->windowTitle(), QString("b\ufffd.marlevo"));
         QCOMPARE(console.lines.size(), std::size_t(1));
         QVERIFY(console.lines.front().starts_with("Load failed: " + files[1].string()));
@@ -47,7 +48,7 @@ private:
         document.ensureLayers();
         for (int i = 0; i < strokes; ++i)
             drawStroke(document);
-        document.writeDocument(folder_ / name);
+        writeDocument(document, folder_ / name);
     }
 
     TemporaryFolder folder_;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/QtImageCodec.h"
 #include "tests/support/FakeServices.h"
+#include "tools/StrokeCapture.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 
@@ -39,9 +40,9 @@ struct RunningApp {
 };
 
 inline void drawStroke(DrawingDocument& document) {
-    document.beginStroke({10, 10});
-    document.addPointToStroke({90, 70});
-    document.endStroke();
+    beginStroke(document, {10, 10});
+    addPointToStroke(document, {90, 70});
+    endStroke(document);
 }
 
 /// The command with this title in the window's menus.

@@ -1,4 +1,5 @@
 #include "tests/ui/SidebarSetting.h"
+#include "tools/StrokeCapture.h"
 #include "ui/controls/ColorSwatch.h"
 #include "ui/controls/Colors.h"
 #include "ui/controls/LabeledSlider.h"
@@ -283,9 +284,9 @@ private Q_SLOTS:
         QCOMPARE(pixel(thumbnail, middle), QColor(Qt::white));
 
         s.document.lineWidth = 400;
-        s.document.beginStroke({0, 360});
-        s.document.addPointToStroke({1280, 360});
-        s.document.endStroke();
+        beginStroke(s.document, {0, 360});
+        addPointToStroke(s.document, {1280, 360});
+        endStroke(s.document);
         render();
         QCOMPARE(pixel(thumbnail, middle), QColor(Qt::black));
     }

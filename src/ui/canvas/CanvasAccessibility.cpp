@@ -1,6 +1,7 @@
 #include "ui/canvas/CanvasAccessibility.h"
 
-#include "ui/ToolChoice.h"
+#include "model/DrawingDocument.h"
+#include "tools/ToolChoice.h"
 #include "ui/canvas/CanvasTexts.h"
 #include "ui/canvas/CanvasView.h"
 #include "ui/canvas/StatusBar.h"
@@ -44,7 +45,7 @@ QString descriptionOf(const DrawingDocument& document) {
     return QCoreApplication::translate("CanvasAccessibility", "%1 × %2 px, %3, %4")
         .arg(wholePixels(size.width), wholePixels(size.height),
              chosenTools(document).join(QLatin1String(" + ")),
-             localizedStrokeCount(strokeCount(document)));
+             localizedStrokeCount(strokeCount(document.layers)));
 }
 
 class AccessibleCanvas final : public QAccessibleWidget {
@@ -82,7 +83,7 @@ void touchDescription(const DrawingDocument& document) {
 void installCanvasAccessibility() { QAccessible::installFactory(makeCanvasInterface); }
 
 CanvasDescriptionChanges::CanvasDescriptionChanges(DrawingDocument& document, QWidget& canvas)
-    : follower_(document, [this, &document] {
+    : follower_(document.changeRegistry(), [this, &document] {
           touchDescription(document);
           if (QAccessible::isActive() && !soon_.isActive()) soon_.start();
       }) {

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 
 #include <QTimer>
 
 class QWidget;
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// Presents status bars and canvas views to assistive technology. A canvas is described by its
 /// size, the chosen tools and the number of strokes at the time of the question. Must be called

@@ -1,6 +1,7 @@
 #include "ui/canvas/CanvasOverlay.h"
 
 #include "render/SelectionOutline.h"
+#include "tools/Selection.h"
 #include "ui/controls/Colors.h"
 #include "ui/controls/Icons.h"
 #include "ui/controls/SemanticColors.h"
@@ -35,7 +36,7 @@ QRectF eyeDropperPlace(const QRectF& canvas) {
 
 CanvasOverlay::CanvasOverlay(const DrawingDocument& document)
     : hasEyeDropper_(document.isEyeDropper) {
-    if (const auto rect = document.selectedStrokeBoundingRect())
+    if (const auto rect = selectedStrokeBoundingRect(document))
         outline_ = Outline{*rect, selectionOutlineOpacity(document)};
 }
 

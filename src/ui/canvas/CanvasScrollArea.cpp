@@ -1,5 +1,6 @@
 #include "ui/canvas/CanvasScrollArea.h"
 
+#include "model/DrawingDocument.h"
 #include "ui/canvas/DisplaySize.h"
 #include "ui/controls/DropShadow.h"
 
@@ -39,8 +40,8 @@ int start(int length, int room, const QScrollBar& bar) {
 
 CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, QWidget* parent)
     : QAbstractScrollArea(parent), document_(document), view_(document, viewport()),
-      layoutFollower_(document, [this] { layOut(); }), descriptionChanges_(document, view_),
-      focusRing_(this) {
+      layoutFollower_(document.changeRegistry(), [this] { layOut(); }),
+      descriptionChanges_(document, view_), focusRing_(this) {
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::Window);
     viewport()->setAutoFillBackground(true);

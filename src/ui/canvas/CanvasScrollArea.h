@@ -1,12 +1,14 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/canvas/CanvasAccessibility.h"
 #include "ui/canvas/CanvasView.h"
 
 #include <QAbstractScrollArea>
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The canvas on its desk: scrolls in both directions, centres a canvas smaller than itself, and
 /// draws the canvas's shadow.

@@ -39,7 +39,7 @@ void acceptCopy(QDropEvent& event) {
 CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document), gesture_(document), imageDrop_(document),
       reader_(document.changeRegistry(), [this](DocumentProperty property) { follow(property); }),
-      pointerShape_(document, [this] { showPointerOfTool(); }) {
+      pointerShape_(document.changeRegistry(), [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
     setAcceptDrops(true);
     setAccessibleName(tr("Canvas"));

@@ -2,10 +2,10 @@
 
 #include "io/ImageDrop.h"
 #include "model/DrawingDocument.h"
+#include "model/Follower.h"
 #include "render/ScreenPicture.h"
 #include "tools/ClickDetector.h"
 #include "tools/PointerGesture.h"
-#include "ui/Follower.h"
 #include "ui/canvas/CanvasOverlay.h"
 
 #include <QWidget>

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <utility>
 
 namespace marlevo {
@@ -40,18 +39,11 @@ constexpr TextLabel::Look layerName{TypeStyle::caption, QFont::Normal, SemanticC
 
 }  // namespace
 
-qint64 strokeCount(const DrawingDocument& document) {
-    return std::accumulate(document.layers->begin(), document.layers->end(), qint64{0},
-                           [](qint64 sum, const Layer& layer) {
-                               return sum + static_cast<qint64>(layer.strokes.size());
-                           });
-}
-
 StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindow, QWidget* parent)
     : QWidget(parent), document_(document), canvasSize_({}, numbers), strokeCount_({}, caption),
       zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}, nullptr, ContinuousSlider::Knob::small),
       zoomText_({}, zoomNumber), activeLayer_({}, layerName),
-      follower_(document, [this] { showDocument(); }) {
+      follower_(document.changeRegistry(), [this] { showDocument(); }) {
     installCanvasAccessibility();
     auto* const actualSize = new SmallButton(tr("100%"));
     auto* const fit = new SmallButton(tr("Fit"));
@@ -84,7 +76,7 @@ void StatusBar::layOut(QWidget* actualSize, QWidget* fit) {
 void StatusBar::showDocument() {
     const CanvasSize size = document_.canvasSize;
     canvasSize_.setText(wholePixels(size.width) + QChar(0x00D7) + wholePixels(size.height));
-    strokeCount_.setText(localizedStrokeCount(strokeCount(document_)));
+    strokeCount_.setText(localizedStrokeCount(strokeCount(document_.layers)));
 
     const QString percent = tr("%1%").arg(static_cast<qint64>(document_.zoom * 100));
     zoom_.showValue(document_.zoom, percent);

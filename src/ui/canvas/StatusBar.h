@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/DrawingDocument.h"
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/TextLabel.h"
 
@@ -10,9 +10,6 @@
 #include <functional>
 
 namespace marlevo {
-
-/// Of all layers, hidden ones too.
-qint64 strokeCount(const DrawingDocument& document);
 
 /// The line below the canvas: the canvas's size, the number of strokes, the zoom with its controls,
 /// and the name of the active layer.

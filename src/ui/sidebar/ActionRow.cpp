@@ -1,5 +1,9 @@
 #include "ui/sidebar/ActionRow.h"
 
+#include "io/Export.h"
+#include "io/Save.h"
+#include "model/DrawingDocument.h"
+
 #include <QHBoxLayout>
 
 namespace marlevo {
@@ -17,8 +21,8 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
       redo_(Icon::redoArrow, tr("Redo"), IconButton::Look::borderless),
       save_(Icon::documentPlus, tr("Save"), IconButton::Look::borderless),
       export_(Icon::trayArrowDown, tr("Export"), IconButton::Look::borderless),
-      undoFollower_(document, [this] { undo_.setEnabled(document_.canUndo()); }),
-      redoFollower_(document, [this] { redo_.setEnabled(document_.canRedo()); }) {
+      undoFollower_(document.changeRegistry(), [this] { undo_.setEnabled(document_.canUndo()); }),
+      redoFollower_(document.changeRegistry(), [this] { redo_.setEnabled(document_.canRedo()); }) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, verticalPadding, 0, verticalPadding);
     row->setSpacing(spacing);
@@ -32,7 +36,7 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
 
     connect(&undo_, &IconButton::clicked, this, [this] { document_.undo(); });
     connect(&redo_, &IconButton::clicked, this, [this] { document_.redo(); });
-    connect(&save_, &IconButton::clicked, this, [this] { document_.save(); });
+    connect(&save_, &IconButton::clicked, this, [this] { save(document_); });
     connect(&export_, &IconButton::clicked, this, &ActionRow::showExportPopover);
 }
 
@@ -40,7 +44,7 @@ void ActionRow::showExportPopover() {
     if (exportPopover_) return;
     exportPopover_ = new ExportPopover(export_);
     connect(exportPopover_, &ExportPopover::formatChosen, this,
-            [this](ExportFormat format) { document_.performExport(format); });
+            [this](ExportFormat format) { performExport(document_, format); });
     exportPopover_->open();
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/IconButton.h"
 #include "ui/sidebar/ExportPopover.h"
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// Undo, redo, save and export.
 class ActionRow final : public QWidget {

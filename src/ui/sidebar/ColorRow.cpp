@@ -1,5 +1,6 @@
 #include "ui/sidebar/ColorRow.h"
 
+#include "model/DrawingDocument.h"
 #include "ui/controls/Colors.h"
 #include "ui/controls/ControlPainting.h"
 #include "ui/controls/DesktopLook.h"
@@ -24,8 +25,8 @@ constexpr int wellWidth = 24;
 ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document),
       well_(tr("Color"), ColorWell::Opacity::fixed, wellWidth),
-      colorFollower_(document, [this] { showColor(); }),
-      swatchesFollower_(document, [this] { showSwatches(); }) {
+      colorFollower_(document.changeRegistry(), [this] { showColor(); }),
+      swatchesFollower_(document.changeRegistry(), [this] { showSwatches(); }) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);

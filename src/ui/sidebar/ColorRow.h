@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/ColorSwatch.h"
 #include "ui/controls/ColorWell.h"
 
@@ -9,6 +9,8 @@
 class QHBoxLayout;
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The colour of new strokes: a circle that shows it, a well to choose any, and swatches.
 class ColorRow final : public QWidget {

@@ -1,6 +1,7 @@
 #include "ui/sidebar/DrawingSection.h"
 
-#include "ui/ToolChoice.h"
+#include "model/DrawingDocument.h"
+#include "tools/ToolChoice.h"
 #include "ui/controls/ModeButtonRow.h"
 #include "ui/controls/ToolNames.h"
 #include "ui/sidebar/SidebarMeasures.h"
@@ -24,8 +25,10 @@ DrawingSection::DrawingSection(DrawingDocument& document, QWidget* parent)
       size_(tr("Size"), sizeRange, [](double width) { return tr("%1px").arg(qint64(width)); }),
       opacity_(tr("Opacity"), opacityRange,
                [](double opacity) { return tr("%1%").arg(qint64(opacity * 100)); }) {
-    followers_.emplace_back(document, [this] { size_.showValue(document_.lineWidth); });
-    followers_.emplace_back(document, [this] { opacity_.showValue(document_.brushOpacity); });
+    followers_.emplace_back(document.changeRegistry(),
+                            [this] { size_.showValue(document_.lineWidth); });
+    followers_.emplace_back(document.changeRegistry(),
+                            [this] { opacity_.showValue(document_.brushOpacity); });
     connect(&size_, &LabeledSlider::moved, this,
             [this](double width) { document_.lineWidth = width; });
     connect(&opacity_, &LabeledSlider::moved, this,
@@ -72,8 +75,9 @@ ModeButton* DrawingSection::makeButton(ModeButton::Kind kind, Icon icon, const Q
                                        std::function<bool()> isChosen,
                                        void (*choose)(DrawingDocument&)) {
     auto* button = new ModeButton(kind, icon, label);
-    followers_.emplace_back(
-        document_, [button, isChosen = std::move(isChosen)] { button->setActive(isChosen()); });
+    followers_.emplace_back(document_.changeRegistry(), [button, isChosen = std::move(isChosen)] {
+        button->setActive(isChosen());
+    });
     connect(button, &ModeButton::chosen, this, [this, choose] { choose(document_); });
     return button;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/LabeledSlider.h"
 #include "ui/controls/ModeButton.h"
 #include "ui/sidebar/ColorRow.h"
@@ -9,6 +9,8 @@
 #include <list>
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The settings of new strokes and the tools.
 class DrawingSection final : public QWidget {

@@ -1,6 +1,7 @@
 #include "ui/sidebar/FormsSection.h"
 
-#include "ui/ToolChoice.h"
+#include "model/DrawingDocument.h"
+#include "tools/ToolChoice.h"
 #include "ui/controls/ModeButtonRow.h"
 #include "ui/controls/TextLabel.h"
 #include "ui/controls/ToolNames.h"
@@ -26,8 +27,9 @@ FormsSection::FormsSection(DrawingDocument& document, QWidget* parent)
 
 ModeButton* FormsSection::makeButton(Icon icon, const QString& label, Stroke::ShapeType type) {
     auto* button = new ModeButton(ModeButton::Kind::secondary, icon, label);
-    followers_.emplace_back(
-        document_, [this, button, type] { button->setActive(isShapeChosen(document_, type)); });
+    followers_.emplace_back(document_.changeRegistry(), [this, button, type] {
+        button->setActive(isShapeChosen(document_, type));
+    });
     connect(button, &ModeButton::chosen, this, [this, type] { chooseShape(document_, type); });
     return button;
 }

@@ -1,11 +1,14 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
+#include "model/Stroke.h"
 #include "ui/controls/ModeButton.h"
 
 #include <list>
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The shapes to draw.
 class FormsSection final : public QWidget {

@@ -1,5 +1,6 @@
 #include "ui/sidebar/LayerCount.h"
 
+#include "model/DrawingDocument.h"
 #include "ui/controls/ControlPainting.h"
 
 #include <QPainter>
@@ -15,7 +16,7 @@ constexpr int verticalPadding = 2;
 
 LayerCount::LayerCount(DrawingDocument& document, QWidget* parent)
     : TextLabel({}, {TypeStyle::caption2, QFont::Medium, SemanticColor::tertiary}, parent),
-      follower_(document, [this, &document] {
+      follower_(document.changeRegistry(), [this, &document] {
           setText(locale().toString(qulonglong(document.layers->size())));
       }) {
     setContentsMargins(sidePadding, verticalPadding, sidePadding, verticalPadding);

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/TextLabel.h"
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// How many layers there are, on a capsule beside the section's title.
 class LayerCount final : public TextLabel {

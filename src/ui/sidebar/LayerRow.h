@@ -6,6 +6,8 @@
 
 namespace marlevo {
 
+class DrawingDocument;
+
 /// The button with an eye that shows and hides a layer.
 class EyeButton final : public PaintedButton {
     Q_OBJECT

@@ -1,5 +1,6 @@
 #include "ui/sidebar/LayerRows.h"
 
+#include "model/DrawingDocument.h"
 #include "ui/sidebar/SidebarAccessibility.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ QWidget* stopBefore(const QWidget& area) {
 
 LayerRows::LayerRows(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document), layout_(new QVBoxLayout(this)),
-      follower_(document, [this] { showLayers(); }) {
+      follower_(document.changeRegistry(), [this] { showLayers(); }) {
     installSidebarAccessibility();
     setAccessibleName(tr("Layers"));
     layout_->setContentsMargins(0, 0, 0, 0);

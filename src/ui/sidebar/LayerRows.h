@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/sidebar/LayerRow.h"
 
 #include <QVBoxLayout>
@@ -8,6 +8,8 @@
 #include <vector>
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The list of layers, the top one first.
 class LayerRows final : public QWidget {

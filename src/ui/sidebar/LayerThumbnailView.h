@@ -8,6 +8,8 @@
 
 namespace marlevo {
 
+class DrawingDocument;
+
 /// Shows a layer's small picture in a frame of 44 × 32 points. Nothing is rendered while it is not
 /// on screen.
 class LayerThumbnailView final : public QWidget {

@@ -1,6 +1,7 @@
 #include "ui/sidebar/LayersSection.h"
 
-#include "ui/LayerCommands.h"
+#include "model/DrawingDocument.h"
+#include "model/LayerOperations.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -21,7 +22,7 @@ LayersSection::LayersSection(DrawingDocument& document, QWidget* parent)
       delete_(Icon::minus, tr("Delete layer"), IconButton::Look::bordered),
       moveUp_(Icon::arrowUp, tr("Move layer up"), IconButton::Look::bordered),
       moveDown_(Icon::arrowDown, tr("Move layer down"), IconButton::Look::bordered),
-      buttonsFollower_(document, [this] { showButtons(); }) {
+      buttonsFollower_(document.changeRegistry(), [this] { showButtons(); }) {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(buttonSpacing);
     buttons->addWidget(&add_);

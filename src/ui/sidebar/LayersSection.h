@@ -1,10 +1,12 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/IconButton.h"
 #include "ui/sidebar/LayerRows.h"
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The list of layers and the buttons that change it.
 class LayersSection final : public QWidget {

@@ -1,5 +1,7 @@
 #include "ui/sidebar/ViewSection.h"
 
+#include "model/DrawingDocument.h"
+
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -19,10 +21,12 @@ ViewSection::ViewSection(DrawingDocument& document, QWidget* parent)
       background_(tr("Background color"), ColorWell::Opacity::choosable, wellWidth),
       backgroundLabel_(tr("Background color"), {TypeStyle::callout}),
       transparent_(tr("Transparent background")),
-      gridFollower_(document, [this] { grid_.showChecked(document_.showGrid); }),
-      backgroundFollower_(document, [this] { background_.showColor(document_.backgroundColor); }),
-      transparentFollower_(
-          document, [this] { transparent_.showChecked(document_.backgroundIsTransparent); }) {
+      gridFollower_(document.changeRegistry(), [this] { grid_.showChecked(document_.showGrid); }),
+      backgroundFollower_(document.changeRegistry(),
+                          [this] { background_.showColor(document_.backgroundColor); }),
+      transparentFollower_(document.changeRegistry(), [this] {
+          transparent_.showChecked(document_.backgroundIsTransparent);
+      }) {
     auto* color = new QHBoxLayout;
     color->setSpacing(rowSpacing);
     color->addWidget(&background_);

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 #include "ui/controls/CheckBox.h"
 #include "ui/controls/ColorWell.h"
 #include "ui/controls/TextLabel.h"
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// How the canvas looks: its grid and its background.
 class ViewSection final : public QWidget {

@@ -1,6 +1,7 @@
 #include "ui/windows/KeyMonitor.h"
 
 #include "model/DrawingDocument.h"
+#include "tools/Selection.h"
 #include "ui/canvas/ZoomRange.h"
 
 #include <QApplication>
@@ -72,7 +73,7 @@ KeyMonitor::Action KeyMonitor::actionOf(const QKeyEvent& press) const {
     }
     const bool deletesStroke =
         isDelete(press) && document_.isSelectTool && document_.selectedStrokeIndex->has_value();
-    if (deletesStroke) return [this] { document_.deleteSelectedStroke(); };
+    if (deletesStroke) return [this] { deleteSelectedStroke(document_); };
     return {};
 }
 
@@ -95,8 +96,7 @@ KeyMonitor::Action KeyMonitor::controlActionOf(const QKeyEvent& press) const {
 void KeyMonitor::toggleEraser() const {
     document_.isEraser = !document_.isEraser;
     document_.isSelectTool = false;
-    document_.selectedLayerID = std::nullopt;
-    document_.selectedStrokeIndex = std::nullopt;
+    document_.clearSelection();
 }
 
 }  // namespace marlevo

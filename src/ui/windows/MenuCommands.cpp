@@ -1,6 +1,9 @@
 #include "ui/windows/MenuCommands.h"
 
-#include "ui/LayerCommands.h"
+#include "io/Export.h"
+#include "io/Save.h"
+#include "model/DrawingDocument.h"
+#include "model/LayerOperations.h"
 #include "ui/windows/HelpMenu.h"
 #include "ui/windows/MarlevoApp.h"
 #include "ui/windows/TextFieldCommands.h"
@@ -32,11 +35,10 @@ void MenuCommands::addFileMenu() {
     addCommand(file, tr("Open…"), Qt::CTRL | Qt::Key_O, [this] { app_.openDocument(); });
     file.addSeparator();
     addCommand(file, tr("Close"), Qt::CTRL | Qt::Key_W, [this] { window()->close(); });
-    addDocumentCommand(file, tr("Save"), Qt::CTRL | Qt::Key_S, &DrawingDocument::save);
-    addDocumentCommand(file, tr("Save As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
-                       &DrawingDocument::saveAs);
+    addDocumentCommand(file, tr("Save"), Qt::CTRL | Qt::Key_S, save);
+    addDocumentCommand(file, tr("Save As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, saveAs);
     file.addSeparator();
-    addDocumentCommand(file, tr("Print…"), Qt::CTRL | Qt::Key_P, &DrawingDocument::printDocument);
+    addDocumentCommand(file, tr("Print…"), Qt::CTRL | Qt::Key_P, printDocument);
     addExportMenu(file);
     file.addSeparator();
     addCommand(file, tr("Quit"), Qt::CTRL | Qt::Key_Q, [this] { app_.quit(); });
@@ -47,7 +49,7 @@ void MenuCommands::addExportMenu(QMenu& file) {
     for (const ExportFormat format : allExportFormats) {
         const std::string_view name = rawValue(format);
         addDocumentCommand(formats, QString::fromUtf8(name.data(), qsizetype(name.size())), {},
-                           [format](DrawingDocument& d) { d.performExport(format); });
+                           [format](DrawingDocument& d) { performExport(d, format); });
     }
     // A submenu does nothing by itself when its shortcut is typed: show the formats.
     QAction& exportItem = *formats.menuAction();
@@ -67,8 +69,7 @@ void MenuCommands::addEditMenu() {
                                 &DrawingDocument::redo);
     edit.addSeparator();
     new TextFieldCommands(edit, *window());
-    addDocumentCommand(edit, tr("Copy Canvas"), Qt::CTRL | Qt::SHIFT | Qt::Key_C,
-                       &DrawingDocument::copyToClipboard);
+    addDocumentCommand(edit, tr("Copy Canvas"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, copyToClipboard);
     edit.addSeparator();
     addCommand(edit, tr("Settings…"), Qt::CTRL | Qt::Key_Comma, [this] { app_.showSettings(); });
 }
@@ -132,7 +133,7 @@ void MenuCommands::followFocusedDocument() {
         action->setEnabled(document != nullptr);
     historyFollower_.reset();
     if (document == nullptr) return;
-    historyFollower_.emplace(*document, [this, document] {
+    historyFollower_.emplace(document->changeRegistry(), [this, document] {
         undo_->setEnabled(document->canUndo());
         redo_->setEnabled(document->canRedo());
     });

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/ExportFormat.h"
-#include "ui/Follower.h"
+#include "model/Follower.h"
 
 #include <QKeySequence>
 #include <QMenuBar>
@@ -12,6 +12,7 @@
 
 namespace marlevo {
 
+class DrawingDocument;
 class MarlevoApp;
 
 /// The menus of a window. Their commands act on the focused document, whichever window they stand

@@ -1,5 +1,6 @@
 #include "ui/windows/WindowAccessor.h"
 
+#include "io/Export.h"
 #include "io/FileTypes.h"
 #include "model/DrawingDocument.h"
 #include "ui/canvas/StatusBar.h"
@@ -26,7 +27,7 @@ bool WindowAccessor::Coordinator::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool WindowAccessor::Coordinator::windowShouldClose(QWidget& window) {
-    if (shouldSkipClose_ || strokeCount(document_) < 1) return true;
+    if (shouldSkipClose_ || strokeCount(document_.layers) < 1) return true;
     if (alert_)
         alert_->raise();
     else
@@ -72,9 +73,9 @@ void WindowAccessor::Coordinator::savePictureThenClose(QWidget& window) {
     }
     services.filePanels->showSavePanel(
         {services.translate("Files", "Save Drawing"), fileType(ExportFormat::png, services),
-         document_.proposedPictureName(ExportFormat::png), std::nullopt},
+         proposedPictureName(document_, ExportFormat::png), std::nullopt},
         [this, &window](const std::optional<std::filesystem::path>& file) {
-            if (file) document_.exportTo(*file, ExportFormat::png);
+            if (file) exportTo(document_, *file, ExportFormat::png);
             window.close();
         });
 }

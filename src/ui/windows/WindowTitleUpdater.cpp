@@ -1,5 +1,7 @@
 #include "ui/windows/WindowTitleUpdater.h"
 
+#include "model/DrawingDocument.h"
+
 #include <QWidget>
 
 #include <utility>
@@ -17,7 +19,7 @@ QString literal(QString title) {
 
 WindowTitleUpdater::WindowTitleUpdater(DrawingDocument& document, QWidget& view,
                                        std::function<QString()> title)
-    : follower_(document, [&view, title = std::move(title)] {
+    : follower_(document.changeRegistry(), [&view, title = std::move(title)] {
           QMetaObject::invokeMethod(
               &view, [&view, text = literal(title())] { view.window()->setWindowTitle(text); },
               Qt::QueuedConnection);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Follower.h"
+#include "model/Follower.h"
 
 #include <QString>
 
@@ -9,6 +9,8 @@
 class QWidget;
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// Keeps the title of the window that a view is in equal to a text; each change arrives there after
 /// the current event.

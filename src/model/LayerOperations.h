@@ -4,7 +4,7 @@ namespace marlevo {
 
 class DrawingDocument;
 
-// The commands on the active layer. Where there is nothing to do they change nothing.
+// Commands on a document's active layer. Where one does not apply it changes nothing.
 
 /// Never deletes the last layer.
 void deleteActiveLayer(DrawingDocument& document);

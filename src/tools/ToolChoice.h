@@ -1,12 +1,13 @@
 #pragma once
 
-#include "model/DrawingDocument.h"
+#include "model/Stroke.h"
 
 namespace marlevo {
 
-// What choosing a tool does to the document: at most one tool flag stays set and the selection is
-// cleared, except by the select tool. Readers see the flags change one by one, the chosen one
-// first.
+class DrawingDocument;
+
+// Choosing a tool of a document. At most one tool flag stays set, and the selection is cleared
+// except by the select tool. The flags publish one by one, the chosen one first.
 
 void chooseBrush(DrawingDocument& document);
 void chooseEraser(DrawingDocument& document);
@@ -15,7 +16,7 @@ void chooseEyeDropper(DrawingDocument& document);
 void chooseSelect(DrawingDocument& document);
 void chooseShape(DrawingDocument& document, Stroke::ShapeType type);
 
-/// Whether the shape tool is chosen and draws this shape.
+/// True when the shape tool is chosen and draws this shape.
 bool isShapeChosen(const DrawingDocument& document, Stroke::ShapeType type);
 
 }  // namespace marlevo

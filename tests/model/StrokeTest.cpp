@@ -1,4 +1,5 @@
 #include "model/Stroke.h"
+
 #include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@ namespace {
 
 using Type = Stroke::ShapeType;
 
-TEST(StrokeGeometry, FreehandCurvesRunThroughMidpointsFromFirstPointToLast) {
+TEST(Stroke, FreehandCurvesRunThroughMidpointsFromFirstPointToLast) {
     Path expected;
     expected.move({0, 0});
     expected.addQuadCurve({5, 0}, {0, 0});
@@ -25,14 +26,14 @@ TEST(StrokeGeometry, FreehandCurvesRunThroughMidpointsFromFirstPointToLast) {
     EXPECT_TRUE(makeStroke({}).path().isEmpty());
 }
 
-TEST(StrokeGeometry, LinesRunFromTheFirstPointToTheLast) {
+TEST(Stroke, LinesRunFromTheFirstPointToTheLast) {
     Path expected;
     expected.move({1, 2});
     expected.addLine({5, 6});
     EXPECT_EQ(makeStroke({{1, 2}, {90, 90}, {5, 6}}, 3, Type::line).path(), expected);
 }
 
-TEST(StrokeGeometry, ShapesSpanTheirFirstTwoPointsWhicheverWayTheyWereDragged) {
+TEST(Stroke, ShapesSpanTheirFirstTwoPointsWhicheverWayTheyWereDragged) {
     const Rect expected{{4, 8}, {6, 12}};
     EXPECT_EQ(makeStroke({{10, 20}, {4, 8}}, 3, Type::rect).boundingCGRect(), expected);
     EXPECT_EQ(makeStroke({{4, 8}, {10, 20}}, 3, Type::rect).boundingCGRect(), expected);

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+
+namespace marlevo {
+
+class DrawingDocument;
+
+/// Writes the drawing to the file, in place and whole, and makes it the document's file. A failure
+/// is one line "Save failed: …" on the console and changes nothing.
+void writeDocument(DrawingDocument& document, const std::filesystem::path& to);
+
+/// Writes to the document's file; without one, asks as saveAs() does.
+void save(DrawingDocument& document);
+
+/// Asks for a file in a save panel, then writes to it. The panel refers to the document and must be
+/// closed before the document is destroyed.
+void saveAs(DrawingDocument& document);
+
+}  // namespace marlevo
