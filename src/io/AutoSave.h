@@ -9,8 +9,8 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// Writes a window's document to its file every 30 seconds, changed or not, while the user's
-/// setting allows it and the document has a file. Ends with this object; does nothing for a
+/// Writes a document to its file every 30 seconds, changed or not, as long as the user's setting is
+/// on and the document has a file. Ends with the destruction of this object. Does nothing for a
 /// document without a clock or preferences.
 class AutoSave {
 public:

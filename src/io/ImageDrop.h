@@ -19,9 +19,9 @@ public:
     ImageDrop(const ImageDrop&) = delete;
     ImageDrop& operator=(const ImageDrop&) = delete;
 
-    /// Begins to load every item that offers an image; true when there is one. Each image becomes
-    /// a layer of its own and one undo step when its bytes are there, in the order in which the
-    /// loads end, on the user-interface thread. Items that deliver nothing change nothing.
+    /// Begins to load all items that offer an image. True if there is one. Each image becomes a
+    /// layer and one undo step when its load ends, on the user-interface thread. Items that deliver
+    /// nothing change nothing.
     bool handleDrop(std::span<const std::unique_ptr<ItemProvider>> providers);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace marlevo {
 
-/// "Files" are width and height in one byte each, then the pixels as they stand in a RasterImage.
+/// Its "files" are width and height, one byte each, then the bytes of a RasterImage.
 class FakeImageCodec : public ImageCodec {
 public:
     std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {

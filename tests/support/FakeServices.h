@@ -18,7 +18,7 @@ public:
     std::vector<std::string> lines;
 };
 
-/// Keeps the last request; the test answers through `answer`.
+/// Stores the last request. The test answers it by `answer`.
 class FakeFilePanels : public FilePanels {
 public:
     void showSavePanel(const SavePanelRequest& request, Completion completion) override {
@@ -35,7 +35,7 @@ public:
     Completion answer;
 };
 
-/// Time passes when the test says so.
+/// A clock that runs only in advance().
 class FakeClock : public SleepingClock {
 public:
     std::unique_ptr<Sleep> sleep(std::chrono::nanoseconds duration,
@@ -75,7 +75,7 @@ private:
     std::map<const Sleep*, Entry> sleeps_;
 };
 
-/// Nothing is stored at first.
+/// Preferences in memory, empty at first.
 class FakePreferences : public Preferences {
 protected:
     std::optional<double> storedNumber(std::string_view key) const override {

@@ -9,7 +9,7 @@
 
 namespace marlevo {
 
-/// A queue that runs its work when told to, on the thread that tells; posting is thread-safe.
+/// A queue that runs its work in run(), on the calling thread. post() is thread-safe.
 template <typename Queue>
 class ManualQueue : public Queue {
 public:
@@ -23,7 +23,7 @@ public:
         return waiting_.size();
     }
 
-    /// Runs what is waiting now; false if there was nothing.
+    /// Runs the work that has been posted by now. False if there is none.
     bool run() {
         std::deque<std::function<void()>> work;
         {

@@ -15,7 +15,7 @@
 
 namespace marlevo {
 
-/// The first page of a PDF file as another program shows it on white, a pixel a point.
+/// The first page of a PDF file, rendered on white by another program at a pixel a point.
 struct PagePicture {
     int width = 0;
     int height = 0;
@@ -27,7 +27,7 @@ struct PagePicture {
     }
 };
 
-/// A program that shows pages, and how to call it for `in.pdf` and `out`, a PPM file.
+/// A program that renders pages, with its arguments to turn `in.pdf` into `out`, a PPM file.
 struct PageReader {
     const char* name;
     const char* program;
@@ -48,7 +48,7 @@ inline bool isInstalled(const PageReader& reader) {
     return std::system(("command -v " + std::string(reader.program) + " >/dev/null").c_str()) == 0;
 }
 
-/// Nothing when the reader fails or has something to complain about.
+/// Nothing if the reader fails or reports a warning.
 inline std::optional<PagePicture> showPage(const PageReader& reader,
                                            std::span<const std::uint8_t> pdf) {
     const auto folder = std::filesystem::temp_directory_path() /
@@ -64,7 +64,7 @@ inline std::optional<PagePicture> showPage(const PageReader& reader,
         std::string magic;
         int most = 0;
         picture.emplace();
-        // Ghostscript names itself in a comment.
+        // Ghostscript writes a comment line.
         file >> magic >> std::ws;
         if (file.peek() == '#') std::getline(file, magic);
         file >> picture->width >> picture->height >> most;

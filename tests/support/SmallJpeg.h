@@ -31,7 +31,7 @@ inline constexpr std::array<std::uint8_t, 300> smallJpeg{
 };
 // clang-format on
 
-/// The file with a segment put in behind its first two: `marker` and what follows the length.
+/// The file with a segment inserted behind its first two. `segment` is the part after the length.
 inline std::vector<std::uint8_t> jpegWithSegment(std::uint8_t marker,
                                                  std::vector<std::uint8_t> segment) {
     constexpr std::size_t place = 20;
@@ -43,7 +43,7 @@ inline std::vector<std::uint8_t> jpegWithSegment(std::uint8_t marker,
     return file;
 }
 
-/// The file with Exif data that name an orientation, 1 to 8.
+/// The file with Exif data for an orientation, 1 to 8.
 inline std::vector<std::uint8_t> jpegWithOrientation(std::uint8_t orientation) {
     return jpegWithSegment(0xE1, {'E', 'x', 'i', 'f',         0, 0,    'M',  'M', 0, 42, 0,
                                   0,   0,   8,   0,           1, 0x01, 0x12, 0,   3, 0,  0,

@@ -9,7 +9,7 @@
 
 namespace marlevo {
 
-/// An empty folder that goes away with its contents.
+/// A new, empty folder. The destructor deletes it with its contents.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
