@@ -1,6 +1,7 @@
 #include "graphics/AccumulationBuffer.h"
 
 #include "graphics/AccumulationSweep.h"
+#include "graphics/RasterScratch.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,8 +11,7 @@ namespace marlevo {
 
 namespace {
 
-/// Slopes carry this many bits behind the point: a slope times a length within ±2³¹ stays in
-/// 64 bits.
+/// Number of fractional bits of a slope. The product with a length within ±2³¹ fits 64 bits.
 constexpr int slopeBits = 30;
 
 std::int64_t slopeOf(std::int32_t rise, std::int32_t run) {
@@ -24,7 +24,8 @@ std::int32_t along(std::int32_t start, std::int64_t slope, std::int32_t distance
     return start + static_cast<std::int32_t>((slope * distance + half) >> slopeBits);
 }
 
-/// Sums wrap where an outline winds more than 16,000 times around a pixel.
+/// Adds without undefined overflow: sums wrap where an outline winds more than 16,000 times around
+/// a pixel.
 void addWrapping(std::int32_t& sum, std::int32_t term) {
     sum = static_cast<std::int32_t>(static_cast<std::uint32_t>(sum) +
                                     static_cast<std::uint32_t>(term));
@@ -32,8 +33,8 @@ void addWrapping(std::int32_t& sum, std::int32_t term) {
 
 }  // namespace
 
-/// Where an edge is at the borders of rows and columns. That must not depend on the border before,
-/// or bands would differ, so it is reckoned from the edge's upper end each time.
+/// The points of an edge on the borders of rows and columns. Each is computed from the edge's upper
+/// end: computed from the border before, it would depend on the band.
 struct AccumulationBuffer::EdgeLine {
     Edge edge;
     std::int64_t xPerY = 0;
@@ -48,52 +49,53 @@ struct AccumulationBuffer::EdgeLine {
 
     std::int32_t xAt(std::int32_t y) const { return y == edge.y1 ? edge.x1 : xBetweenEnds(y); }
     std::int32_t xBetweenEnds(std::int32_t y) const { return along(edge.x0, xPerY, y - edge.y0); }
-    /// Kept within the rows' part of the edge.
+    /// Limited to the part of the edge in one row.
     std::int32_t yAt(std::int32_t x, std::int32_t topY, std::int32_t bottomY) const {
         return std::clamp(along(edge.y0, yPerX, x - edge.x0), topY, bottomY);
     }
 };
 
-/// The part of an edge in one row, seen from left to right.
+/// The part of an edge in one row, from left to right.
 struct AccumulationBuffer::EdgePiece {
     std::int32_t topY;
     std::int32_t bottomY;
     bool leansRight;
-    std::int32_t winding;  ///< of the piece as it runs from left to right
+    std::int32_t winding;  ///< of the piece from left to right
     std::int32_t left;
     std::int32_t right;
     std::int32_t leftY;
     std::int32_t rightY;
     std::int32_t firstColumn;  ///< counted from the left of the area
     std::int32_t lastColumn;
-    std::int32_t enteredAt;  ///< how far right of its cell's left side the piece begins
+    std::int32_t enteredAt;  ///< distance of the left end from its cell's left side
 
-    /// From its upper end at (xa, ya) to its lower one; `of` says how the edge winds downwards.
-    EdgePiece(std::int32_t xa, std::int32_t ya, std::int32_t xb, std::int32_t yb, std::int32_t of,
-              int areaLeft)
-        : topY(ya), bottomY(yb), leansRight(xa < xb), winding(leansRight ? of : -of),
-          left(std::min(xa, xb)), right(std::max(xa, xb)), leftY(leansRight ? ya : yb),
-          rightY(leansRight ? yb : ya), firstColumn((left >> subpixelBits) - areaLeft),
+    /// From (xa, ya) down to (xb, yb), of an edge with this winding.
+    EdgePiece(std::int32_t xa, std::int32_t ya, std::int32_t xb, std::int32_t yb,
+              std::int32_t edgeWinding, int areaLeft)
+        : topY(ya), bottomY(yb), leansRight(xa < xb),
+          winding(leansRight ? edgeWinding : -edgeWinding), left(std::min(xa, xb)),
+          right(std::max(xa, xb)), leftY(leansRight ? ya : yb), rightY(leansRight ? yb : ya),
+          firstColumn((left >> subpixelBits) - areaLeft),
           lastColumn((right >> subpixelBits) - areaLeft), enteredAt(left & (subpixels - 1)) {}
 };
 
-/// The cells and marks of a row from its first column on.
+/// The cells and marks of a row.
 struct AccumulationBuffer::RowStart {
     std::int32_t* cells;
     std::uint8_t* dirty;
 
-    void markDirty(std::int32_t column) const { dirty[column / sumBlockWidth] = dirtyMark; }
+    void markDirty(std::int32_t column) const { dirty[column / cellsPerMark] = dirtyMark; }
 };
 
 void AccumulationBuffer::reset(const IntRect& area) {
     area_ = area;
-    // An edge in the last column writes up to two cells behind it.
+    // An edge in the last column writes to the two cells after it.
     const std::size_t blocks =
-        (static_cast<std::size_t>(area.width()) + 1 + sumBlockWidth) / sumBlockWidth;
+        (static_cast<std::size_t>(area.width()) + 1 + cellsPerMark) / cellsPerMark;
     const auto rows = static_cast<std::size_t>(area.height());
-    rowCells_ = blocks * sumBlockWidth;
+    rowCells_ = blocks * cellsPerMark;
     rowMarks_ = (blocks + markGroup - 1) / markGroup * markGroup;
-    // Blending leaves everything 0, so whatever the rows were, what is there can be used again.
+    // Blending sets everything to 0, so that memory can be reused for rows of another length.
     const auto reserve = [](auto& values, std::size_t count) {
         if (values.size() < count) values.resize(count);
     };
@@ -129,17 +131,17 @@ void AccumulationBuffer::add(const Edge& edge) {
     }
 }
 
-/// Adds a piece that touches at most two cells, both in the area, without any branch: the commonest
-/// kind, and which of the two it is cannot be predicted.
+/// Adds a piece that touches at most two cells, both in the area: the most frequent kind. Without
+/// branches, because one cell or two cannot be predicted.
 inline void AccumulationBuffer::addPair(RowStart row, const EdgePiece& piece,
                                         const EdgeLine& line) {
     const std::int32_t border = piece.left - piece.enteredAt + subpixels;
     const std::int32_t beyond = std::max(piece.right - border, 0);
     const std::int32_t atBorder =
         line.yAt(std::min(border, piece.right), piece.topY, piece.bottomY);
-    // All bits where the piece goes beyond the border, none where it does not.
-    const std::int32_t goesBeyond = -static_cast<std::int32_t>(beyond > 0);
-    const std::int32_t second = (piece.rightY - atBorder) & goesBeyond;
+    // All bits are set if the piece crosses the border, else none.
+    const std::int32_t crossesBorder = -static_cast<std::int32_t>(beyond > 0);
+    const std::int32_t second = (piece.rightY - atBorder) & crossesBorder;
     const std::int32_t first = piece.rightY - piece.leftY - second;
     const std::int32_t firstX = piece.enteredAt + piece.right - beyond - (border - subpixels);
     std::int32_t* const cell = row.cells + piece.firstColumn;
@@ -152,7 +154,7 @@ inline void AccumulationBuffer::addPair(RowStart row, const EdgePiece& piece,
 
 /// Adds any piece, cell by cell from left to right.
 ///
-/// Takes copies, because what is never referred to stays in registers.
+/// Parameters by value: the compiler keeps them in registers (measured).
 void AccumulationBuffer::addPiece(std::size_t row, EdgePiece piece, EdgeLine line) {
     const std::int32_t width = area_.width();
     if (piece.lastColumn < 0) {
@@ -181,7 +183,7 @@ void AccumulationBuffer::addPiece(std::size_t row, EdgePiece piece, EdgeLine lin
         y = nextY;
     };
     for (std::int32_t block = column; block <= std::min(piece.lastColumn, width - 1);
-         block += sumBlockWidth)
+         block += cellsPerMark)
         start.markDirty(block);
     start.markDirty(std::min(piece.lastColumn, width - 1) + 1);
     std::int32_t nextX = (column + area_.left + 1) * subpixels;
@@ -214,14 +216,13 @@ std::int32_t AccumulationBuffer::sumOfCells(int y, std::size_t count) const {
 
 void AccumulationBuffer::blendRow(int y, int left, int right, std::int32_t before,
                                   std::uint8_t* pixels, PackedColor color) const {
-    // A copy, which blending clears.
-    thread_local std::vector<std::int32_t> copy;
-    thread_local std::vector<std::uint8_t> dirty;
+    // A copy, because the sweep clears its row.
+    auto& [copy, dirty] = RasterScratch::ofThread().row;
     const std::size_t first = static_cast<std::size_t>(left - area_.left);
     const std::size_t count = static_cast<std::size_t>(right - left);
-    const std::size_t blocks = (count + sumBlockWidth) / sumBlockWidth;  // and a cell behind
+    const std::size_t blocks = (count + cellsPerMark) / cellsPerMark;  // and one cell more
     const std::size_t marks = (blocks + markGroup - 1) / markGroup * markGroup;
-    if (copy.size() < blocks * sumBlockWidth) copy.resize(blocks * sumBlockWidth);
+    if (copy.size() < blocks * cellsPerMark) copy.resize(blocks * cellsPerMark);
     if (dirty.size() < marks) dirty.resize(marks);
     const std::int32_t* const cells = &cells_[static_cast<std::size_t>(y - area_.top) * rowCells_];
     std::copy_n(cells + first, count, copy.begin());

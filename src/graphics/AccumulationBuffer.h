@@ -9,7 +9,7 @@
 
 namespace marlevo {
 
-/// A straight edge in 1/256 pixel, from its upper end to its lower one: y0 < y1.
+/// A straight edge in 1/256 pixel from its upper end to its lower one: y0 < y1.
 struct Edge {
     std::int32_t x0 = 0;
     std::int32_t y0 = 0;
@@ -19,38 +19,40 @@ struct Edge {
     std::int32_t winding = 1;
 };
 
-/// Collects the signed area and cover of edges in a band of pixel rows, and turns them into
-/// coverage. What an edge adds to a cell is a function of the edge and the cell alone, never of
-/// the band, and sums of integers do not depend on order.
+/// Accumulates the signed area and cover of edges in the cells, one per pixel, of a band of rows,
+/// and converts them to coverage: the running sum along a row is the winding number averaged over
+/// each pixel (after Raph Levien's font-rs and David Turner's FreeType, in integers).
+///
+/// The contribution of an edge to a cell depends on the edge and the cell alone, never on the band,
+/// and sums of integers do not depend on their order.
 class AccumulationBuffer {
 public:
     static constexpr int subpixelBits = 8;
     static constexpr std::int32_t subpixels = 1 << subpixelBits;
 
-    /// Makes the band cover `area`, a non-empty rectangle, with nothing in it.
+    /// Covers `area`, which is not empty, without edges. All edges must be blended before.
     void reset(const IntRect& area);
 
-    /// Adds the part of the edge that lies in the band's rows. What is left of the area counts
-    /// for all its columns, what is right of it for none. Coordinates are within ±2²⁹.
+    /// Adds the part of the edge in the band's rows. What is left of the area counts for all its
+    /// columns, what is right of it for none. Coordinates are within ±2²⁹.
     void add(const Edge& edge);
 
-    /// Blends `color` on the pixels of `target`, which must hold the whole area, by what has been
-    /// collected, and leaves the band empty as after reset().
+    /// Blends `color` onto the pixels of `target`, which must contain the area, and removes all
+    /// edges.
     void blendInto(const PixelBuffer& target, PackedColor color);
 
-    /// What the edges within the area add to all columns behind it in row `y`.
+    /// The sum of all cells in row `y`: the contribution of its edges to the columns behind.
     std::int32_t rowSum(int y) const;
 
-    /// Blends `color` on the pixels (left … right − 1) of row `y`, which lie in the area, and keeps
-    /// what was collected. `before` is the row's sum left of the area, where edges that were added
-    /// do not count.
+    /// Blends `color` onto the pixels (left … right − 1) of row `y`, which are in the area, and
+    /// keeps the edges. `before` is the row's sum left of the area; edges there that were added to
+    /// this buffer are ignored.
     void blendRow(int y, int left, int right, std::int32_t before, std::uint8_t* pixels,
                   PackedColor color) const;
 
 private:
     struct EdgeLine;
     struct EdgePiece;
-
     struct RowStart;
 
     static void addPair(RowStart row, const EdgePiece& piece, const EdgeLine& line);
@@ -58,11 +60,11 @@ private:
     std::int32_t sumOfCells(int y, std::size_t count) const;
 
     IntRect area_;
-    std::size_t rowCells_ = 0;  ///< whole blocks, with room for the cell behind the last column
+    std::size_t rowCells_ = 0;  ///< a multiple of cellsPerMark, more than the area's columns
     std::size_t rowMarks_ = 0;
     std::vector<std::int32_t> cells_;      ///< differences of the running sum, row by row
     std::vector<std::int32_t> leftCover_;  ///< the running sum at the start of each row
-    std::vector<std::uint8_t> dirty_;      ///< `dirtyMark` where a block is not all 0
+    std::vector<std::uint8_t> dirty_;      ///< `dirtyMark` where cells may differ from 0
 };
 
 }  // namespace marlevo

@@ -4,11 +4,11 @@
 #include <bit>
 #include <cstring>
 
-// Compiles this file once for each instruction set; must come before what includes Highway.
+// Compiles this file once per instruction set. Precedes every include of Highway.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "graphics/AccumulationSweep.cpp"
 #include <hwy/foreach_target.h>
-// After foreach_target.h, which says what to compile it for.
+// Follows foreach_target.h, which sets the instruction set.
 #include "graphics/BlendVector-inl.h"
 
 #ifndef MARLEVO_GRAPHICS_ACCUMULATION_SWEEP_ONCE
@@ -27,9 +27,9 @@ std::int32_t wrappingSum(std::int32_t a, std::int32_t b) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
 }
 
-/// Blends and clears cells one by one; gives back the running sum behind the last.
-std::int32_t blendCells(std::int32_t* cells, std::size_t count, std::int32_t running,
-                        std::uint8_t* pixels, PackedColor color) {
+/// Blends and clears cells one by one; returns the running sum after the last.
+inline std::int32_t blendCells(std::int32_t* cells, std::size_t count, std::int32_t running,
+                               std::uint8_t* pixels, PackedColor color) {
     for (std::size_t i = 0; i < count; ++i) {
         running = wrappingSum(running, cells[i]);
         cells[i] = 0;
@@ -46,14 +46,10 @@ HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 namespace {
 
-#if HWY_TARGET != HWY_SCALAR
-
-/// Blends cells as blendCells does, a vector at a time.
+/// Blends cells as marlevo::blendCells does, a vector at a time.
 class CellBlender {
 public:
-    explicit CellBlender(PackedColor color)
-        : packed_(color), color_(unpackBytes(d32, loadPixelOfColor(d32, color))),
-          alpha_(hn::Set(d16, color.alpha)) {}
+    explicit CellBlender(PackedColor color) : color_(color), blender_(color) {}
 
     std::int32_t blendCells(std::int32_t* HWY_RESTRICT cells, std::size_t count,
                             std::int32_t running, std::uint8_t* HWY_RESTRICT pixels) const {
@@ -64,10 +60,10 @@ public:
             const auto sums = hn::Add(prefixSums(hn::LoadU(dSum, cells + done)), before);
             hn::StoreU(hn::Zero(dSum), dSum, cells + done);
             before = hn::TableLookupLanes(sums, hn::IndicesFromVec(dSum, hn::Set(dSum, last())));
-            blendVector(coverageOf(sums), pixels + 4 * done);
+            blender_.blend(coverageOf(sums), pixels + 4 * done);
         }
         running = hn::GetLane(before);
-        return marlevo::blendCells(cells + done, count - done, running, pixels + 4 * done, packed_);
+        return marlevo::blendCells(cells + done, count - done, running, pixels + 4 * done, color_);
     }
 
     void blendEvenly(std::uint8_t coverage, std::size_t count, std::uint8_t* pixels) const {
@@ -75,9 +71,9 @@ public:
         const auto cover = hn::Set(d32, std::uint32_t{coverage});
         std::size_t done = 0;
         for (; done + lanes <= count; done += lanes)
-            blendVector(cover, pixels + 4 * done);
+            blender_.blend(cover, pixels + 4 * done);
         for (; done < count; ++done)
-            blendPixel(pixels + 4 * done, packed_, coverage);
+            blendPixel(pixels + 4 * done, color_, coverage);
     }
 
 private:
@@ -87,8 +83,6 @@ private:
     using VSum = hn::VFromD<DSum>;
     static constexpr D32 d32{};
     static constexpr DSum dSum{};
-    static constexpr hn::Repartition<std::uint16_t, D32> d16{};
-    static constexpr hn::Repartition<std::uint8_t, D32> dBytes{};
 
     static std::int32_t last() { return static_cast<std::int32_t>(hn::Lanes(d32)) - 1; }
 
@@ -110,42 +104,14 @@ private:
         return hn::ShiftRight<17>(hn::Add(scaled, hn::Set(d32, fullSum / 2)));
     }
 
-    void blendVector(V32 coverage, std::uint8_t* pixels) const {
-        const auto below = hn::BitCast(d32, hn::LoadU(dBytes, pixels));
-        const auto blended = blendPixels(d32, below, coverage, color_, alpha_);
-        hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels);
-    }
-
-    PackedColor packed_;
-    UnpackedPixels<hn::VFromD<hn::Repartition<std::uint16_t, D32>>> color_;
-    hn::VFromD<hn::Repartition<std::uint16_t, D32>> alpha_;
-};
-
-#else
-
-class CellBlender {
-public:
-    explicit CellBlender(PackedColor color) : color_(color) {}
-
-    std::int32_t blendCells(std::int32_t* cells, std::size_t count, std::int32_t running,
-                            std::uint8_t* pixels) const {
-        return marlevo::blendCells(cells, count, running, pixels, color_);
-    }
-    void blendEvenly(std::uint8_t coverage, std::size_t count, std::uint8_t* pixels) const {
-        for (std::size_t i = 0; i < count; ++i)
-            blendPixel(pixels + 4 * i, color_, coverage);
-    }
-
-private:
     PackedColor color_;
+    ColorBlender<D32> blender_;
 };
-
-#endif
 
 void blendRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor color) {
     const CellBlender blender(color);
     std::size_t done = 0;
-    const auto passGap = [&](std::size_t end) {
+    const auto blendGap = [&](std::size_t end) {
         const std::uint8_t coverage = coverageOf(row.running);
         if (coverage == 255)
             blendSolid(pixels + 4 * done, end - done, color);
@@ -163,19 +129,19 @@ void blendRow(SumRow row, std::uint8_t* pixels, std::size_t count, PackedColor c
             const int bits = std::countr_one(marks >> firstBit);
             marks &= firstBit + bits == 64 ? 0 : ~std::uint64_t{0} << (firstBit + bits);
             const std::size_t start =
-                (group + static_cast<std::size_t>(firstBit) / 8) * sumBlockWidth;
-            const std::size_t end = start + static_cast<std::size_t>(bits) / 8 * sumBlockWidth;
-            if (start > done) passGap(std::min(start, count));
+                (group + static_cast<std::size_t>(firstBit) / 8) * cellsPerMark;
+            const std::size_t end = start + static_cast<std::size_t>(bits) / 8 * cellsPerMark;
+            if (start > done) blendGap(std::min(start, count));
             if (start < count) {
                 done = std::min(end, count);
                 row.running = blender.blendCells(row.cells + start, done - start, row.running,
                                                  pixels + 4 * start);
             }
-            // The cells behind the last pixel.
+            // The cells after the last pixel.
             if (end > count) std::fill(row.cells + std::max(start, count), row.cells + end, 0);
         }
     }
-    if (done < count) passGap(count);
+    if (done < count) blendGap(count);
 }
 
 }  // namespace

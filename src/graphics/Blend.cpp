@@ -4,65 +4,44 @@
 #include <cmath>
 #include <cstring>
 
-// Compiles this file once for each instruction set; must come before what includes Highway.
+// Compiles this file once per instruction set. Precedes every include of Highway.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "graphics/Blend.cpp"
 #include <hwy/foreach_target.h>
-// After foreach_target.h, which says what to compile it for.
+// Follows foreach_target.h, which sets the instruction set.
 #include "graphics/BlendVector-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 
-#if HWY_TARGET != HWY_SCALAR
+// A span is blended in the widest vectors, its rest in short ones.
+using WideVector = hn::ScalableTag<std::uint32_t>;
+using ShortVector = hn::CappedTag<std::uint32_t, 4>;
 
-/// Blends as many whole vectors of `d32` as there are and returns the number of pixels done.
+/// Blends as many whole vectors of `d32` as fit and returns the number of pixels done.
 template <class D32>
 HWY_INLINE std::size_t blendCovered(D32 d32, std::uint8_t* HWY_RESTRICT pixels,
                                     const std::uint8_t* HWY_RESTRICT coverage, std::size_t count,
-                                    PackedColor packed) {
-    const hn::Repartition<std::uint16_t, D32> d16;
-    const hn::Repartition<std::uint8_t, D32> dBytes;
+                                    PackedColor color) {
     const hn::Rebind<std::uint8_t, D32> dCoverage;
-    const auto color = unpackBytes(d32, loadPixelOfColor(d32, packed));
-    const auto alpha = hn::Set(d16, packed.alpha);
-
+    const ColorBlender<D32> blender(color);
     const std::size_t lanes = hn::Lanes(d32);
     std::size_t done = 0;
-    for (; done + lanes <= count; done += lanes) {
-        const auto below = hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * done));
-        const auto cover = hn::PromoteTo(d32, hn::LoadU(dCoverage, coverage + done));
-        const auto blended = blendPixels(d32, below, cover, color, alpha);
-        hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + 4 * done);
-    }
+    for (; done + lanes <= count; done += lanes)
+        blender.blend(hn::PromoteTo(d32, hn::LoadU(dCoverage, coverage + done)), pixels + 4 * done);
     return done;
 }
 
-/// As blendCovered for full coverage, where the colour needs no product.
 template <class D32>
 HWY_INLINE std::size_t blendFully(D32 d32, std::uint8_t* pixels, std::size_t count,
-                                  PackedColor packed) {
-    const hn::Repartition<std::uint16_t, D32> d16;
-    const hn::Repartition<std::uint8_t, D32> dBytes;
-    const auto color = loadPixelOfColor(d32, packed);
-    const auto keep = hn::Set(d16, static_cast<std::uint16_t>(255 - packed.alpha));
-
+                                  PackedColor color) {
+    const ColorBlender<D32> blender(color);
     const std::size_t lanes = hn::Lanes(d32);
     std::size_t done = 0;
-    for (; done + lanes <= count; done += lanes) {
-        const auto below = unpackBytes(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + 4 * done)));
-        const auto even = hn::BitCast(d32, mulDiv255(d16, below.even, keep));
-        const auto odd = hn::BitCast(d32, mulDiv255(d16, below.odd, keep));
-        // No byte overflows into the next: colour ≤ alpha, and at most 255 − alpha is kept.
-        const auto blended = hn::Add(color, hn::Or(even, hn::ShiftLeft<8>(odd)));
-        hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + 4 * done);
-    }
+    for (; done + lanes <= count; done += lanes)
+        blender.blendFully(pixels + 4 * done);
     return done;
 }
-
-// What is left of a span after the widest vectors is blended in short ones.
-using WideVector = hn::ScalableTag<std::uint32_t>;
-using ShortVector = hn::CappedTag<std::uint32_t, 4>;
 
 std::size_t blendCoveredVectors(std::uint8_t* pixels, const std::uint8_t* coverage,
                                 std::size_t count, PackedColor color) {
@@ -75,15 +54,6 @@ std::size_t blendSolidVectors(std::uint8_t* pixels, std::size_t count, PackedCol
     const std::size_t done = blendFully(WideVector(), pixels, count, color);
     return done + blendFully(ShortVector(), pixels + 4 * done, count - done, color);
 }
-
-#else
-
-std::size_t blendCoveredVectors(std::uint8_t*, const std::uint8_t*, std::size_t, PackedColor) {
-    return 0;
-}
-std::size_t blendSolidVectors(std::uint8_t*, std::size_t, PackedColor) { return 0; }
-
-#endif
 
 }  // namespace marlevo::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -100,7 +70,7 @@ double clampedToUnit(double value) { return value > 0 ? std::min(value, 1.0) : 0
 
 std::uint8_t toByte(double unit) { return static_cast<std::uint8_t>(std::lround(unit * 255)); }
 
-/// Nothing of what was there shows through an opaque colour.
+/// For an opaque colour, which replaces the pixels.
 void fillPixels(std::uint8_t* pixels, std::size_t count, PackedColor color) {
     for (std::size_t i = 0; i < count; ++i)
         std::memcpy(pixels + 4 * i, color.bytes.data(), color.bytes.size());

@@ -1,5 +1,5 @@
-// Blending of vectors of pixels with the bytes of blendByte; included once for each vector
-// instruction set, hence the guard.
+// Blends vectors of pixels with the bytes of blendByte(). Included once per instruction set, hence
+// the guard.
 
 #include "graphics/Blend.h"
 
@@ -14,14 +14,15 @@
 #define MARLEVO_GRAPHICS_BLEND_VECTOR_INL_H
 #endif
 
-#if HWY_TARGET != HWY_SCALAR
 HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// A pixel's bytes spread over 16-bit lanes: `even` holds bytes 0 and 2 of each pixel, `odd` 1 and
-/// 3. Products of two bytes fit a lane.
+#if HWY_TARGET != HWY_SCALAR
+
+/// The bytes of pixels in 16-bit lanes, which hold products of two bytes: `even` has bytes 0 and 2
+/// of each pixel, `odd` has 1 and 3.
 template <class V16>
 struct UnpackedPixels {
     V16 even;
@@ -43,29 +44,76 @@ HWY_INLINE V16 mulDiv255(D16 d16, V16 a, V16 b) {
     return hn::MulHigh(biased, hn::Set(d16, std::uint16_t{257}));
 }
 
-template <class D32>
-HWY_INLINE hn::VFromD<D32> loadPixelOfColor(D32 d32, PackedColor color) {
-    std::uint32_t pixel = 0;
-    std::memcpy(&pixel, color.bytes.data(), sizeof pixel);
-    return hn::Set(d32, pixel);
+/// Replaces a vector of pixels by `source` + pixels · `keep` / 255. No byte overflows if the source
+/// is premultiplied and `keep` is 255 − its alpha.
+template <class D32, class V16>
+HWY_INLINE void compositeOver(D32 d32, std::uint8_t* pixels, UnpackedPixels<V16> source, V16 keep) {
+    const hn::Repartition<std::uint16_t, D32> d16;
+    const hn::Repartition<std::uint8_t, D32> dBytes;
+    const auto below = unpackBytes(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels)));
+    const auto even = hn::Add(source.even, mulDiv255(d16, below.even, keep));
+    const auto odd = hn::Add(source.odd, mulDiv255(d16, below.odd, keep));
+    const auto blended = hn::Or(hn::BitCast(d32, even), hn::ShiftLeft<8>(hn::BitCast(d32, odd)));
+    hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels);
 }
 
-/// One pixel a 32-bit lane. `coverage` lanes are 0 … 255.
-template <class D32, class D16 = hn::Repartition<std::uint16_t, D32>>
-HWY_INLINE hn::VFromD<D32> blendPixels(D32 d32, hn::VFromD<D32> pixels, hn::VFromD<D32> coverage,
-                                       UnpackedPixels<hn::VFromD<D16>> color,
-                                       hn::VFromD<D16> alpha) {
-    const D16 d16;
-    const auto cover = hn::BitCast(d16, hn::Or(coverage, hn::ShiftLeft<16>(coverage)));
-    const auto keep = hn::Sub(hn::Set(d16, std::uint16_t{255}), mulDiv255(d16, alpha, cover));
-    const auto below = unpackBytes(d32, pixels);
-    const auto even = hn::Add(mulDiv255(d16, color.even, cover), mulDiv255(d16, below.even, keep));
-    const auto odd = hn::Add(mulDiv255(d16, color.odd, cover), mulDiv255(d16, below.odd, keep));
-    return hn::Or(hn::BitCast(d32, even), hn::ShiftLeft<8>(hn::BitCast(d32, odd)));
-}
+/// Blends one colour onto vectors of pixels, one pixel per 32-bit lane.
+template <class D32>
+class ColorBlender {
+public:
+    explicit ColorBlender(PackedColor color)
+        : color_(unpackBytes(D32(), pixelOf(color))), alpha_(hn::Set(D16(), color.alpha)) {}
+
+    /// `coverage` lanes are 0 … 255.
+    HWY_INLINE void blend(hn::VFromD<D32> coverage, std::uint8_t* pixels) const {
+        const D16 d16;
+        const auto cover = hn::BitCast(d16, hn::Or(coverage, hn::ShiftLeft<16>(coverage)));
+        const auto keep = hn::Sub(hn::Set(d16, std::uint16_t{255}), mulDiv255(d16, alpha_, cover));
+        compositeOver(D32(), pixels,
+                      UnpackedPixels<V16>{mulDiv255(d16, color_.even, cover),
+                                          mulDiv255(d16, color_.odd, cover)},
+                      keep);
+    }
+
+    /// As blend() with a coverage of 255.
+    HWY_INLINE void blendFully(std::uint8_t* pixels) const {
+        compositeOver(D32(), pixels, color_, hn::Sub(hn::Set(D16(), std::uint16_t{255}), alpha_));
+    }
+
+private:
+    using D16 = hn::Repartition<std::uint16_t, D32>;
+    using V16 = hn::VFromD<D16>;
+
+    static hn::VFromD<D32> pixelOf(PackedColor color) {
+        std::uint32_t pixel = 0;
+        std::memcpy(&pixel, color.bytes.data(), sizeof pixel);
+        return hn::Set(D32(), pixel);
+    }
+
+    UnpackedPixels<V16> color_;
+    V16 alpha_;
+};
+
+#else
+
+/// Vectors of a single pixel.
+template <class D32>
+class ColorBlender {
+public:
+    explicit ColorBlender(PackedColor color) : color_(color) {}
+
+    void blend(hn::VFromD<D32> coverage, std::uint8_t* pixel) const {
+        blendPixel(pixel, color_, static_cast<std::uint8_t>(hn::GetLane(coverage)));
+    }
+    void blendFully(std::uint8_t* pixel) const { blendPixel(pixel, color_, 255); }
+
+private:
+    PackedColor color_;
+};
+
+#endif
 
 }  // namespace marlevo::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
-#endif
 
 #endif

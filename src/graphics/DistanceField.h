@@ -1,83 +1,49 @@
 #pragma once
 
+#include "graphics/BlockGrid.h"
+#include "graphics/CoverageSink.h"
+#include "graphics/FlattenedPath.h"
 #include "graphics/IntRect.h"
+#include "graphics/RoundPen.h"
 
-#include <bit>
 #include <cstddef>
-#include <cstdint>
+#include <span>
 #include <vector>
 
 namespace marlevo {
 
-/// For each pixel of a rectangle the squared distance of its centre to the nearest thing seen.
-///
-/// Pixels lie in blocks of 8 × 2, aligned to the device plane, and blocks in vertical strips: what
-/// is narrower than a block meets one or two runs of consecutive memory. A bit for each block says
-/// whether it was touched; the pixels of all others are `far`.
+/// The squared distance of each pixel's centre to the nearest segment of a line, in the blocks of a
+/// BlockGrid. The bit of a block is set where a distance was lowered; the pixels of all other
+/// blocks are `untouched`.
 class DistanceField {
 public:
-    static constexpr int blockWidth = 8;
-    static constexpr int blockHeight = 2;
-    static constexpr std::size_t blockPixels = std::size_t{blockWidth} * blockHeight;
     struct alignas(64) Block {
-        float squares[blockPixels];  ///< row after row
+        float squares[BlockGrid::blockPixels];  ///< row after row
     };
 
-    /// Squared; further than any pixel that a pen reaches.
-    static constexpr float far = 1e30F;
+    /// A squared distance beyond the reach of every pen.
+    static constexpr float untouched = 1e30F;
 
-    /// Covers at least `area`, all of it far. Every block touched before must have been taken.
+    /// Covers at least `area`, all of it untouched. The field must be drained before.
     void reset(const IntRect& area);
 
-    /// The device position of the first block.
-    int left() const { return left_; }
-    int top() const { return top_; }
-    int stripCount() const { return stripCount_; }
-    int blocksPerStrip() const { return blocksPerStrip_; }
+    /// Lowers the distances to those from the segments, for all pixels nearer than `reach`. Runs of
+    /// blocks that `occlusion`, which may be null, hides wholly are left out.
+    void add(const FlattenedPath& line, double reach, const OcclusionMask* occlusion);
 
+    /// Passes the pen's coverage of each touched block to the sink; the field is untouched again.
+    void drainInto(const CoverageSink& sink, const RoundPen& pen);
+
+    BlockGrid& grid() { return grid_; }
     /// The blocks of a strip from top to bottom.
-    Block* strip(int index) {
-        return blocks_.data() + static_cast<std::size_t>(index) * blocksPerStrip_;
-    }
-
-    /// To be called for the blocks first … last of a strip before lowering a distance there.
-    void markTouched(int strip, int first, int last) {
-        std::uint64_t* const words = touched_.data() + static_cast<std::size_t>(strip) * wordCount_;
-        const std::uint64_t fromFirst = ~std::uint64_t{0} << (first % 64);
-        const std::uint64_t toLast = ~std::uint64_t{0} >> (63 - last % 64);
-        const int firstWord = first / 64;
-        const int lastWord = last / 64;
-        if (firstWord == lastWord) {
-            words[firstWord] |= fromFirst & toLast;
-            return;
-        }
-        words[firstWord] |= fromFirst;
-        for (int word = firstWord + 1; word < lastWord; ++word)
-            words[word] = ~std::uint64_t{0};
-        words[lastWord] |= toLast;
-    }
-
-    /// Calls take(block index) for each touched block of a strip and forgets that it was touched;
-    /// `take` leaves the block far.
-    template <class Take>
-    void drain(int strip, Take take) {
-        std::uint64_t* const words = touched_.data() + static_cast<std::size_t>(strip) * wordCount_;
-        for (int word = 0; word < wordCount_; ++word) {
-            for (std::uint64_t bits = words[word]; bits != 0; bits &= bits - 1) {
-                take(word * 64 + std::countr_zero(bits));
-            }
-            words[word] = 0;
-        }
-    }
+    Block* strip(int index) { return blocks_.data() + grid_.indexOf(index, 0); }
 
 private:
-    int left_ = 0;
-    int top_ = 0;
-    int stripCount_ = 0;
-    int blocksPerStrip_ = 0;
-    int wordCount_ = 0;
+    BlockGrid grid_;
     std::vector<Block> blocks_;
-    std::vector<std::uint64_t> touched_;
 };
+
+/// Passes recorded blocks to the sink.
+void putBlocks(std::span<const CoverageBlock> blocks, const BlendSink& sink);
 
 }  // namespace marlevo

@@ -7,11 +7,11 @@
 #include <cmath>
 #include <vector>
 
-// Compiles this file once for each instruction set; must come before what includes Highway.
+// Compiles this file once per instruction set. Precedes every include of Highway.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "graphics/DrawImage.cpp"
 #include <hwy/foreach_target.h>
-// After foreach_target.h, which says what to compile it for.
+// Follows foreach_target.h, which sets the instruction set.
 #include "graphics/BlendVector-inl.h"
 
 #ifndef MARLEVO_GRAPHICS_DRAW_IMAGE_ONCE
@@ -19,13 +19,13 @@
 namespace marlevo {
 namespace {
 
-/// Between the passes a component has 7 bits behind the point.
+/// Between the two passes a component has 7 fractional bits.
 constexpr int columnShift = ResampleAxis::weightBits - 7;
 constexpr int rowShift = ResampleAxis::weightBits + 7;
 
 constexpr std::size_t channels = RasterImage::bytesPerPixel;
 
-/// Lines of an image; `bytes` is where the first needed column of the first weighed line begins.
+/// Lines of an image from the first needed column of the first weighted line on.
 struct ImageLines {
     const std::uint8_t* bytes;
     std::size_t stride;
@@ -80,8 +80,8 @@ void meanOfLines(ImageLines lines, std::span<const std::int16_t> weights, std::s
         out[at] = meanOfColumn(lines, weights, at);
 }
 
-/// The weighted mean of neighbouring pixels of a line, for each window of `columns`; `line` begins
-/// with the first pixel that any of them needs.
+/// The weighted mean of neighbouring pixels of a line, for each window of `columns`. The first
+/// pixel of `line` is columns.firstNeeded().
 void meanOfPixels(const std::int16_t* HWY_RESTRICT line, const ResampleAxis& columns,
                   std::uint8_t* HWY_RESTRICT out) {
     const std::size_t begin = columns.firstNeeded();
@@ -113,7 +113,7 @@ void meanOfPixels(const std::int16_t* HWY_RESTRICT line, const ResampleAxis& col
     }
 }
 
-/// Blends `count` pixels in ARGB order, each at an opacity of its own.
+/// Blends `count` pixels in ARGB order, each with its own opacity.
 void blendLine(std::uint8_t* HWY_RESTRICT pixels, const std::uint8_t* HWY_RESTRICT source,
                const std::uint8_t* HWY_RESTRICT opacities, std::size_t count, PixelOrder order) {
     std::size_t done = 0;
@@ -134,18 +134,12 @@ void blendLine(std::uint8_t* HWY_RESTRICT pixels, const std::uint8_t* HWY_RESTRI
         const auto alpha = both(hn::And(hn::BitCast(d32, above.even), low));
         const auto keep = hn::Sub(hn::Set(d16, std::uint16_t{255}), alpha);
         if (order == PixelOrder::bgra) {
-            // Bytes 0, 1, 2, 3 become 3, 2, 1, 0: even and odd change places, and halves with them.
+            // Bytes 0, 1, 2, 3 become 3, 2, 1, 0: even and odd are swapped, and their halves too.
             const auto even = above.even;
             above.even = hn::BitCast(d16, hn::RotateRight<16>(hn::BitCast(d32, above.odd)));
             above.odd = hn::BitCast(d16, hn::RotateRight<16>(hn::BitCast(d32, even)));
         }
-        const auto below =
-            unpackBytes(d32, hn::BitCast(d32, hn::LoadU(dBytes, pixels + channels * done)));
-        const auto even = hn::Add(above.even, mulDiv255(d16, below.even, keep));
-        const auto odd = hn::Add(above.odd, mulDiv255(d16, below.odd, keep));
-        const auto blended =
-            hn::Or(hn::BitCast(d32, even), hn::ShiftLeft<8>(hn::BitCast(d32, odd)));
-        hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels + channels * done);
+        compositeOver(d32, pixels + channels * done, above, keep);
     }
 #endif
     for (; done < count; ++done)

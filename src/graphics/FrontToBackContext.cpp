@@ -1,56 +1,56 @@
 #include "graphics/FrontToBackContext.h"
 
+#include "graphics/Blend.h"
+#include "graphics/DistanceField.h"
+#include "graphics/Rasterizer.h"
+
 #include <span>
-#include <utility>
 
 namespace marlevo {
 
 void FrontToBackContext::flush() {
-    std::span<const CoverageBlock> rest = held_.blocks;
+    std::span<const CoverageBlock> rest = blocks_;
     target_.saveState();
     for (; !operations_.empty(); operations_.pop_back()) {
         const Operation& lowest = operations_.back();
         if (lowest.draw) {
             lowest.draw();
         } else {
-            target_.blendHeld(rest.last(lowest.blocks), lowest.color);
-            rest = rest.first(rest.size() - lowest.blocks);
+            putBlocks(rest.last(lowest.blockCount), {target_.target(), lowest.color});
+            rest = rest.first(rest.size() - lowest.blockCount);
         }
     }
     target_.restoreState();
-    held_.blocks.clear();
-}
-
-template <typename Draw>
-void FrontToBackContext::defer(Draw draw) {
-    operations_.push_back({{}, 0, [this, draw = std::move(draw), alpha = target_.alpha()] {
-                               target_.setAlpha(alpha);
-                               draw(target_);
-                           }});
+    blocks_.clear();
 }
 
 void FrontToBackContext::fillRect(const Rect& rect, const Color& color) {
-    defer([rect, color](BitmapContext& target) { target.fillRect(rect, color); });
+    defer([=](BitmapContext& target) { target.fillRect(rect, color); });
 }
 
 void FrontToBackContext::fillPath(const Path& path, const Color& color) {
-    heldElements_ += path.elements().size();
-    defer([path, color](BitmapContext& target) { target.fillPath(path, color); });
+    deferredElements_ += path.elements().size();
+    defer([=](BitmapContext& target) { target.fillPath(path, color); });
 }
 
 void FrontToBackContext::strokePath(const Path& path, const Color& color, double lineWidth) {
-    const std::size_t before = held_.blocks.size();
-    if (const auto packed = target_.holdStroke(path, color, lineWidth, held_)) {
-        if (held_.blocks.size() > before)
-            operations_.push_back({*packed, held_.blocks.size() - before});
-    } else {
-        heldElements_ += path.elements().size();
+    const DeviceFrame& frame = target_.frame();
+    if (!DevicePen(lineWidth, frame).drawsByDistance()) {
+        deferredElements_ += path.elements().size();
         defer([=](BitmapContext& target) { target.strokePath(path, color, lineWidth); });
+        return;
     }
+    const PixelBuffer& pixels = target_.target();
+    const PackedColor packed = packColor(color, target_.alpha(), pixels.order);
+    if (packed.alpha == 0) return;
+    const std::size_t before = blocks_.size();
+    rasterizeStroke(path, lineWidth, frame,
+                    RecordSink{pixels.area, packed.alpha == 255, occlusion_, blocks_});
+    if (blocks_.size() > before) operations_.push_back({packed, blocks_.size() - before});
 }
 
 void FrontToBackContext::drawImage(const RasterImage& image, const Rect& rect) {
-    defer([image, rect](BitmapContext& target) { target.drawImage(image, rect); });
+    defer([=](BitmapContext& target) { target.drawImage(image, rect); });
 }
 
 }  // namespace marlevo

@@ -1,37 +1,48 @@
 #pragma once
 
 #include "graphics/BitmapContext.h"
-#include "graphics/HeldCoverage.h"
+#include "graphics/CoverageSink.h"
+#include "graphics/OcclusionMask.h"
 
 #include <cstddef>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
 
-/// Draws from the top down: each operation comes to lie below those before it.
+/// Draws from front to back: each operation is painted below those before it.
 ///
-/// Keeps what they cover until flush(), except where opaque strokes hide it: where these lie in
-/// many layers over each other, the lower ones cost little. The pixels get the bytes that the
-/// operations give in reverse order on the other context. To be used once.
+/// Records the coverage of strokes until flush(), except where opaque strokes hide it: in a picture
+/// of many layers of strokes the lower ones then cost little. The pixels get the bytes that the
+/// operations give in reverse order on the target. To be used once.
 class FrontToBackContext final : public GraphicsContext {
 public:
-    /// Draws on what `target` draws on and in its frame, which must stay as it is until flush().
-    explicit FrontToBackContext(BitmapContext& target) : target_(target), held_(target.area()) {}
+    /// How much is recorded before isFull() is true.
+    struct Limits {
+        std::size_t blocks = std::size_t{1} << 18;    ///< of coverage
+        std::size_t elements = std::size_t{1} << 16;  ///< of paths that are deferred as a whole
+    };
 
-    /// Whether nothing that comes now can be seen in this part of the area, as far as it is known.
-    bool hides(const IntRect& part) const { return held_.covered.isOccluded(part); }
-    bool hidesAll() const { return held_.covered.isOccluded(); }
+    /// Draws on the pixels and in the frame of `target`, which must not change until flush().
+    explicit FrontToBackContext(BitmapContext& target) : FrontToBackContext(target, Limits()) {}
+    FrontToBackContext(BitmapContext& target, Limits limits)
+        : target_(target), limits_(limits), occlusion_(target.target().area) {}
 
-    /// The share of the area's pixels where something that comes now may be seen.
-    double visibleShare() const { return held_.covered.visibleShare(); }
+    /// True if opaque strokes hide all of `part`. May be false for a hidden part: whole blocks are
+    /// tested.
+    bool hides(const IntRect& part) const { return occlusion_.isOccluded(part); }
+    bool hidesAll() const { return occlusion_.isOccluded(); }
 
-    /// Whether it holds so much that flush() should come now.
+    /// The share of the pixels, 0 to 1, that opaque strokes do not hide.
+    double visibleShare() const { return occlusion_.visibleShare(); }
+
+    /// True if the caller should draw what is left on the target and then flush().
     bool isFull() const {
-        return held_.blocks.size() >= maxHeldBlocks || heldElements_ >= maxHeldElements;
+        return blocks_.size() >= limits_.blocks || deferredElements_ >= limits_.elements;
     }
 
-    /// Blends all that was drawn over the pixels, on which what lies below must be drawn by now.
+    /// Blends the recorded strokes onto the target. The strokes below them must already be painted.
     void flush();
 
     void saveState() override { target_.saveState(); }
@@ -44,22 +55,27 @@ public:
     void drawImage(const RasterImage& image, const Rect& rect) override;
 
 private:
-    static constexpr std::size_t maxHeldBlocks = std::size_t{1} << 18;
-    static constexpr std::size_t maxHeldElements = std::size_t{1} << 16;  // of paths
-
     struct Operation {
         PackedColor color;
-        std::size_t blocks = 0;        ///< how many of the held ones are of this operation
-        std::function<void()> draw{};  ///< what is drawn as a whole when its turn comes
+        std::size_t blockCount = 0;    ///< its share of `blocks_`
+        std::function<void()> draw{};  ///< for a deferred operation
     };
 
+    /// Keeps an operation as a whole; `draw` takes the target.
     template <typename Draw>
-    void defer(Draw draw);
+    void defer(Draw draw) {
+        operations_.push_back({{}, 0, [this, draw = std::move(draw), alpha = target_.alpha()] {
+                                   target_.setAlpha(alpha);
+                                   draw(target_);
+                               }});
+    }
 
     BitmapContext& target_;
-    HeldCoverage held_;
+    Limits limits_;
+    OcclusionMask occlusion_;
+    std::vector<CoverageBlock> blocks_;
     std::vector<Operation> operations_;
-    std::size_t heldElements_ = 0;
+    std::size_t deferredElements_ = 0;
 };
 
 }  // namespace marlevo

@@ -1,22 +1,26 @@
-#include "graphics/IncrementalArea.h"
-
+#include "graphics/AccumulationBuffer.h"
 #include "graphics/AccumulationSweep.h"
 #include "graphics/Bounds.h"
+#include "graphics/EdgeBuilder.h"
+#include "graphics/FlattenedPath.h"
+#include "graphics/IncrementalStroke.h"
 #include "graphics/Stroker.h"
+#include "graphics/TileMap.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstddef>
+#include <cstdint>
+#include <vector>
 
 namespace marlevo {
 
 namespace {
 
-/// More segments than these before the end have no part in what changes there.
-constexpr std::size_t segmentsConcerned = 6;
+/// A new point changes the outline of at most this many segments.
+constexpr std::size_t segmentsAffected = 6;
 
-/// Of these, what the change can be seen of.
+/// Only the last of these can change pixels.
 constexpr std::size_t segmentsChanged = 3;
 
 IntRect areaAround(std::span<const Point> points, double reach) {
@@ -24,55 +28,95 @@ IntRect areaAround(std::span<const Point> points, double reach) {
     return Bounds::of(points).grownBy(reach).pixelsWithin({-limit, -limit, limit, limit});
 }
 
-}  // namespace
+/// A stroke by area. The sums in the cells are integers, and the outline along a segment depends on
+/// its nearest neighbours only. So extend() subtracts the outline of the last few segments from the
+/// sums and adds the outline that these have together with the new points.
+class IncrementalArea final : public IncrementalStroke {
+public:
+    explicit IncrementalArea(double deviceWidth) : width_(deviceWidth) {}
+
+    IntRect extend(std::span<const Point> fixed, Point end) override;
+    void blendInto(const PixelBuffer& target, PackedColor color) const override;
+    std::size_t bytes() const override;
+
+private:
+    static constexpr int tileSide = 128;
+
+    struct Tile {
+        explicit Tile(const IntRect& place);
+        void updateRowSums();
+
+        IntRect area;
+        AccumulationBuffer cells;
+        std::vector<std::int32_t>
+            rowSums;  ///< the contribution of each row to the tiles right of it
+    };
+
+    enum class Change : int { add = 1, remove = -1 };
+
+    /// The first row or column of the tile that contains a row or column.
+    static int rowOfTiles(int y) { return y & -tileSide; }
+    static int columnOfTiles(int x) { return x & -tileSide; }
+
+    void changeBy(const FlattenedPath& line, Change change);
+    void addEdge(const Edge& edge);
+    FlattenedPath lastSegments() const;
+    void blendTileRow(const PixelBuffer& target, PackedColor color) const;
+
+    double width_;
+    TileMap<Tile, tileSide> tiles_;
+    IntRect extent_;           ///< contains all pixels that an edge touches
+    std::vector<Point> tail_;  ///< the last fixed points that the stroker does not merge
+    Point end_;
+    FlattenedPath outline_;  ///< kept for its memory
+};
 
 IncrementalArea::Tile::Tile(const IntRect& place)
     : area(place), rowSums(static_cast<std::size_t>(tileSide)) {
     cells.reset(place);
 }
 
-void IncrementalArea::Tile::takeRowSums() {
+void IncrementalArea::Tile::updateRowSums() {
     for (int row = 0; row < tileSide; ++row)
         rowSums[static_cast<std::size_t>(row)] = cells.rowSum(area.top + row);
 }
 
 IntRect IncrementalArea::extend(std::span<const Point> fixed, Point end) {
-    std::vector<Point> concerned;
-    if (!recent_.empty()) {
+    std::vector<Point> affected;
+    if (!tail_.empty()) {
         changeBy(lastSegments(), Change::remove);
-        concerned.push_back(end_);
+        affected.push_back(end_);
     }
-    const std::size_t known = recent_.size();
-    const double joined = mergeDistance(width_);
+    const std::size_t known = tail_.size();
+    const double merged = mergeDistance(width_);
     for (const Point p : fixed) {
-        if (!recent_.empty()) {
-            const double dx = p.x - recent_.back().x;
-            const double dy = p.y - recent_.back().y;
-            if (dx * dx + dy * dy <= joined * joined) continue;
+        if (!tail_.empty()) {
+            const double dx = p.x - tail_.back().x;
+            const double dy = p.y - tail_.back().y;
+            if (dx * dx + dy * dy <= merged * merged) continue;
         }
-        recent_.push_back(p);
+        tail_.push_back(p);
     }
     end_ = end;
     changeBy(lastSegments(), Change::add);
 
-    concerned.push_back(end_);
-    concerned.insert(concerned.end(), recent_.begin(), recent_.end());
+    affected.push_back(end_);
+    affected.insert(affected.end(), tail_.begin(), tail_.end());
     const double reach = width_ / 2 + 1;
-    tiles_.forEachKnownTile(areaAround(concerned, reach), [](Tile& tile) { tile.takeRowSums(); });
+    tiles_.forEachKnownTile(areaAround(affected, reach), [](Tile& tile) { tile.updateRowSums(); });
 
     const std::size_t unchanged = known > segmentsChanged ? known - segmentsChanged - 1 : 0;
-    const auto oldEndAndNew = std::span(concerned).first(concerned.size() - recent_.size());
-    const IntRect changed =
-        areaAround(oldEndAndNew, reach)
-            .unitedWith(areaAround(std::span(recent_).subspan(unchanged), reach));
-    if (recent_.size() > segmentsConcerned + 1)
-        recent_.erase(recent_.begin(), recent_.end() - (segmentsConcerned + 1));
+    const auto oldEndAndNew = std::span(affected).first(affected.size() - tail_.size());
+    const IntRect changed = areaAround(oldEndAndNew, reach)
+                                .unitedWith(areaAround(std::span(tail_).subspan(unchanged), reach));
+    if (tail_.size() > segmentsAffected + 1)
+        tail_.erase(tail_.begin(), tail_.end() - (segmentsAffected + 1));
     return changed;
 }
 
 FlattenedPath IncrementalArea::lastSegments() const {
     FlattenedPath line;
-    line.points = recent_;
+    line.points = tail_;
     line.points.push_back(end_);
     line.contours.push_back({0, line.points.size(), false});
     return line;
@@ -86,7 +130,7 @@ void IncrementalArea::changeBy(const FlattenedPath& line, Change change) {
     });
 }
 
-/// Adds the edge to the tiles through which it goes.
+/// Adds the edge to the tiles that it crosses.
 void IncrementalArea::addEdge(const Edge& edge) {
     constexpr int bits = AccumulationBuffer::subpixelBits;
     const double slope = double(edge.x1 - edge.x0) / double(edge.y1 - edge.y0);
@@ -97,7 +141,7 @@ void IncrementalArea::addEdge(const Edge& edge) {
     for (int top = edge.y0 >> bits, bottom = 0; top < end; top = bottom) {
         bottom = std::min(rowOfTiles(top) + tileSide, end);
         const auto [least, most] = std::minmax({xAt(top), xAt(bottom)});
-        // A subpixel more on each side for what is rounded.
+        // A subpixel more on each side covers rounding.
         const IntRect touched{(static_cast<int>(std::floor(least)) - 1) >> bits, top,
                               ((static_cast<int>(std::ceil(most)) + 1) >> bits) + 1, bottom};
         extent_ = extent_.unitedWith(touched);
@@ -118,11 +162,11 @@ void IncrementalArea::blendInto(const PixelBuffer& target, PackedColor color) co
     }
 }
 
-/// For a target that lies within one row of tiles.
+/// For a target within one row of tiles.
 void IncrementalArea::blendTileRow(const PixelBuffer& target, PackedColor color) const {
     const IntRect& area = target.area;
     const int firstRow = rowOfTiles(area.top);
-    std::array<std::uint32_t, tileSide> sums{};  // of all that lies further left
+    std::array<std::uint32_t, tileSide> sums{};  // of all tiles further left
     const auto pass = [&](const Tile& tile) {
         for (int row = 0; row < tileSide; ++row)
             sums[static_cast<std::size_t>(row)] +=
@@ -132,8 +176,8 @@ void IncrementalArea::blendTileRow(const PixelBuffer& target, PackedColor color)
         return static_cast<std::int32_t>(sums[static_cast<std::size_t>(y - firstRow)]);
     };
     int done = area.left;
-    // Between tiles every row goes on as it is.
-    const auto passGap = [&](int right) {
+    // Between tiles the sum of each row is constant.
+    const auto blendGap = [&](int right) {
         if (right <= done) return;
         for (int y = area.top; y < area.bottom; ++y)
             sweepRow({nullptr, nullptr, 0, sumAt(y)}, target.pixel(done, y),
@@ -144,7 +188,7 @@ void IncrementalArea::blendTileRow(const PixelBuffer& target, PackedColor color)
     for (int column = columnOfTiles(left); column < area.right; column += tileSide) {
         tiles_.forEachKnownTile(
             {column, area.top, column + 1, area.top + 1}, [&](const Tile& tile) {
-                passGap(std::min(tile.area.left, area.right));
+                blendGap(std::min(tile.area.left, area.right));
                 const int right = std::min(tile.area.right, area.right);
                 if (right > done) {
                     for (int y = area.top; y < area.bottom; ++y)
@@ -154,11 +198,17 @@ void IncrementalArea::blendTileRow(const PixelBuffer& target, PackedColor color)
                 pass(tile);
             });
     }
-    passGap(area.right);
+    blendGap(area.right);
 }
 
 std::size_t IncrementalArea::bytes() const {
-    return tiles_.size() * sizeof(std::int32_t) * tileSide * (tileSide + sumBlockWidth);
+    return tiles_.size() * sizeof(std::int32_t) * tileSide * (tileSide + cellsPerMark);
+}
+
+}  // namespace
+
+std::unique_ptr<IncrementalStroke> IncrementalStroke::makeByArea(double deviceWidth) {
+    return std::make_unique<IncrementalArea>(deviceWidth);
 }
 
 }  // namespace marlevo

@@ -1,11 +1,14 @@
-#include "graphics/IncrementalDistance.h"
-
-#include "graphics/StrokeByDistance.h"
+#include "graphics/FlattenedPath.h"
+#include "graphics/IncrementalStroke.h"
+#include "graphics/Rasterizer.h"
+#include "graphics/TileMap.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
+#include <vector>
 
 namespace marlevo {
 
@@ -18,7 +21,33 @@ FlattenedPath lineThrough(std::span<const Point> points) {
     return path;
 }
 
-}  // namespace
+/// A stroke by distance. The coverage of a line is the maximum of that of its pieces, so the fixed
+/// part is kept as a mask, and only the last segment is drawn anew.
+class IncrementalDistance final : public IncrementalStroke {
+public:
+    explicit IncrementalDistance(double deviceWidth) : width_(deviceWidth) {}
+
+    IntRect extend(std::span<const Point> fixed, Point end) override;
+    void blendInto(const PixelBuffer& target, PackedColor color) const override;
+    std::size_t bytes() const override { return tiles_.size() * tileSide * tileSide; }
+
+private:
+    static constexpr int tileSide = 128;
+
+    struct Tile {
+        explicit Tile(const IntRect& place)
+            : area(place), coverage(std::size_t{tileSide} * tileSide) {}
+
+        IntRect area;
+        std::vector<std::uint8_t> coverage;
+    };
+
+    std::vector<Tile*> tilesAlong(const FlattenedPath& line);
+
+    double width_;
+    TileMap<Tile, tileSide> tiles_;  ///< coverage of the fixed part
+    FlattenedPath tail_;             ///< from the last fixed point to the end
+};
 
 IntRect IncrementalDistance::extend(std::span<const Point> fixed, Point end) {
     const IntRect before = tail_.isEmpty() ? IntRect{} : areaByDistance(tail_, width_);
@@ -27,14 +56,14 @@ IntRect IncrementalDistance::extend(std::span<const Point> fixed, Point end) {
     points.insert(points.end(), fixed.begin(), fixed.end());
     const FlattenedPath grown = lineThrough(points);
     for (Tile* const tile : tilesAlong(grown))
-        coverByDistance(grown, width_, {tile->coverage.data(), tileSide, tile->area});
+        strokeByDistance(grown, width_, MaskSink{{tile->coverage.data(), tileSide, tile->area}});
 
     tail_ = lineThrough(std::array{points.back(), end});
     return before.unitedWith(areaByDistance(grown, width_))
         .unitedWith(areaByDistance(tail_, width_));
 }
 
-/// Only those that a piece of the line comes near: what holds a slanting line is mostly empty.
+/// The tiles near a piece of the line: the box of a slanting line is mostly empty.
 std::vector<IncrementalDistance::Tile*> IncrementalDistance::tilesAlong(const FlattenedPath& line) {
     std::vector<Tile*> tiles;
     for (std::size_t i = 1; i < line.points.size(); ++i) {
@@ -70,10 +99,16 @@ void IncrementalDistance::blendInto(const PixelBuffer& target, PackedColor color
                         static_cast<std::size_t>(common.width()));
         }
     });
-    if (!tail_.isEmpty()) coverByDistance(tail_, width_, whole);
+    if (!tail_.isEmpty()) strokeByDistance(tail_, width_, MaskSink{whole});
     for (int y = target.area.top; y < target.area.bottom; ++y)
         blendSpan(target.pixel(target.area.left, y), whole.pixel(target.area.left, y), width,
                   color);
+}
+
+}  // namespace
+
+std::unique_ptr<IncrementalStroke> IncrementalStroke::makeByDistance(double deviceWidth) {
+    return std::make_unique<IncrementalDistance>(deviceWidth);
 }
 
 }  // namespace marlevo

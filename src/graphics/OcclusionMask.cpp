@@ -7,10 +7,10 @@ namespace marlevo {
 
 namespace {
 
-constexpr int blockWidth = DistanceField::blockWidth;
-constexpr int blockHeight = DistanceField::blockHeight;
+constexpr int blockWidth = BlockGrid::blockWidth;
+constexpr int blockHeight = BlockGrid::blockHeight;
 
-/// A bit for each pixel of a block's row at `left` that lies in the columns from … end − 1.
+/// A bit for each pixel in the columns from … end − 1 of the row of a block at `left`.
 std::uint16_t bitsBetween(int from, int end, int left) {
     const int first = std::clamp(from - left, 0, blockWidth);
     const int last = std::clamp(end - left, first, blockWidth);
@@ -20,53 +20,39 @@ std::uint16_t bitsBetween(int from, int end, int left) {
 }  // namespace
 
 OcclusionMask::OcclusionMask(const IntRect& area)
-    : area_(area), left_(area.left & -blockWidth), top_(area.top & -blockHeight),
-      stripCount_((area.right - left_ + blockWidth - 1) / blockWidth),
-      blocksPerStrip_((area.bottom - top_ + blockHeight - 1) / blockHeight),
-      wordCount_((static_cast<std::size_t>(blocksPerStrip_) + 63) / 64),
-      openPixels_(area.width() * area.height()),
-      open_(static_cast<std::size_t>(stripCount_) * blocksPerStrip_),
-      openBlocks_(static_cast<std::size_t>(stripCount_) * wordCount_) {
-    for (int strip = 0; strip < stripCount_; ++strip) {
-        const Bits inRow = bitsBetween(area.left, area.right, left_ + strip * blockWidth);
-        for (int block = 0; block < blocksPerStrip_; ++block) {
-            const int top = top_ + block * blockHeight;
-            Bits open = 0;
+    : area_(area), visiblePixels_(area.width() * area.height()) {
+    grid_.reset(area);
+    visible_.resize(grid_.blockCount());
+    for (int strip = 0; strip < grid_.stripCount(); ++strip) {
+        grid_.set(strip, 0, grid_.blocksPerStrip() - 1);
+        const Bits inRow = bitsBetween(area.left, area.right, grid_.left() + strip * blockWidth);
+        for (int block = 0; block < grid_.blocksPerStrip(); ++block) {
+            const int top = grid_.top() + block * blockHeight;
+            Bits& visible = visible_[grid_.indexOf(strip, block)];
             for (int row = 0; row < blockHeight; ++row)
                 if (top + row >= area.top && top + row < area.bottom)
-                    open = static_cast<Bits>(open | inRow << (row * blockWidth));
-            open_[indexOf(strip, block)] = open;
-            openBlocks_[wordOf(strip, block)] |= std::uint64_t{1} << (block % 64);
+                    visible = static_cast<Bits>(visible | inRow << (row * blockWidth));
         }
     }
 }
 
 bool OcclusionMask::isOccluded(const IntRect& part) const {
-    const IntRect seen = part.intersectedWith(area_);
-    if (seen.isEmpty()) return true;
-    const int firstBlock = (seen.top - top_) / blockHeight;
-    const int lastBlock = (seen.bottom - 1 - top_) / blockHeight;
-    for (int strip = (seen.left - left_) / blockWidth;
-         strip <= (seen.right - 1 - left_) / blockWidth; ++strip) {
-        for (int block = firstBlock; block <= lastBlock; block = (block / 64 + 1) * 64) {
-            const int last = std::min(lastBlock, block / 64 * 64 + 63);
-            const std::uint64_t asked =
-                (~std::uint64_t{0} << (block % 64)) & (~std::uint64_t{0} >> (63 - last % 64));
-            if ((openBlocks_[wordOf(strip, block)] & asked) != 0) return false;
-        }
-    }
+    const IntRect inside = part.intersectedWith(area_);
+    if (inside.isEmpty()) return true;
+    const int first = grid_.blockAt(inside.top);
+    const int last = grid_.blockAt(inside.bottom - 1);
+    for (int strip = grid_.stripAt(inside.left); strip <= grid_.stripAt(inside.right - 1); ++strip)
+        if (grid_.anySet(strip, first, last)) return false;
     return true;
 }
 
 void OcclusionMask::occlude(int left, int top, std::uint32_t bits) {
     if (!isInside(left, top)) return;
-    const int strip = (left - left_) / blockWidth;
-    const int block = (top - top_) / blockHeight;
-    Bits& open = open_[indexOf(strip, block)];
-    const auto covered = static_cast<Bits>(open & bits);
-    openPixels_ -= std::popcount(covered);
-    open = static_cast<Bits>(open & ~covered);
-    if (open == 0) openBlocks_[wordOf(strip, block)] &= ~(std::uint64_t{1} << (block % 64));
+    Bits& visible = visible_[indexOf(left, top)];
+    const auto hidden = static_cast<Bits>(visible & bits);
+    visiblePixels_ -= std::popcount(hidden);
+    visible = static_cast<Bits>(visible & ~hidden);
+    if (visible == 0) grid_.clear(grid_.stripAt(left), grid_.blockAt(top));
 }
 
 }  // namespace marlevo

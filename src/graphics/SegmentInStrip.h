@@ -7,7 +7,7 @@
 
 namespace marlevo {
 
-/// A line segment, to measure its distances from pixel centres.
+/// A line segment, prepared for measuring distances of pixel centres from it.
 struct MeasuredSegment {
     MeasuredSegment(Point a, Point b)
         : middle{a.x + (b.x - a.x) * 0.5, a.y + (b.y - a.y) * 0.5},
@@ -22,17 +22,17 @@ struct MeasuredSegment {
     }
 
     Point middle;
-    double anchorRow;  ///< the pixel row through the middle; rows are counted from it
+    double anchorRow;  ///< the pixel row of the middle; other rows are counted from it
     double cosine;
     double sine;
     double halfLength;
 };
 
-/// A segment as the pixels of a vertical strip see it, in single precision.
+/// A segment relative to the pixels of a vertical strip, in single precision.
 ///
-/// `across` and `along` place the centre of the strip's first pixel in the anchor row, in a frame
-/// turned so that the segment lies on its first axis with its middle at 0. What is rounded depends
-/// on the segment and the strip only, never on the part of the plane that is painted.
+/// `across` and `along` are the coordinates of the centre of the strip's first pixel in the anchor
+/// row, in a frame turned so that the segment is on its first axis with its middle at 0. Rounding
+/// depends on the segment and the strip only, never on the part of the plane that is painted.
 struct SegmentInStrip {
     /// `left` is the strip's first column on the device plane.
     SegmentInStrip(const MeasuredSegment& segment, double left)
@@ -44,8 +44,8 @@ struct SegmentInStrip {
         along = static_cast<float>(x * segment.cosine + y * segment.sine);
     }
 
-    /// The squared distance of a pixel's centre; `column` counts from the strip's first, `row`
-    /// from the anchor row, both whole numbers.
+    /// The squared distance of a pixel's centre. `column` is counted from the strip's first column,
+    /// `row` from the anchor row; both are whole numbers.
     float squaredDistance(float column, float row) const {
         const float off = (across - column * sine) + row * cosine;
         const float from = std::abs((along + column * cosine) + row * sine);

@@ -8,12 +8,12 @@
 
 namespace marlevo {
 
-/// Square parts of the device plane, `side` pixels wide, made when first needed. A Tile is made
-/// from its place and tells it as its member `area`.
+/// Square parts of the device plane, `side` pixels wide, created on first use. A Tile is
+/// constructible from its place and has it as its member `area`.
 template <typename Tile, int side>
 class TileMap {
 public:
-    /// Calls `visit` with each tile that the area touches; new ones are made.
+    /// Calls `visit` with each tile that the area touches; creates those that are missing.
     template <typename Visit>
     void forEachTile(const IntRect& area, Visit visit) {
         const Range range(area);
@@ -26,8 +26,8 @@ public:
         }
     }
 
-    /// Calls `visit` with each tile at hand that the area touches, row by row from left to right
-    /// unless the area is vast.
+    /// Calls `visit` with each existing tile that the area touches, row by row from left to right.
+    /// The order is undefined if the area touches more places than there are tiles.
     template <typename Visit>
     void forEachKnownTile(const IntRect& area, Visit visit) {
         visitKnown(*this, area, visit);
@@ -37,7 +37,7 @@ public:
         visitKnown(*this, area, visit);
     }
 
-    /// Calls `visit` with each tile at hand.
+    /// Calls `visit` with each existing tile.
     template <typename Visit>
     void forEachKnownTile(Visit visit) {
         for (auto& [key, tile] : tiles_)

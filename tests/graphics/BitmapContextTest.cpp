@@ -1,6 +1,6 @@
 #include "graphics/BitmapContext.h"
 
-#include "graphics/StrokeByDistance.h"
+#include "graphics/Rasterizer.h"
 #include "tests/graphics/Supersampling.h"
 
 #include <gmock/gmock.h>

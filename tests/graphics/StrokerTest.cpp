@@ -1,7 +1,7 @@
 #include "graphics/Stroker.h"
 
-#include "graphics/FillOutline.h"
 #include "graphics/Flatten.h"
+#include "graphics/Rasterizer.h"
 #include "tests/graphics/Supersampling.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ void expectTruth(const FlattenedPath& line, double width, int size, const char* 
     FlattenedPath outline;
     strokeOutline(line, width, 1, 1, outline);
     Canvas canvas(size, size);
-    fillOutline(outline, canvas.buffer(), packColor(black, 1, PixelOrder::argb));
+    fillOutline(outline, BlendSink{canvas.buffer(), packColor(black, 1, PixelOrder::argb)});
 
     double sum = 0;
     for (int y = 0; y < size; ++y) {
@@ -152,7 +152,7 @@ TEST(Stroker, TakesWidthsOfAnySize) {
         strokeOutline(line, width, 1, 1, outline);
         EXPECT_LT(outline.points.size(), 10000u) << width;
         Canvas canvas(30, 30);
-        fillOutline(outline, canvas.buffer(), packColor(black, 1, PixelOrder::argb));
+        fillOutline(outline, BlendSink{canvas.buffer(), packColor(black, 1, PixelOrder::argb)});
         EXPECT_EQ(canvas.alpha(15, 14), width > 1 ? 255 : 0) << width;
     }
 }

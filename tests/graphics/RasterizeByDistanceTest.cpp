@@ -1,5 +1,4 @@
-#include "graphics/StrokeByDistance.h"
-
+#include "graphics/Rasterizer.h"
 #include "graphics/RoundPen.h"
 #include "graphics/SegmentInStrip.h"
 #include "tests/graphics/InstructionSets.h"
@@ -47,13 +46,13 @@ private:
 std::vector<std::uint8_t> drawn(const FlattenedPath& path, double width, PackedColor color,
                                 int size) {
     Canvas canvas(size, size);
-    strokeByDistance(path, width, canvas.buffer(), color);
+    strokeByDistance(path, width, BlendSink{canvas.buffer(), color});
     return canvas.bytes();
 }
 
 }  // namespace
 
-TEST(StrokeByDistance, VectorsGiveTheBytesOfScalarCode) {
+TEST(RasterizeByDistance, VectorsGiveTheBytesOfScalarCode) {
     constexpr int size = 96;
     RandomLines random(4);
     for (int round = 0; round < 30; ++round) {
@@ -86,7 +85,7 @@ TEST(StrokeByDistance, VectorsGiveTheBytesOfScalarCode) {
     }
 }
 
-TEST(StrokeByDistance, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
+TEST(RasterizeByDistance, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
     constexpr int size = 200;
     RandomLines random(5);
     for (int round = 0; round < 40; ++round) {
@@ -103,23 +102,24 @@ TEST(StrokeByDistance, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
         std::sort(std::begin(rows), std::end(rows));
         for (int i = 0; i + 1 < std::ssize(columns); ++i) {
             for (int j = 0; j + 1 < std::ssize(rows); ++j) {
-                strokeByDistance(path, width,
-                                 canvas.part({columns[i], rows[j], columns[i + 1], rows[j + 1]}),
-                                 half);
+                strokeByDistance(
+                    path, width,
+                    BlendSink{canvas.part({columns[i], rows[j], columns[i + 1], rows[j + 1]}),
+                              half});
             }
         }
         EXPECT_EQ(canvas.bytes(), whole) << "round " << round;
     }
 }
 
-TEST(StrokeByDistance, AgreesWithSupersampledTruth) {
+TEST(RasterizeByDistance, AgreesWithSupersampledTruth) {
     constexpr int size = 64;
     RandomLines random(6);
     for (int round = 0; round < 20; ++round) {
         const FlattenedPath path = random.walk(10, 12, size);
         const double width = random.between(2, 12);
         Canvas canvas(size, size);
-        strokeByDistance(path, width, canvas.buffer(), opaque);
+        strokeByDistance(path, width, BlendSink{canvas.buffer(), opaque});
         double sum = 0;
         int count = 0;
         for (int y = 0; y < size; ++y) {
@@ -137,10 +137,10 @@ TEST(StrokeByDistance, AgreesWithSupersampledTruth) {
     }
 }
 
-TEST(StrokeByDistance, DrawsADotForASubPathWithoutLength) {
+TEST(RasterizeByDistance, DrawsADotForASubPathWithoutLength) {
     for (const auto& points : {std::vector<Point>{{20, 20}}, {{20, 20}, {20, 20}}}) {
         Canvas canvas(40, 40);
-        strokeByDistance(polyline(points), 10, canvas.buffer(), opaque);
+        strokeByDistance(polyline(points), 10, BlendSink{canvas.buffer(), opaque});
         double area = 0;
         for (int y = 0; y < 40; ++y) {
             for (int x = 0; x < 40; ++x)
@@ -152,19 +152,20 @@ TEST(StrokeByDistance, DrawsADotForASubPathWithoutLength) {
     }
 }
 
-TEST(StrokeByDistance, IsNotDarkerWhereItCrossesItself) {
+TEST(RasterizeByDistance, IsNotDarkerWhereItCrossesItself) {
     Canvas canvas(40, 40);
-    strokeByDistance(polyline({{5, 20}, {35, 20}, {35, 5}, {20, 5}, {20, 35}}), 4, canvas.buffer(),
-                     half);
+    strokeByDistance(polyline({{5, 20}, {35, 20}, {35, 5}, {20, 5}, {20, 35}}), 4,
+                     BlendSink{canvas.buffer(), half});
     EXPECT_EQ(canvas.alpha(20, 20), 128);
     EXPECT_EQ(canvas.alpha(10, 20), 128);
 }
 
-TEST(StrokeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
+TEST(RasterizeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
     int last = 0;
     for (double width = 0.05; width < 2; width += 0.05) {
         Canvas canvas(20, 20);
-        strokeByDistance(polyline({{2, 10.5}, {18, 10.5}}), width, canvas.buffer(), opaque);
+        strokeByDistance(polyline({{2, 10.5}, {18, 10.5}}), width,
+                         BlendSink{canvas.buffer(), opaque});
         int sum = 0;
         for (int y = 0; y < 20; ++y)
             sum += canvas.alpha(10, y);
@@ -174,18 +175,18 @@ TEST(StrokeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
     }
 }
 
-TEST(StrokeByDistance, DrawsNothingWithoutAPositiveWidth) {
+TEST(RasterizeByDistance, DrawsNothingWithoutAPositiveWidth) {
     const std::vector<std::uint8_t> blank(40 * 40 * 4);
     for (const double width : {0.0, -3.0, std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_EQ(drawn(polyline({{5, 5}, {35, 35}}), width, opaque, 40), blank);
     }
 }
 
-TEST(StrokeByDistance, KeepsLongLinesInPlace) {
+TEST(RasterizeByDistance, KeepsLongLinesInPlace) {
     Canvas canvas(100, 100);
     const double far = FlattenedPath::maxCoordinate;
-    strokeByDistance(polyline({{-far, 50.5 - far / 2}, {far, 50.5 + far / 2}}), 3, canvas.buffer(),
-                     opaque);
+    strokeByDistance(polyline({{-far, 50.5 - far / 2}, {far, 50.5 + far / 2}}), 3,
+                     BlendSink{canvas.buffer(), opaque});
     for (int x = 0; x < 99; ++x) {
         const int y = static_cast<int>(50.5 + (x + 0.5) / 2);
         if (y < 98) {

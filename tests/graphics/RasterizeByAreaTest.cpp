@@ -1,5 +1,4 @@
-#include "graphics/FillOutline.h"
-
+#include "graphics/Rasterizer.h"
 #include "tests/graphics/InstructionSets.h"
 #include "tests/graphics/Supersampling.h"
 
@@ -16,7 +15,7 @@ const PackedColor opaque = packColor(black, 1, PixelOrder::argb);
 
 Canvas filled(const FlattenedPath& outline, int width, int height) {
     Canvas canvas(width, height);
-    fillOutline(outline, canvas.buffer(), opaque);
+    fillOutline(outline, BlendSink{canvas.buffer(), opaque});
     return canvas;
 }
 
@@ -53,7 +52,7 @@ FlattenedPath scribble(std::mt19937& random, int corners, double extent, double 
     return polygon(points);
 }
 
-TEST(FillOutline, CoversEachPixelByItsExactArea) {
+TEST(RasterizeByArea, CoversEachPixelByItsExactArea) {
     Canvas rect = filled(polygon({{1.25, 2.5}, {3.5, 2.5}, {3.5, 4}, {1.25, 4}}), 6, 6);
     EXPECT_EQ(rect.alpha(1, 2), 96);  // 0.75 × 0.5
     EXPECT_EQ(rect.alpha(2, 2), 128);
@@ -75,7 +74,7 @@ TEST(FillOutline, CoversEachPixelByItsExactArea) {
     }
 }
 
-TEST(FillOutline, FollowsTheNonZeroRule) {
+TEST(RasterizeByArea, FollowsTheNonZeroRule) {
     // The inner square is filled whichever way it turns unless it turns against the outer one.
     const std::vector<Point> outer{{1, 1}, {19, 1}, {19, 19}, {1, 19}};
     const std::vector<Point> inner{{5, 5}, {15, 5}, {15, 15}, {5, 15}};
@@ -90,7 +89,7 @@ TEST(FillOutline, FollowsTheNonZeroRule) {
     EXPECT_EQ(ring.alpha(17, 10), 255);
 }
 
-TEST(FillOutline, ClosesOpenSubPathsAndIgnoresWhatHasNoArea) {
+TEST(RasterizeByArea, ClosesOpenSubPathsAndIgnoresWhatHasNoArea) {
     FlattenedPath path;
     addPolygon(path, {{2, 2}, {8, 2}, {8, 8}}, false);
     addPolygon(path, {{12, 3}, {18, 9}}, false);
@@ -101,7 +100,7 @@ TEST(FillOutline, ClosesOpenSubPathsAndIgnoresWhatHasNoArea) {
     EXPECT_NEAR(coveredArea(canvas, {0, 0, 20, 20}), 18, 0.1);
 }
 
-TEST(FillOutline, AgreesWithSupersampledTruth) {
+TEST(RasterizeByArea, AgreesWithSupersampledTruth) {
     std::mt19937 random(7);
     for (int round = 0; round < 6; ++round) {
         const FlattenedPath outline =
@@ -119,7 +118,7 @@ TEST(FillOutline, AgreesWithSupersampledTruth) {
     }
 }
 
-TEST(FillOutline, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
+TEST(RasterizeByArea, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
     std::mt19937 random(11);
     for (int round = 0; round < 40; ++round) {
         const int width = 300;
@@ -135,7 +134,7 @@ TEST(FillOutline, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
             const int bottom = std::min(height, top + size(random));
             for (int left = 0; left < width;) {
                 const int right = std::min(width, left + size(random));
-                fillOutline(outline, parts.part({left, top, right, bottom}), opaque);
+                fillOutline(outline, BlendSink{parts.part({left, top, right, bottom}), opaque});
                 left = right;
             }
             top = bottom;
@@ -144,7 +143,7 @@ TEST(FillOutline, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
     }
 }
 
-TEST(FillOutline, GivesTheSameBytesWithEveryInstructionSet) {
+TEST(RasterizeByArea, GivesTheSameBytesWithEveryInstructionSet) {
     std::mt19937 random(13);
     FlattenedPath outline = scribble(random, 50, 150, 40);
     addPolygon(outline, {{-9, 20.3}, {300, 20.3}, {300, 120.7}, {-9, 120.7}});
@@ -152,14 +151,14 @@ TEST(FillOutline, GivesTheSameBytesWithEveryInstructionSet) {
     withEveryInstructionSet([&](const char* name) {
         Canvas canvas(203, 150);
         for (int i = 0; i < 2; ++i)
-            fillOutline(outline, canvas.buffer(),
-                        packColor({0.2, 0.9, 0.4, 1}, 0.6, PixelOrder::argb));
+            fillOutline(outline, BlendSink{canvas.buffer(),
+                                           packColor({0.2, 0.9, 0.4, 1}, 0.6, PixelOrder::argb)});
         if (expected.empty()) expected = canvas.bytes();
         EXPECT_EQ(canvas.bytes(), expected) << name;
     });
 }
 
-TEST(FillOutline, EndsBandsAtTheSamePixelsOnWidePictures) {
+TEST(RasterizeByArea, EndsBandsAtTheSamePixelsOnWidePictures) {
     // So wide that a band holds few rows, and edges go on from band to band.
     const FlattenedPath outline = polygon({{10, 3}, {29000, 40}, {15000, 77}});
     Canvas canvas = filled(outline, 30000, 80);
@@ -172,7 +171,7 @@ TEST(FillOutline, EndsBandsAtTheSamePixelsOnWidePictures) {
     }
 }
 
-TEST(FillOutline, SurvivesCoordinatesOfAnySize) {
+TEST(RasterizeByArea, SurvivesCoordinatesOfAnySize) {
     const double inf = std::numeric_limits<double>::infinity();
     for (const double far : {1e5, 4194304.0, 1e7, 1e12, 1e300, 1.7e308}) {
         // The diagonal passes through the middle of the picture.

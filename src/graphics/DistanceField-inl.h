@@ -1,5 +1,5 @@
-// The distances of pixels from line segments, in vectors; included once for each instruction set,
-// hence the guard.
+// Distances of pixels from line segments, in vectors. Included once per instruction set, hence the
+// guard.
 
 #include "graphics/DistanceField.h"
 #include "graphics/FlattenedPath.h"
@@ -14,11 +14,11 @@
 #include <iterator>
 #include <span>
 
-#if defined(MARLEVO_GRAPHICS_SEGMENT_DISTANCES_INL_H) == defined(HWY_TARGET_TOGGLE)
-#ifdef MARLEVO_GRAPHICS_SEGMENT_DISTANCES_INL_H
-#undef MARLEVO_GRAPHICS_SEGMENT_DISTANCES_INL_H
+#if defined(MARLEVO_GRAPHICS_DISTANCE_FIELD_INL_H) == defined(HWY_TARGET_TOGGLE)
+#ifdef MARLEVO_GRAPHICS_DISTANCE_FIELD_INL_H
+#undef MARLEVO_GRAPHICS_DISTANCE_FIELD_INL_H
 #else
-#define MARLEVO_GRAPHICS_SEGMENT_DISTANCES_INL_H
+#define MARLEVO_GRAPHICS_DISTANCE_FIELD_INL_H
 #endif
 
 HWY_BEFORE_NAMESPACE();
@@ -26,17 +26,15 @@ namespace marlevo::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-constexpr int blockWidth = DistanceField::blockWidth;
-constexpr int blockHeight = DistanceField::blockHeight;
+constexpr int blockWidth = BlockGrid::blockWidth;
+constexpr int blockHeight = BlockGrid::blockHeight;
 using Block = DistanceField::Block;
 
-#if HWY_TARGET != HWY_SCALAR
-
-/// Lowers the distances of consecutive blocks to those from a segment, in the very operations of
+/// Lowers the distances in consecutive blocks to those from a segment, by the same operations as
 /// SegmentInStrip::squaredDistance.
 HWY_INLINE void lowerDistances(Block* blocks, int count, float firstRow,
                                const SegmentInStrip& segment) {
-    const hn::CappedTag<float, DistanceField::blockPixels> d;
+    const hn::CappedTag<float, BlockGrid::blockPixels> d;
     const hn::RebindToSigned<decltype(d)> di;
     constexpr int lanes = static_cast<int>(hn::MaxLanes(d));
     constexpr int columns = std::min(lanes, blockWidth);
@@ -68,9 +66,10 @@ HWY_INLINE void lowerDistances(Block* blocks, int count, float firstRow,
     }
 }
 
-/// Turns a block's distances into coverages, as RoundPen::coverage does, and makes it far again.
+/// Converts a block's distances to coverage as RoundPen::coverage does; the block is untouched
+/// again.
 HWY_INLINE void takeCoverage(Block& block, const RoundPen& pen, std::uint8_t* coverage) {
-    const hn::CappedTag<float, DistanceField::blockPixels> d;
+    const hn::CappedTag<float, BlockGrid::blockPixels> d;
     const hn::RebindToSigned<decltype(d)> di;
     const hn::Rebind<std::uint8_t, decltype(d)> dBytes;
     const auto edge = hn::Set(d, pen.edge);
@@ -80,41 +79,19 @@ HWY_INLINE void takeCoverage(Block& block, const RoundPen& pen, std::uint8_t* co
         const auto share = hn::Min(hn::Max(inside, hn::Zero(d)), hn::Set(d, 1.0F));
         const auto rounded = hn::Add(hn::Mul(share, full), hn::Set(d, 0.5F));
         hn::StoreU(hn::DemoteTo(dBytes, hn::ConvertTo(di, rounded)), dBytes, coverage + i);
-        hn::Store(hn::Set(d, DistanceField::far), d, block.squares + i);
+        hn::Store(hn::Set(d, DistanceField::untouched), d, block.squares + i);
     }
 }
 
-#else
-
-void lowerDistances(Block* blocks, int count, float firstRow, const SegmentInStrip& segment) {
-    float row = firstRow;
-    for (int block = 0; block < count; ++block) {
-        float* square = blocks[block].squares;
-        for (int y = 0; y < blockHeight; ++y, ++row) {
-            for (int x = 0; x < blockWidth; ++x, ++square) {
-                *square = std::min(*square, segment.squaredDistance(static_cast<float>(x), row));
-            }
-        }
-    }
-}
-
-void takeCoverage(Block& block, const RoundPen& pen, std::uint8_t* coverage) {
-    for (float& square : block.squares) {
-        *coverage++ = static_cast<std::uint8_t>(pen.coverage(square));
-        square = DistanceField::far;
-    }
-}
-
-#endif
-
-/// Lowers a field's distances to those of segments, except where all pixels are covered.
+/// Lowers a field's distances to those from segments, except where all pixels are hidden.
 class SegmentPainter {
 public:
-    /// `covered` may be null.
-    SegmentPainter(DistanceField& field, double reach, const OcclusionMask* covered)
-        : field_(field), covered_(covered), reach_(reach), left_(field.left() - reach),
-          top_(field.top() - reach), right_(field.left() + field.stripCount() * blockWidth + reach),
-          bottom_(field.top() + field.blocksPerStrip() * blockHeight + reach) {}
+    /// `occlusion` may be null.
+    SegmentPainter(DistanceField& field, double reach, const OcclusionMask* occlusion)
+        : field_(field), grid_(field.grid()), occlusion_(occlusion), reach_(reach),
+          left_(grid_.left() - reach), top_(grid_.top() - reach),
+          right_(grid_.left() + grid_.stripCount() * blockWidth + reach),
+          bottom_(grid_.top() + grid_.blocksPerStrip() * blockHeight + reach) {}
 
     void add(Point a, Point b) {
         const double length = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
@@ -129,7 +106,7 @@ private:
     // Keeps the rounding errors of coordinates relative to a piece below 1/2000 of a pixel.
     static constexpr double maxPieceLength = 2048;
 
-    // Where the pieces meet depends on the segment only; those out of reach are skipped.
+    // The pieces depend on the segment only. Pieces out of reach are skipped.
     void addInPieces(Point a, Point b, double length) {
         double first = 0;
         double last = 1;
@@ -165,12 +142,12 @@ private:
 
         const MeasuredSegment measured(a, b);
         const int firstStrip = std::max(toStrip(minX - reach_), 0);
-        const int lastStrip = std::min(toStrip(maxX + reach_), field_.stripCount() - 1);
+        const int lastStrip = std::min(toStrip(maxX + reach_), grid_.stripCount() - 1);
         const double dx = b.x - a.x;
         const bool isNarrow = std::abs(dx) <= blockWidth;
         const double slope = isNarrow ? 0 : (b.y - a.y) / dx;
         for (int strip = firstStrip; strip <= lastStrip; ++strip) {
-            const double x = field_.left() + strip * blockWidth;
+            const double x = grid_.left() + strip * blockWidth;
             double fromY = minY;
             double toY = maxY;
             if (!isNarrow) {
@@ -181,31 +158,32 @@ private:
                 toY = std::max(y1, y2);
             }
             const int first = std::max(toBlock(fromY - reach_), 0);
-            const int last = std::min(toBlock(toY + reach_), field_.blocksPerStrip() - 1);
-            if (first > last || isCovered(strip, first, last)) continue;
-            field_.markTouched(strip, first, last);
+            const int last = std::min(toBlock(toY + reach_), grid_.blocksPerStrip() - 1);
+            if (first > last || isOccluded(strip, first, last)) continue;
+            grid_.set(strip, first, last);
 
-            const double firstRow = field_.top() + first * blockHeight - measured.anchorRow;
+            const double firstRow = grid_.top() + first * blockHeight - measured.anchorRow;
             lowerDistances(field_.strip(strip) + first, last - first + 1,
                            static_cast<float>(firstRow), SegmentInStrip(measured, x));
         }
     }
 
-    bool isCovered(int strip, int first, int last) const {
-        return covered_ != nullptr &&
-               !covered_->anyVisible(field_.left() + strip * blockWidth,
-                                     field_.top() + first * blockHeight, last - first + 1);
+    bool isOccluded(int strip, int first, int last) const {
+        return occlusion_ != nullptr &&
+               !occlusion_->anyVisible(grid_.left() + strip * blockWidth,
+                                       grid_.top() + first * blockHeight, last - first + 1);
     }
 
     int toStrip(double x) const {
-        return static_cast<int>(std::floor((x - field_.left()) / blockWidth));
+        return static_cast<int>(std::floor((x - grid_.left()) / blockWidth));
     }
     int toBlock(double y) const {
-        return static_cast<int>(std::floor((y - field_.top()) / blockHeight));
+        return static_cast<int>(std::floor((y - grid_.top()) / blockHeight));
     }
 
     DistanceField& field_;
-    const OcclusionMask* covered_;
+    BlockGrid& grid_;
+    const OcclusionMask* occlusion_;
     double reach_;
     double left_;
     double top_;
@@ -213,12 +191,12 @@ private:
     double bottom_;
 };
 
-void addSegments(DistanceField& field, const FlattenedPath& path, double reach,
-                 const OcclusionMask* covered) {
-    SegmentPainter painter(field, reach, covered);
-    for (const FlattenedPath::Contour& part : path.contours) {
-        const std::span<const Point> points = path.pointsOf(part);
-        if (part.closed || points.size() == 1) painter.add(points.back(), points.front());
+void addSegments(DistanceField& field, const FlattenedPath& line, double reach,
+                 const OcclusionMask* occlusion) {
+    SegmentPainter painter(field, reach, occlusion);
+    for (const FlattenedPath::Contour& contour : line.contours) {
+        const std::span<const Point> points = line.pointsOf(contour);
+        if (contour.closed || points.size() == 1) painter.add(points.back(), points.front());
         for (std::size_t i = 1; i < points.size(); ++i)
             painter.add(points[i - 1], points[i]);
     }
