@@ -4,9 +4,11 @@
 #include <QColorSpace>
 #include <QImage>
 #include <QImageWriter>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <algorithm>
+#include <unistd.h>
 
 using namespace marlevo;
 
@@ -117,6 +119,37 @@ private Q_SLOTS:
         image.fill(0);
         QVERIFY(!codec.decode(fileOf(image, "png")));
         QVERIFY(codec.decode(fileOf(image.copy(0, 0, 400, 400), "png")));
+    }
+
+    void damagedPicturesPrintNothing() {
+        const auto broken = [](std::vector<std::uint8_t> file, std::size_t length) {
+            file.resize(length, 0);
+            return file;
+        };
+        const RasterImage image = everyPremultipliedPixel();
+        auto badHeader = codec.encode(image, Format::png).value();
+        badHeader[20] ^= 1;
+        const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
+                                   "<use xlink:href='#none'/></svg>";
+        const std::vector<std::vector<std::uint8_t>> files{
+            badHeader,
+            broken(codec.encode(image, Format::tiff).value(), 900),
+            broken(codec.encode(image, Format::bmp).value(), 40),
+            {drawing.begin(), drawing.end()}};
+
+        QTemporaryFile errors;
+        QVERIFY(errors.open());
+        const auto testMessages = qInstallMessageHandler(nullptr);
+        const int before = ::dup(STDERR_FILENO);
+        ::dup2(errors.handle(), STDERR_FILENO);
+        for (const auto& file : files)
+            codec.decode(file);
+        qWarning("other messages are printed");
+        ::dup2(before, STDERR_FILENO);
+        ::close(before);
+        qInstallMessageHandler(testMessages);
+        errors.seek(0);
+        QCOMPARE(errors.readAll(), QByteArray("other messages are printed\n"));
     }
 
     void bytesThatAreNoImageGiveNothing() {

@@ -1,5 +1,6 @@
 #include "platform/qt/QtImageCodec.h"
 
+#include "platform/MutedStandardError.h"
 #include "platform/qt/QtImages.h"
 
 #include <QBuffer>
@@ -23,11 +24,14 @@ bool exceedsLimit(QSize size) {
 QtImageCodec::QtImageCodec() {
     constexpr std::int64_t bytes = maxDecodedPixels * std::int64_t{RasterImage::bytesPerPixel};
     QImageReader::setAllocationLimit(static_cast<int>(bytes >> 20));
+    const MutedStandardError firstOfTheProgram;
 }
 
 std::optional<RasterImage> QtImageCodec::decode(std::span<const std::uint8_t> file) const {
     QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
                                                static_cast<qsizetype>(file.size()));
+    // A damaged picture is no reason for messages: neither the toolkit's nor its libraries' own.
+    const MutedStandardError muted;
     QBuffer device(&bytes);
     QImageReader reader(&device);
     reader.setDecideFormatFromContent(true);
