@@ -9,7 +9,7 @@ class Pasteboard {
 public:
     virtual ~Pasteboard() = default;
 
-    /// Replaces the contents by the picture, offered as PNG and in what other forms there are.
+    /// Replaces the contents by the picture, offered in the forms that an ImageCodec writes.
     virtual void setImage(const RasterImage& picture) = 0;
 };
 

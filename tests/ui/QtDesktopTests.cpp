@@ -1,7 +1,12 @@
 #include "platform/qt/KeyRepeatFilter.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPasteboard.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QTest>
 #include <QThread>
 #include <QWindow>
@@ -43,6 +48,20 @@ private Q_SLOTS:
         queue.reset();
         QTRY_VERIFY(ranLater);
         QVERIFY(!ran);
+    }
+
+    void theClipboardOffersThePictureAsExportWritesIt() {
+        QtPasteboard().setImage(RasterImage(2, 1, {0, 0, 0, 0, 128, 0, 0, 128}));
+        const QMimeData& offer = *QGuiApplication::clipboard()->mimeData();
+        QCOMPARE(offer.formats(),
+                 (QStringList{"image/png", "image/tiff", "image/bmp", "image/jpeg"}));
+        const auto picture = [&](const QString& form) {
+            return QImage::fromData(offer.data(form));
+        };
+        QCOMPARE(picture("image/png").pixel(0, 0), qRgba(0, 0, 0, 0));
+        QCOMPARE(picture("image/tiff").pixelColor(1, 0), QColor(0, 0, 255, 128));
+        QCOMPARE(picture("image/bmp").pixel(0, 0), qRgb(255, 255, 255));
+        QVERIFY(qGreen(picture("image/jpeg").pixel(0, 0)) > 200);
     }
 
     void aPressAtTheTimeOfItsKeysReleaseRunsNoShortcut() {

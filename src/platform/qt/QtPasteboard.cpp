@@ -1,15 +1,65 @@
 #include "platform/qt/QtPasteboard.h"
 
-#include "platform/qt/QtImages.h"
+#include "platform/qt/QtImageCodec.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMimeData>
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace marlevo {
 
+namespace {
+
+struct Form {
+    QLatin1String name;
+    ImageCodec::Format format;
+};
+
+/// The forms without loss first: many programs take the first that they read.
+constexpr std::array forms{
+    Form{QLatin1String("image/png"), ImageCodec::Format::png},
+    Form{QLatin1String("image/tiff"), ImageCodec::Format::tiff},
+    Form{QLatin1String("image/bmp"), ImageCodec::Format::bmp},
+    Form{QLatin1String("image/jpeg"), ImageCodec::Format::jpeg},
+};
+
+/// A picture that is encoded when another program asks for it. It has a codec of its own because
+/// the clipboard keeps it until the very end of the program.
+class PictureData final : public QMimeData {
+public:
+    explicit PictureData(RasterImage picture) : picture_(std::move(picture)) {}
+
+    QStringList formats() const override {
+        QStringList names;
+        for (const Form& form : forms)
+            names << form.name;
+        return names;
+    }
+
+protected:
+    QVariant retrieveData(const QString& name, QMetaType) const override {
+        const auto* const form = std::ranges::find(forms, name, &Form::name);
+        if (form == forms.end()) return {};
+        const auto file = codec_.encode(picture_, form->format);
+        if (!file) return {};
+        return QByteArray(reinterpret_cast<const char*>(file->data()),
+                          static_cast<qsizetype>(file->size()));
+    }
+
+private:
+    RasterImage picture_;
+    QtImageCodec codec_;
+};
+
+}  // namespace
+
+// The clipboard takes ownership.
 void QtPasteboard::setImage(const RasterImage& picture) {
-    const QImage image = qImageFrom(picture);
-    if (!image.isNull()) QGuiApplication::clipboard()->setImage(image);
+    QGuiApplication::clipboard()->setMimeData(new PictureData(picture));
 }
 
 }  // namespace marlevo

@@ -4,9 +4,9 @@
 
 namespace marlevo {
 
-/// The desktop's clipboard through Qt. Other programs get the picture as PNG or in any other format
-/// that Qt writes, encoded when they ask. At the program's end Qt hands the contents to the
-/// clipboard manager, if one runs.
+/// The desktop's clipboard through Qt. Other programs get the picture as a file in one of the
+/// formats of QtImageCodec, encoded when they ask. At the program's end Qt hands the contents to
+/// the clipboard manager, if one runs.
 class QtPasteboard final : public Pasteboard {
 public:
     void setImage(const RasterImage& picture) override;
