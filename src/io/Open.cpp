@@ -43,17 +43,20 @@ void replacePicture(DrawingDocument& document, const DocumentData& drawing,
     document.currentFileURL = file;
 }
 
-void openDocument(const Services& services, FrontmostDocument frontmostDocument) {
+void openDocument(const Services& services, FrontmostDocument frontmostDocument,
+                  std::function<void(DrawingDocument&)> opened) {
     if (services.filePanels == nullptr) return;
     services.filePanels->showOpenPanel(
         {services.translate("Files", "Open Drawing"), documentFileType(services)},
-        [frontmostDocument =
-             std::move(frontmostDocument)](const std::optional<std::filesystem::path>& file) {
+        [frontmostDocument = std::move(frontmostDocument),
+         opened = std::move(opened)](const std::optional<std::filesystem::path>& file) {
             if (!file) return;
             DrawingDocument* const document = frontmostDocument();
             if (document == nullptr) return;
-            if (const auto drawing = loadDrawing(*file, document->services().console))
-                replacePicture(*document, *drawing, *file);
+            const auto drawing = loadDrawing(*file, document->services().console);
+            if (!drawing) return;
+            replacePicture(*document, *drawing, *file);
+            opened(*document);
         });
 }
 

@@ -24,7 +24,9 @@ void replacePicture(DrawingDocument& document, const DocumentData& drawing,
 
 /// Asks for a drawing in an open panel and replaces the picture of the document that is frontmost
 /// when the user confirms; without one the file is not even read. The file becomes that document's
-/// file. A failure is one line "Load failed: …" on the document's console and changes nothing.
-void openDocument(const Services& services, FrontmostDocument frontmostDocument);
+/// file, and `opened` is called. A failure is one line "Load failed: …" on the document's console
+/// and changes nothing.
+void openDocument(const Services& services, FrontmostDocument frontmostDocument,
+                  std::function<void(DrawingDocument&)> opened);
 
 }  // namespace marlevo

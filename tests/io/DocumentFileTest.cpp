@@ -41,7 +41,8 @@ struct Desktop {
 
 /// Opens the file in the document by the open panel.
 void open(Desktop& desktop, DrawingDocument* document, const fs::path& file) {
-    openDocument(desktop.services(), [document] { return document; });
+    openDocument(
+        desktop.services(), [document] { return document; }, [](auto&) {});
     desktop.panels.answer(file);
 }
 
@@ -176,7 +177,8 @@ TEST(OpeningDocuments, actsOnTheDocumentThatIsFrontmostAtConfirmation) {
     DrawingDocument second(desktop.services());
 
     DrawingDocument* frontmost = &first;
-    openDocument(desktop.services(), [&] { return frontmost; });
+    openDocument(
+        desktop.services(), [&] { return frontmost; }, [](auto&) {});
     EXPECT_EQ(desktop.panels.open->title, "Open Drawing");
     EXPECT_THAT(desktop.panels.open->fileType.extensions, ElementsAre("marlevo"));
     frontmost = &second;

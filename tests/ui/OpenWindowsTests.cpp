@@ -31,6 +31,25 @@ private Q_SLOTS:
         QVERIFY(console.lines.front().starts_with("Load failed: " + files[1].string()));
     }
 
+    void anOpenedDrawingDismissesTheSheetOfItsWindow() {
+        writeDrawing("a.marlevo", 1);
+        RunningApp s;
+        DocumentWindow& other = s.openWindow();
+        RunningApp::activate(s.window);
+        for (DocumentWindow* const window : {&s.window, &other})
+            window->content().setShowNewCanvas(true);
+        const auto open = [&](std::optional<std::filesystem::path> file) {
+            s.app.openDocument();
+            s.panels.answer(std::move(file));
+        };
+        open(std::nullopt);
+        open(folder_ / "missing.marlevo");
+        QVERIFY(s.window.content().showNewCanvas());
+        open(folder_ / "a.marlevo");
+        QVERIFY(!s.window.content().showNewCanvas());
+        QVERIFY(other.content().showNewCanvas());
+    }
+
     void withoutAReadableDrawingThereIsAFreshWindow() {
         FakeConsole console;
         MarlevoApp app({.console = &console});

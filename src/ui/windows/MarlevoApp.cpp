@@ -54,7 +54,12 @@ std::vector<DocumentWindow*> MarlevoApp::documentWindows() const {
 void MarlevoApp::openDocument() {
     const DrawingDocument* const frontmost = focusedDocument_.get();
     if (frontmost == nullptr) return;
-    marlevo::openDocument(frontmost->services(), [this] { return focusedDocument_.get(); });
+    marlevo::openDocument(
+        frontmost->services(), [this] { return focusedDocument_.get(); },
+        [this](const DrawingDocument& opened) {
+            for (DocumentWindow* const window : documentWindows())
+                if (&window->document() == &opened) window->content().setShowNewCanvas(false);
+        });
 }
 
 void MarlevoApp::showSettings() {

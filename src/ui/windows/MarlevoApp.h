@@ -46,8 +46,8 @@ public:
     /// The document windows still open, in the order in which they were opened.
     std::vector<DocumentWindow*> documentWindows() const;
 
-    /// Asks for a drawing over the frontmost window; it goes into the document that is focused when
-    /// the user confirms.
+    /// Asks for a drawing over the frontmost window; it replaces the picture of the document that
+    /// is focused when the user confirms, and dismisses the new-canvas sheet of that window.
     void openDocument();
 
     void showSettings();
