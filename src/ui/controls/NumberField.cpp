@@ -1,6 +1,7 @@
 #include "ui/controls/NumberField.h"
 
-#include <QEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLocale>
 
 #include <cmath>
@@ -27,18 +28,12 @@ std::optional<double> parse(const QLocale& locale, const QString& text) {
 NumberField::NumberField(const QString& name, QWidget* parent) : QLineEdit(parent) {
     setAccessibleName(name);
     rewrite();
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-        const auto number = parse(locale(), text);
-        if (!number) return;
-        value_ = *number;
-        Q_EMIT valueTyped(value_);
-    });
-    connect(this, &QLineEdit::editingFinished, this, &NumberField::rewrite);
+    connect(this, &QLineEdit::editingFinished, this, &NumberField::finish);
 }
 
 void NumberField::showValue(double value) {
     value_ = value;
-    if (parse(locale(), text()) != value) rewrite();
+    if (!isEdited()) rewrite();
 }
 
 void NumberField::changeEvent(QEvent* event) {
@@ -46,8 +41,43 @@ void NumberField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
 }
 
+void NumberField::keyPressEvent(QKeyEvent* event) {
+    // Without an edit the key is the window's.
+    if (event->key() == Qt::Key_Escape && isEdited())
+        rewrite();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void NumberField::focusOutEvent(QFocusEvent* event) {
+    // Another window may use the number. An unfinished text can be finished after the return.
+    if (event->reason() == Qt::ActiveWindowFocusReason) takeNumber();
+    QLineEdit::focusOutEvent(event);
+}
+
+// A window that closes takes the focus from the field without finishing the edit.
+void NumberField::hideEvent(QHideEvent* event) {
+    finish();
+    QLineEdit::hideEvent(event);
+}
+
+void NumberField::finish() {
+    takeNumber();
+    if (isEdited()) rewrite();
+}
+
+void NumberField::takeNumber() {
+    if (!isEdited()) return;
+    const auto number = parse(locale(), text());
+    if (!number) return;
+    value_ = *number;
+    rewrite();
+    Q_EMIT valueEntered(value_);
+}
+
 void NumberField::rewrite() {
-    setText(numberLocale(locale()).toString(value_, 'f', QLocale::FloatingPointShortest));
+    written_ = numberLocale(locale()).toString(value_, 'f', QLocale::FloatingPointShortest);
+    setText(written_);
 }
 
 }  // namespace marlevo

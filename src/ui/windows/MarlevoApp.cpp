@@ -96,7 +96,8 @@ void MarlevoApp::forget(DocumentWindow& window) {
     if (focusedDocument_.get() == &window.document())
         focusedDocument_.set(windows_.empty() ? nullptr : &windows_.back()->document());
     if (isQuitting_) closeNextWindow();
-    if (windows_.empty()) delete settings_;
+    // Closed, not deleted, so that a number typed there is stored.
+    if (windows_.empty() && settings_) settings_->close();
 }
 
 /// The window answers at once, or by one of its signals when it has asked the user.

@@ -41,9 +41,9 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     column->addWidget(&autoSave_);
     column->addStretch(1);
 
-    connect(&width_, &NumberField::valueTyped, this,
+    connect(&width_, &NumberField::valueEntered, this,
             [this](double value) { preferences_.set(preference::defaultCanvasWidth, value); });
-    connect(&height_, &NumberField::valueTyped, this,
+    connect(&height_, &NumberField::valueEntered, this,
             [this](double value) { preferences_.set(preference::defaultCanvasHeight, value); });
     connect(&autoSave_, &Switch::toggled, this,
             [this](bool on) { preferences_.set(preference::autoSaveEnabled, on); });

@@ -8,7 +8,8 @@
 
 namespace marlevo {
 
-/// Shows and edits the user's settings; each change is stored at once.
+/// Shows and edits the user's settings. A change is stored at once, a number when it is entered
+/// (NumberField.h).
 class PreferencesView final : public QWidget {
     Q_OBJECT
 
