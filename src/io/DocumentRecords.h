@@ -5,7 +5,7 @@ namespace marlevo {
 class DrawingDocument;
 struct DocumentData;
 
-/// The document's picture as a file holds it. Takes little time: points and images are shared.
+/// The document's picture as records for a file. Takes little time: points and images are shared.
 DocumentData encodeDocumentData(const DrawingDocument& document);
 
 /// Replaces the document's picture, sets the zoom to 1, makes the lowest layer active and starts a

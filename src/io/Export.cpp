@@ -36,7 +36,7 @@ std::optional<ImageCodec::Format> rasterFormat(ExportFormat format) {
     return std::nullopt;
 }
 
-/// The picture as a file in the format; nothing when there is no picture or it cannot be encoded.
+/// The picture as a file in the format. Nothing if there is no picture or it cannot be encoded.
 std::optional<std::vector<std::uint8_t>> encodedPicture(const DrawingDocument& document,
                                                         ExportFormat format) {
     const auto raster = rasterFormat(format);
@@ -47,8 +47,7 @@ std::optional<std::vector<std::uint8_t>> encodedPicture(const DrawingDocument& d
     return image ? codec->encode(*image, *raster) : std::nullopt;
 }
 
-/// A side of the canvas as it stands in a file name. Beyond the integers there is no such number:
-/// those read as 0.
+/// A side of the canvas as a whole number for a file name. "0" if it is beyond 64-bit integers.
 std::string wholeNumber(double value) {
     const bool fits = value > -0x1p63 && value < 0x1p63;
     return std::to_string(fits ? static_cast<std::int64_t>(value) : 0);

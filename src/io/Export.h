@@ -23,7 +23,7 @@ void performExport(DrawingDocument& document, ExportFormat format);
 /// Sends the picture to the print dialog, after the current event. Failures are silent.
 void printDocument(const DrawingDocument& document);
 
-/// Replaces the pasteboard's contents by the picture; leaves them when there is no picture.
+/// Replaces the pasteboard's contents by the picture. Changes nothing if there is no picture.
 void copyToClipboard(const DrawingDocument& document);
 
 }  // namespace marlevo

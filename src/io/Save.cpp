@@ -31,7 +31,7 @@ Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesy
 
 void writeDocument(DrawingDocument& document, const std::filesystem::path& to) {
     const Services& services = document.services();
-    // The whole text before the file is touched.
+    // Encoded completely before the file is opened.
     const auto text = encodeFile(document, to);
     if (!text) return reportFailedSave(services.console, text.error().text);
     auto written = writeWholeFile(to, text->pieces());
