@@ -12,8 +12,8 @@ QImage qImageFrom(const RasterImage& raster);
 /// The pixels of an image in QImage::Format_ARGB32_Premultiplied.
 RasterImage rasterFrom(const QImage& image);
 
-/// The image on white, without alpha, at 72 pixels an inch. Null if the image is null or if there is
-/// no memory for the result.
+/// The image on white, without alpha, at 72 pixels an inch. Null if the image is null or if there
+/// is no memory for the result.
 QImage onWhite(const QImage& image);
 
 }  // namespace marlevo

@@ -9,8 +9,8 @@ class QPrinter;
 
 namespace marlevo {
 
-/// Prints by Qt's dialog, which is shown over the active window if there is one. The dialog proposes
-/// the printer and the paper that the user chose last in this run of the program.
+/// Prints by Qt's dialog, which is shown over the active window if there is one. The dialog
+/// proposes the printer and the paper that the user chose last in this run of the program.
 ///
 /// The picture is printed on white, without lossy compression.
 class QtPrinter final : public Printer {
