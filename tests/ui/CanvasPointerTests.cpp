@@ -2,7 +2,8 @@
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 
-#include <memory>
+#include <QDialog>
+#include <QMenu>
 
 using namespace marlevo;
 
@@ -30,6 +31,8 @@ class CanvasPointerTests : public QObject {
             return {points.begin(), points.end()};
         }
     };
+
+    using Cut = void (*)(Setting&);
 
 private Q_SLOTS:
     void positionsAreDividedByTheZoomAndKeepTheirFraction() {
@@ -66,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(s.document.currentStroke->has_value());
     }
 
-    void aDragWhoseWindowLosesTheFocusEnds() {
+    void aStrokeGoesOnWhenAnotherWindowTakesTheFocus() {
         Setting s;
         s.pointer.press({20, 20});
         s.pointer.move({60, 20});
@@ -74,7 +77,32 @@ private Q_SLOTS:
         other.show();
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
-        QTRY_VERIFY(!s.document.currentStroke->has_value());
+        s.pointer.move({90, 20});
+        s.pointer.release({90, 20});
+        QCOMPARE(s.drawn().size(), std::size_t{3});
+    }
+
+    void aPressWhoseReleaseCannotArriveEnds_data() {
+        QTest::addColumn<Cut>("cut");
+        const auto add = [](const char* name, Cut cut) { QTest::newRow(name) << cut; };
+        add("modal panel", [](Setting& s) {
+            auto* const panel = new QDialog(&s.window);
+            panel->setAttribute(Qt::WA_DeleteOnClose);
+            panel->open();
+        });
+        add("menu", [](Setting& s) { (new QMenu(&s.window))->popup(s.window.pos()); });
+        add("hidden view", [](Setting& s) { s.window.canvasView().hide(); });
+        add("new-canvas sheet", [](Setting& s) { s.window.content().setShowNewCanvas(true); });
+        add("button up", [](Setting& s) { Pointer(s.window.canvasView()).move({70, 20}); });
+    }
+
+    void aPressWhoseReleaseCannotArriveEnds() {
+        QFETCH(Cut, cut);
+        Setting s;
+        s.pointer.press({20, 20});
+        s.pointer.move({60, 20});
+        cut(s);
+        QVERIFY(!s.document.currentStroke->has_value());
         QCOMPARE(s.drawn().size(), std::size_t{2});
         s.pointer.move({90, 20});
         s.pointer.release({90, 20});

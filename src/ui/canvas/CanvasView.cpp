@@ -37,11 +37,13 @@ void acceptCopy(QDropEvent& event) {
 }  // namespace
 
 CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
-    : QWidget(parent), document_(document), gesture_(document), imageDrop_(document),
+    : QWidget(parent), document_(document), gesture_(document),
+      releaseWatch_(*this, [this] { interruptGesture(); }), imageDrop_(document),
       reader_(document.changeRegistry(), [this](DocumentProperty property) { follow(property); }),
       pointerShape_(document.changeRegistry(), [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
     setAcceptDrops(true);
+    setMouseTracking(true);  // a move with the button up tells that a release was lost
     setAccessibleName(tr("Canvas"));
     takeColors();
     connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this, &CanvasView::takeColors);
@@ -146,11 +148,12 @@ void CanvasView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const Point at = viewPoint(*event);
     clickDetector_.press(at);
+    releaseWatch_.start();
     gesture_.begin(canvasPoint(at));
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
-    if (!(event->buttons() & Qt::LeftButton)) return gesture_.interrupt();
+    if (!(event->buttons() & Qt::LeftButton)) return interruptGesture();
     const Point at = viewPoint(*event);
     clickDetector_.move(at);
     const Size way = clickDetector_.sincePress(at);
@@ -161,13 +164,19 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !gesture_.isActive()) return;
     const Point at = viewPoint(*event);
     const Click click = clickDetector_.release(at);
+    releaseWatch_.stop();
     std::optional<WaitPointer> wait;
     if (click == Click::yes && document_.isFillTool) wait.emplace();
     gesture_.end(canvasPoint(at), click);
 }
 
-void CanvasView::hideEvent(QHideEvent* event) {
+void CanvasView::interruptGesture() {
+    releaseWatch_.stop();
     gesture_.interrupt();
+}
+
+void CanvasView::hideEvent(QHideEvent* event) {
+    interruptGesture();
     picture_.releaseMemory();
     QWidget::hideEvent(event);
 }
@@ -180,12 +189,6 @@ void CanvasView::dragEnterEvent(QDragEnterEvent* event) {
 
 void CanvasView::dropEvent(QDropEvent* event) {
     if (imageDrop_.handleDrop(itemProviders(*event->mimeData()))) acceptCopy(*event);
-}
-
-bool CanvasView::event(QEvent* event) {
-    // Another window may receive the release.
-    if (event->type() == QEvent::WindowDeactivate) gesture_.interrupt();
-    return QWidget::event(event);
 }
 
 /// In view points from the canvas's top left corner. At a fractional scale factor, an event's

@@ -7,6 +7,7 @@
 #include "tools/ClickDetector.h"
 #include "tools/PointerGesture.h"
 #include "ui/canvas/CanvasOverlay.h"
+#include "ui/canvas/ReleaseWatch.h"
 
 #include <QWidget>
 
@@ -31,8 +32,10 @@ public:
 
     const DrawingDocument& document() const { return document_; }
 
+    /// Ends a press on the canvas: what it did so far stays, and the rest of it does nothing.
+    void interruptGesture();
+
 protected:
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -62,6 +65,7 @@ private:
     std::vector<std::uint8_t> frame_;  ///< the pixels of one paint; reused by the next
     PointerGesture gesture_;
     ClickDetector clickDetector_;
+    ReleaseWatch releaseWatch_;
     ImageDrop imageDrop_;
     Reader reader_;
     Follower pointerShape_;

@@ -46,6 +46,7 @@ QString ContentView::windowTitle() const {
 void ContentView::setShowNewCanvas(bool show) {
     if (show == showNewCanvas()) return;
     if (show) {
+        canvas_.view().interruptGesture();
         sheet_ = new SheetHost(*this);
         sheet_->setSheet(new NewCanvasSheet(document_, [this] { setShowNewCanvas(false); }));
     } else {
