@@ -5,18 +5,16 @@
 #include "tools/Selection.h"
 #include "tools/StrokeCapture.h"
 
-#include <utility>
-
 namespace marlevo {
 
 void PointerGesture::begin(Point at) {
     interrupt();
     if (document_.isSelectTool)
-        state_ = Selecting{};
+        state_.emplace<Selecting>();
     else if (document_.isFillTool || document_.isEyeDropper)
-        state_ = Pressing{};
+        state_.emplace<Pressing>();
     else
-        state_ = Drawing{};
+        state_.emplace<Drawing>();
     move({at, {}});
 }
 
@@ -26,23 +24,25 @@ void PointerGesture::move(const Sample& sample) {
     else if (std::holds_alternative<Selecting>(state_))
         startMove(sample);
     else if (std::holds_alternative<Moving>(state_))
-        updateSelectDrag(document_, sample.sincePress);
+        updateMove(sample.sincePress);
 }
 
 void PointerGesture::end(Point at, Click click) {
-    if (!isActive()) return;
+    if (std::holds_alternative<Idle>(state_)) return;
+    const bool isOver = std::holds_alternative<Over>(state_);
     finish();
+    if (isOver) return;
     if (click == Click::yes) this->click(at);
 }
 
 void PointerGesture::interrupt() { finish(); }
 
 void PointerGesture::finish() {
-    const auto ended = std::exchange(state_, Idle{});
-    if (std::holds_alternative<Drawing>(ended))
-        endStroke(document_);
-    else if (std::holds_alternative<Moving>(ended))
-        endSelectDrag(document_);
+    const bool wasDrawing = std::holds_alternative<Drawing>(state_);
+    const bool wasMoving = std::holds_alternative<Moving>(state_);
+    state_.emplace<Idle>();
+    if (wasDrawing) endStroke(document_);
+    if (wasMoving) endSelectDrag(document_);
 }
 
 /// The stroke may be absent in mid-press, because another drawing was opened.
@@ -57,15 +57,42 @@ void PointerGesture::draw(Point at) {
 /// wherever it is.
 void PointerGesture::startMove(const Sample& sample) {
     if (!document_.isSelectTool) {
-        state_ = Pressing{};
+        state_.emplace<Pressing>();
         return;
     }
     if (!document_.selectedStrokeIndex->has_value()) selectStroke(document_, sample.at);
     if (!document_.selectionDragStartPositions->has_value()) beginSelectDrag(document_);
-    // Absent if nothing is selected, or if the selection names a stroke that is gone.
-    if (!document_.selectionDragStartPositions->has_value()) return;
-    state_ = Moving{};
-    updateSelectDrag(document_, sample.sincePress);
+    // Nothing may be selected, or the selection may name a stroke that is gone.
+    if (selectedStroke(document_) == nullptr) return;
+    auto& moving = state_.emplace<Moving>(
+        document_.changeRegistry(), [this](DocumentProperty change) { endMoveAfter(change); });
+    moving.reader.observe([this] {
+        (void)*document_.isSelectTool, (void)*document_.selectedLayerID;
+        (void)*document_.selectedStrokeIndex, (void)*document_.selectionDragStartPositions;
+        (void)*document_.layers, (void)document_.canUndo(), (void)document_.canRedo();
+    });
+    updateMove(sample.sincePress);
+}
+
+void PointerGesture::updateMove(Size sincePress) {
+    std::get<Moving>(state_).isOwnChange = true;
+    updateSelectDrag(document_, sincePress);
+    auto* const moving = std::get_if<Moving>(&state_);
+    if (moving == nullptr) return;  // a reader of the document has ended the move
+    moving->isOwnChange = false;
+    if (const Stroke* const stroke = selectedStroke(document_)) moving->points = stroke->points;
+}
+
+/// Layers may change while the stroke stays where the move has put it: the move goes on when a
+/// layer is hidden.
+void PointerGesture::endMoveAfter(DocumentProperty change) {
+    if (change == DocumentProperty::layers) {
+        const auto& moving = std::get<Moving>(state_);
+        const Stroke* const stroke = selectedStroke(document_);
+        if (moving.isOwnChange || (stroke && stroke->points == moving.points)) return;
+    }
+    state_.emplace<Over>();
+    endSelectDrag(document_);
 }
 
 /// The order differs from that of a press, which matters when several tool flags are set.

@@ -5,6 +5,7 @@
 #include "model/DrawingDocument.h"
 #include "tools/ClickDetector.h"
 
+#include <utility>
 #include <variant>
 
 namespace marlevo {
@@ -48,16 +49,26 @@ private:
     struct Idle {};
     struct Drawing {};
     struct Selecting {};  ///< the select tool has found no stroke yet
-    struct Moving {};
+    struct Moving {
+        Moving(ChangeRegistry& registry, Reader::Callback onChange)
+            : reader(registry, std::move(onChange)) {}
+
+        Reader reader;     ///< of all that the move depends on
+        PointList points;  ///< of the selected stroke, as this move has left them
+        bool isOwnChange = false;
+    };
     struct Pressing {};  ///< fill tool or eyedropper
+    struct Over {};      ///< the press has not ended but does nothing more
 
     void finish();
     void draw(Point at);
     void startMove(const Sample& sample);
+    void updateMove(Size sincePress);
+    void endMoveAfter(DocumentProperty change);
     void click(Point at);
 
     DrawingDocument& document_;
-    std::variant<Idle, Drawing, Selecting, Moving, Pressing> state_;
+    std::variant<Idle, Drawing, Selecting, Moving, Pressing, Over> state_;
 };
 
 }  // namespace marlevo

@@ -21,7 +21,7 @@ struct StrokePlace {
     std::size_t stroke;
 };
 
-std::optional<StrokePlace> selectedStroke(const DrawingDocument& document) {
+std::optional<StrokePlace> selectedPlace(const DrawingDocument& document) {
     const std::optional<Uuid>& layerID = document.selectedLayerID;
     const std::optional<std::int64_t>& strokeIndex = document.selectedStrokeIndex;
     if (!layerID || !strokeIndex || *strokeIndex < 0) return std::nullopt;
@@ -53,21 +53,26 @@ void selectStroke(DrawingDocument& document, Point at) {
     document.clearSelection();
 }
 
+const Stroke* selectedStroke(const DrawingDocument& document) {
+    const auto place = selectedPlace(document);
+    return place ? &strokeAt(document.layers, *place) : nullptr;
+}
+
 std::optional<Rect> selectedStrokeBoundingRect(const DrawingDocument& document) {
-    const auto place = selectedStroke(document);
-    if (!place) return std::nullopt;
-    return strokeAt(document.layers, *place).boundingRect().grownBy(outlineMargin);
+    const Stroke* const stroke = selectedStroke(document);
+    if (stroke == nullptr) return std::nullopt;
+    return stroke->boundingRect().grownBy(outlineMargin);
 }
 
 void beginSelectDrag(DrawingDocument& document) {
-    const auto place = selectedStroke(document);
+    const auto place = selectedPlace(document);
     if (!place) return;
     document.saveState();
     document.selectionDragStartPositions = strokeAt(document.layers, *place).points;
 }
 
 void updateSelectDrag(DrawingDocument& document, Size translation) {
-    const auto place = selectedStroke(document);
+    const auto place = selectedPlace(document);
     const std::optional<PointList>& start = document.selectionDragStartPositions;
     if (!place || !start) return;
     const Stroke& selected = strokeAt(document.layers, *place);
@@ -92,7 +97,7 @@ void endSelectDrag(DrawingDocument& document) {
 }
 
 void deleteSelectedStroke(DrawingDocument& document) {
-    const auto place = selectedStroke(document);
+    const auto place = selectedPlace(document);
     if (!place) return;
     document.saveState();
     document.layers.modify([&](LayerList& all) { all[place->layer].strokes.erase(place->stroke); });

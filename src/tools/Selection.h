@@ -9,12 +9,16 @@
 namespace marlevo {
 
 class DrawingDocument;
+struct Stroke;
 
 // The selection of one stroke of a document. A selection that names no stroke, because the layers
 // have changed since, counts as none. Positions are in canvas pixels.
 
 /// Selects the topmost layer's oldest stroke at the point, or nothing when there is none there.
 void selectStroke(DrawingDocument& document, Point at);
+
+/// Null when no stroke is selected. Valid until the next change of the layers.
+const Stroke* selectedStroke(const DrawingDocument& document);
 
 /// The outline around the selected stroke.
 std::optional<Rect> selectedStrokeBoundingRect(const DrawingDocument& document);

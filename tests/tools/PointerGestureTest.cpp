@@ -8,6 +8,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -194,6 +195,67 @@ TEST(PointerGesture, EndsWhatThePressBeganWhicheverToolIsChosenByThen) {
     }
 }
 
+TEST(PointerGesture, EndsAMoveWithWhatItMovesAndLeavesTheNextStrokeAlone) {
+    const std::vector<std::pair<const char*, void (*)(Hand&)>> interruptions{
+        {"another tool", [](Hand& h) { h.choose(fill); }},
+        {"deselection", [](Hand& h) { h.document.selectedLayerID = std::nullopt; }},
+        {"another selection", [](Hand& h) { selectStroke(h.document, onSecond); }},
+        {"deletion", [](Hand& h) { deleteSelectedStroke(h.document); }},
+        {"clearing", [](Hand& h) { h.document.clearActiveLayer(); }},
+        {"clearing all", [](Hand& h) { h.document.clearAll(); }},
+        {"undo", [](Hand& h) { h.document.undo(); }},
+        {"another layer", [](Hand& h) { h.document.addLayer(); }},
+        {"the next stroke in its place",
+         [](Hand& h) {
+             h.document.layers.modify([](LayerList& all) { all[0].strokes.erase(0); });
+         }},
+        {"another picture", [](Hand& h) { h.document.layers = LayerList{Layer("Other")}; }},
+    };
+    for (const auto& [name, interrupt] : interruptions) {
+        for (const bool hasMoved : {false, true}) {
+            for (const Ending ending : endings) {
+                SCOPED_TRACE(std::string(name) + (hasMoved ? ", moved" : ", pressed") +
+                             ", ending " + std::to_string(int(ending)));
+                Hand hand;
+                hand.choose(select);
+                hand.gesture.begin(start);
+                if (hasMoved) hand.moveTo(middle);
+                interrupt(hand);
+                EXPECT_FALSE(hand.document.selectionDragStartPositions->has_value());
+                const LayerList left = hand.document.layers;
+                const auto selected = hand.document.selectedStrokeIndex.get();
+                hand.finish(ending);
+                EXPECT_FALSE(hand.gesture.isActive());
+                EXPECT_EQ(hand.document.layers->size(), left.size()) << "filled";
+                EXPECT_EQ(hand.document.selectedStrokeIndex.get(), selected);
+                for (std::size_t i = 0; i < left.front().strokes.size(); ++i)
+                    EXPECT_EQ(hand.strokes()[i].points, left.front().strokes[i].points);
+            }
+        }
+    }
+}
+
+TEST(PointerGesture, AMoveGoesOnWhileItsLayerIsHidden) {
+    Hand hand;
+    hand.choose(select);
+    hand.gesture.begin(start);
+    hand.moveTo(middle);
+    hand.document.toggleLayerVisibility(0);
+    hand.finish(Ending::drag);
+    EXPECT_EQ(hand.corner(0), (Point{35, 25}));
+}
+
+TEST(PointerGesture, UndoLeavesTheStrokeInProgressAlone) {
+    Hand hand;
+    hand.gesture.begin(start);
+    hand.moveTo(middle);
+    hand.document.undo();
+    hand.document.redo();
+    hand.document.undo();
+    hand.finish(Ending::drag);
+    EXPECT_EQ(hand.outcome(), (Outcome{.newStrokes = {{start, middle, last}}}));
+}
+
 TEST(PointerGesture, KeepsEveryPositionAndTheReleaseAddsNone) {
     Hand hand;
     hand.gesture.begin({1, 2});
@@ -229,6 +291,14 @@ TEST(PointerGesture, APressBesideEveryStrokeSelectsTheFirstOneItReaches) {
     hand.gesture.move({onSecond, {25, -25}});
     hand.gesture.end(onSecond, Click::no);
     EXPECT_EQ(hand.outcome(), (Outcome{.undoSteps = 1, .selected = 0, .moved = {25, -25}}));
+
+    Hand other;
+    other.choose(select);
+    other.gesture.begin(empty);
+    other.choose(brush);
+    other.gesture.move({start, {-20, -70}});
+    other.gesture.end(start, Click::no);
+    EXPECT_EQ(other.outcome(), Outcome{}) << "unless another tool is chosen by then";
 }
 
 TEST(PointerGesture, ReadsSeveralFlagsInOneOrderForADragAndInAnotherForAClick) {
