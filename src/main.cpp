@@ -3,6 +3,7 @@
 #include "platform/StandardOutput.h"
 #include "platform/WorkQueue.h"
 #include "platform/qt/KeyRepeatFilter.h"
+#include "platform/qt/LatinShortcuts.h"
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtPasteboard.h"
@@ -57,6 +58,8 @@ int main(int argc, char* argv[]) {
     const marlevo::Translations translations;
     marlevo::KeyRepeatFilter keyRepeatFilter;
     application.installEventFilter(&keyRepeatFilter);
+    marlevo::LatinShortcuts latinShortcuts;
+    application.installEventFilter(&latinShortcuts);
 
     marlevo::QtMainQueue mainQueue;
     const marlevo::QtImageCodec imageCodec;

@@ -1,3 +1,4 @@
+#include "platform/qt/LatinShortcuts.h"
 #include "tests/ui/RunningApp.h"
 
 #include <QCheckBox>
@@ -13,6 +14,24 @@ void type(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::No
     QTest::qWait(2);
     QTest::keyClick(window.windowHandle(), key, modifiers);
 }
+
+/// A key with Ctrl as an X11 or Wayland server tells it.
+struct NativeKey {
+    int key;
+    quint32 code;
+    quint32 symbol;
+
+    void type(QWidget& window) const {
+        static quint64 time = 0;
+        for (const QEvent::Type step :
+             {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(step, key, Qt::ControlModifier, code, symbol, 0);
+            if (step == QEvent::ShortcutOverride) event.ignore();
+            event.setTimestamp(++time);
+            QCoreApplication::sendEvent(window.windowHandle(), &event);
+        }
+    }
+};
 
 void selectTheStroke(DrawingDocument& document) {
     document.isSelectTool = true;
@@ -71,7 +90,43 @@ private Q_SLOTS:
         QCOMPARE(zoomAfter(Qt::Key_Equal, 4.5), 5.0);
         QCOMPARE(zoomAfter(Qt::Key_Minus, 1.2), 1.0);
         QCOMPARE(zoomAfter(Qt::Key_Minus, 0.11), 0.1);
-        QCOMPARE(zoomAfter(Qt::Key_Plus, 1), 1.0);
+        QCOMPARE(zoomAfter(Qt::Key_Plus, 1), 1.2);
+    }
+
+    void capsLockAndTheScriptOfTheKeyboardDoNotCount() {
+        RunningApp s;
+        LatinShortcuts latin;
+        qApp->installEventFilter(&latin);
+        NativeKey{.key = Qt::Key_E, .code = 26, .symbol = 'E'}.type(s.window);
+        QVERIFY(s.document.isEraser);
+        // A Latin layout beside another: Qt finds the letter and leaves the symbol.
+        NativeKey{.key = Qt::Key_E, .code = 26, .symbol = 0x6d5}.type(s.window);
+        QVERIFY(!s.document.isEraser);
+
+        const NativeKey russianE{.key = 0x423, .code = 26, .symbol = 0x6d5};
+        const NativeKey greekK{.key = 0x39a, .code = 45, .symbol = 0x7ea};
+        const NativeKey thaiEqual{.key = 0xe0a, .code = 21, .symbol = 0xdaa};
+        const NativeKey arabicA{.key = 0x634, .code = 38, .symbol = 0x5d4};
+        const NativeKey turkishI{.key = 0x131, .code = 26, .symbol = 0x2b9};
+        russianE.type(s.window);
+        QVERIFY(s.document.isEraser);
+        turkishI.type(s.window);
+        QVERIFY(s.document.isEraser);
+        thaiEqual.type(s.window);
+        QCOMPARE(s.document.zoom.get(), 1.2);
+        drawStroke(s.document);
+        greekK.type(s.window);
+        QCOMPARE(strokeCount(s.document.layers), qint64{0});
+        greekK.type(s.window);
+        QCOMPARE(strokeCount(s.document.layers), qint64{0});
+
+        s.window.content().setShowNewCanvas(true);
+        button<QCheckBox>(s.window, "Custom size").setChecked(true);
+        auto& width = control<QLineEdit>(s.window, "Width");
+        width.setFocus();
+        width.deselect();
+        arabicA.type(s.window);
+        QCOMPARE(width.selectedText(), width.text());
     }
 
     void aHeldKeyActsOnce() {

@@ -15,20 +15,17 @@ namespace marlevo {
 
 namespace {
 
-/// The character of the key with Shift and Caps Lock applied, but not Ctrl, which makes letters
-/// control characters; 0 when it has none.
-char32_t characterWithoutControl(const QKeyEvent& press) {
-    // On X11 and Wayland this is the key's symbol, which is Latin-1 up to 0xff.
-    const quint32 symbol = press.nativeVirtualKey();
-    if (symbol >= 0x20 && symbol <= 0xff) return symbol;
-    if (symbol != 0 || press.key() < Qt::Key_A || press.key() > Qt::Key_Z) return 0;
+/// The Latin letter of the key with Shift applied, but neither Ctrl nor Caps Lock; 0 when it has
+/// none.
+char32_t letterIgnoringModifiers(const QKeyEvent& press) {
+    if (press.key() < Qt::Key_A || press.key() > Qt::Key_Z) return 0;
     const bool isUpper = press.modifiers().testFlag(Qt::ShiftModifier);
     return char32_t(press.key() - Qt::Key_A) + (isUpper ? U'A' : U'a');
 }
 
 bool showsNewCanvas(const QKeyEvent& press) {
     return press.modifiers().testFlag(Qt::ControlModifier) &&
-           characterWithoutControl(press) == U'n';
+           letterIgnoringModifiers(press) == U'n';
 }
 
 bool isDelete(const QKeyEvent& press) {
@@ -68,7 +65,8 @@ KeyMonitor::Action KeyMonitor::actionOf(const QKeyEvent& press) const {
     if (newCanvas_.isShown()) return showsNewCanvas(press) ? newCanvas_.show : Action();
     if (press.modifiers().testFlag(Qt::ControlModifier)) {
         if (Action action = controlActionOf(press)) return action;
-        if (press.text() == u'=') return [this] { document_.zoom = zoomedIn(document_.zoom); };
+        if (press.text() == u'=' || press.text() == u'+')
+            return [this] { document_.zoom = zoomedIn(document_.zoom); };
         if (press.text() == u'-') return [this] { document_.zoom = zoomedOut(document_.zoom); };
     }
     const bool deletesStroke =
@@ -78,7 +76,7 @@ KeyMonitor::Action KeyMonitor::actionOf(const QKeyEvent& press) const {
 }
 
 KeyMonitor::Action KeyMonitor::controlActionOf(const QKeyEvent& press) const {
-    switch (characterWithoutControl(press)) {
+    switch (letterIgnoringModifiers(press)) {
     case U'z':
         if (press.modifiers().testFlag(Qt::ShiftModifier)) return [this] { document_.redo(); };
         return [this] { document_.undo(); };

@@ -18,10 +18,10 @@ class DrawingDocument;
 /// of panels, alerts, menus and other windows pass. In this order:
 ///
 /// 1. A repeat of a held key passes.
-/// 2. With Ctrl, by the character that the key makes with Shift but without Ctrl: "z" undoes, with
-///    Shift redoes; "e" toggles the eraser and leaves the select tool; "n" shows the new-canvas
-///    sheet; "g" toggles the grid.
-/// 3. Ctrl with "=" zooms in.
+/// 2. With Ctrl, by the letter that the key makes with Shift but without Ctrl and Caps Lock: "z"
+///    undoes, with Shift redoes; "e" toggles the eraser and leaves the select tool; "n" shows the
+///    new-canvas sheet; "g" toggles the grid.
+/// 3. Ctrl with "=" zooms in; so does Ctrl with "+", which is the same key on a US keyboard.
 /// 4. Ctrl with "-" zooms out.
 /// 5. Backspace and Delete, whatever the modifiers, delete the selected stroke while the select
 ///    tool is chosen and a stroke is selected; else they pass.
