@@ -87,25 +87,25 @@ private Q_SLOTS:
             QCOMPARE(commandOf.value(keys), title);
     }
 
-    void withoutADocumentOnlyItsCommandsAreDisabled() {
+    void behindTheSheetOnlyTheDocumentsCommandsAreDisabled() {
         RunningApp s;
-        QMainWindow bare;
-        MenuCommands menus(s.app, &bare);
+        drawStroke(s.document);
+        drawStroke(s.document);
+        s.document.undo();
         const auto expectEnabled = [&](bool enabled) {
-            for (const QString& title : documentCommands)
-                QVERIFY2(command(bare, title).isEnabled() == enabled, qPrintable(title));
+            for (const QString& title : documentCommands + QStringList{"Undo", "Redo"})
+                QVERIFY2(command(s.window, title).isEnabled() == enabled, qPrintable(title));
+            for (const char* title : {"New Canvas…", "Open…", "Layers"})
+                QVERIFY(command(s.window, title).isEnabled());
         };
         expectEnabled(true);
-        s.app.focusedDocument().set(nullptr);
+        s.window.content().setShowNewCanvas(true);
         expectEnabled(false);
-        QVERIFY(!command(bare, "Undo").isEnabled() && !command(bare, "Redo").isEnabled());
-        for (const char* title : {"New Canvas…", "Open…", "Layers"})
-            QVERIFY(command(bare, title).isEnabled());
-        command(bare, "Open…").trigger();
-        QVERIFY(!s.panels.open);
+        s.window.content().setShowNewCanvas(false);
+        expectEnabled(true);
     }
 
-    void undoAndRedoFollowTheFocusedDocumentsHistory() {
+    void undoAndRedoFollowTheHistory() {
         RunningApp s;
         QAction& undo = command(s.window, "Undo");
         QAction& redo = command(s.window, "Redo");
@@ -114,10 +114,6 @@ private Q_SLOTS:
         QVERIFY(undo.isEnabled() && !redo.isEnabled());
         undo.trigger();
         QVERIFY(!undo.isEnabled() && redo.isEnabled());
-        s.openWindow();
-        QVERIFY(!redo.isEnabled());
-        RunningApp::activate(s.window);
-        QVERIFY(redo.isEnabled());
     }
 
     void layerCommandsStopAtTheEndsOfTheStack() {
@@ -150,33 +146,44 @@ private Q_SLOTS:
         QCOMPARE(strokeCount(s.document.layers), std::size_t{2});
     }
 
-    void commandsFollowTheFrontmostWindowAndItsPanels() {
+    void commandsActOnTheirWindowAndTheFocusedDocumentFollowsTheFocus() {
         RunningApp s;
         DocumentWindow& second = s.openWindow();
+        DocumentWindow& third = s.openWindow();
+        QCOMPARE(s.app.focusedDocument().get(), &third.document());
+        drawStroke(s.document);
         command(s.window, "Toggle Grid").trigger();
-        QVERIFY(second.document().showGrid && !s.document.showGrid);
+        command(s.window, "Undo").trigger();
+        QVERIFY(s.document.showGrid && !third.document().showGrid);
+        QCOMPARE(strokeCount(s.document.layers), qint64{0});
 
-        QDialog panel(&s.window);
-        panel.open();
-        RunningApp::activate(panel);
-        QCOMPARE(s.app.focusedDocument().get(), &s.document);
-        QWidget completions(nullptr, Qt::Popup);
-        completions.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&completions));
-        QVERIFY(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() != nullptr; }));
-        QCOMPARE(s.app.focusedDocument().get(), &s.document);
-        completions.close();
-        panel.close();
-
+        {
+            QDialog panel(&s.window);
+            panel.open();
+            RunningApp::activate(panel);
+            QCOMPARE(s.app.focusedDocument().get(), &s.document);
+            QWidget completions(nullptr, Qt::Popup);
+            completions.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&completions));
+            QVERIFY(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() != nullptr; }));
+            QCOMPARE(s.app.focusedDocument().get(), &s.document);
+        }
         s.app.showSettings();
         QTRY_COMPARE(s.app.focusedDocument().get(), nullptr);
         for (QWidget* window : QApplication::topLevelWidgets())
             if (auto* settings = qobject_cast<SettingsWindow*>(window)) settings->close();
         RunningApp::activate(second);
+        // A window that the desktop has not given the focus yet.
+        DocumentWindow& behind = s.app.openWindow();
+        QCOMPARE(s.app.focusedDocument().get(), &second.document());
         const QPointer<DocumentWindow> closing = &second;
         second.close();
         // At once, though the desktop gives the focus later.
         QCOMPARE(s.app.focusedDocument().get(), &s.document);
+        s.window.close();
+        QCOMPARE(s.app.focusedDocument().get(), &third.document());
+        third.close();
+        QCOMPARE(s.app.focusedDocument().get(), &behind.document());
         QTRY_VERIFY(!closing);
     }
 

@@ -39,7 +39,7 @@ private Q_SLOTS:
         for (DocumentWindow* const window : {&s.window, &other})
             window->content().setShowNewCanvas(true);
         const auto open = [&](std::optional<std::filesystem::path> file) {
-            s.app.openDocument();
+            s.app.openDocument(s.document.services());
             s.panels.answer(std::move(file));
         };
         open(std::nullopt);

@@ -24,7 +24,7 @@ Services withPanels(Services services, FilePanels& panels) {
 
 DocumentWindow::DocumentWindow(MarlevoApp& app)
     : filePanels_(*this), content_(withPanels(app.services(), filePanels_), app.notifications()),
-      menus_(app, this) {
+      menus_(app, document(), this) {
     setMenuBar(&menus_);
     setCentralWidget(&content_);
     setContextMenuPolicy(Qt::NoContextMenu);

@@ -1,24 +1,17 @@
 #pragma once
 
-#include <QObject>
-
 namespace marlevo {
 
 class DrawingDocument;
 
-/// What the focused value `drawingDocument` is kept under: the document of the frontmost document
-/// window, or none. The menu commands act on it.
-class DrawingDocumentKey final : public QObject {
-    Q_OBJECT
-
+/// What the focused value `drawingDocument` is kept under: the document of the document window with
+/// the focus, or none. What belongs to the application as a whole acts on it.
+class DrawingDocumentKey final {
 public:
     DrawingDocument* get() const { return document_; }
 
-    /// Null for none. Whoever sets a document sets another before it goes.
-    void set(DrawingDocument* document);
-
-Q_SIGNALS:
-    void changed();
+    /// Null for none. The document must outlive its time here.
+    void set(DrawingDocument* document) { document_ = document; }
 
 private:
     DrawingDocument* document_ = nullptr;

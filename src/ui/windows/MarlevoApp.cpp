@@ -25,10 +25,9 @@ DocumentWindow& MarlevoApp::openWindow() {
     auto* window = new DocumentWindow(*this);
     window->setAttribute(Qt::WA_DeleteOnClose);
     windows_.emplace_back(window);
+    byUse_.insert(byUse_.begin(), window);
     connect(window, &DocumentWindow::closed, this, [this, window] { forget(*window); });
     connect(window, &DocumentWindow::kept, this, [this] { isQuitting_ = false; });
-    // Not every desktop gives a new window the focus.
-    focusedDocument_.set(&window->document());
     window->show();
     return *window;
 }
@@ -51,11 +50,9 @@ std::vector<DocumentWindow*> MarlevoApp::documentWindows() const {
     return open;
 }
 
-void MarlevoApp::openDocument() {
-    const DrawingDocument* const frontmost = focusedDocument_.get();
-    if (frontmost == nullptr) return;
+void MarlevoApp::openDocument(const Services& services) {
     marlevo::openDocument(
-        frontmost->services(), [this] { return focusedDocument_.get(); },
+        services, [this] { return focusedDocument_.get(); },
         [this](const DrawingDocument& opened) {
             for (DocumentWindow* const window : documentWindows())
                 if (&window->document() == &opened) window->content().setShowNewCanvas(false);
@@ -80,21 +77,26 @@ void MarlevoApp::quit() {
 }
 
 /// A window's panels count as the window. The focus of another program changes nothing, nor does a
-/// popup, such as a field's list of completions, which need not know its window.
+/// popup, such as a field's list of completions, which need not have a transient parent.
 void MarlevoApp::focusFollows(const QWindow* focused) {
     if (focused == nullptr || focused->type() == Qt::Popup) return;
     for (const QWindow* ancestor = focused; ancestor; ancestor = ancestor->transientParent())
         for (DocumentWindow* const window : documentWindows())
-            if (window->windowHandle() == ancestor)
-                return focusedDocument_.set(&window->document());
+            if (window->windowHandle() == ancestor) return focus(*window);
     focusedDocument_.set(nullptr);
+}
+
+void MarlevoApp::focus(DocumentWindow& window) {
+    std::erase(byUse_, &window);
+    byUse_.push_back(&window);
+    focusedDocument_.set(&window.document());
 }
 
 void MarlevoApp::forget(DocumentWindow& window) {
     std::erase(windows_, &window);
-    // The desktop may take its time to give another window the focus, or not do it at all.
+    std::erase(byUse_, &window);
     if (focusedDocument_.get() == &window.document())
-        focusedDocument_.set(windows_.empty() ? nullptr : &windows_.back()->document());
+        focusedDocument_.set(byUse_.empty() ? nullptr : &byUse_.back()->document());
     if (isQuitting_) closeNextWindow();
     // Closed, not deleted, so that a number typed there is stored.
     if (windows_.empty() && settings_) settings_->close();
@@ -102,12 +104,7 @@ void MarlevoApp::forget(DocumentWindow& window) {
 
 /// The window answers at once, or by one of its signals when it has asked the user.
 void MarlevoApp::closeNextWindow() {
-    const std::vector<DocumentWindow*> open = documentWindows();
-    if (open.empty()) return;
-    DocumentWindow* next = open.back();
-    for (DocumentWindow* const window : open)
-        if (&window->document() == focusedDocument_.get()) next = window;
-    next->closeDismissingPanels();
+    if (!byUse_.empty()) byUse_.back()->closeDismissingPanels();
 }
 
 }  // namespace marlevo

@@ -21,6 +21,9 @@ class SettingsWindow;
 /// The application: its windows over one set of services, the focused document, and what the menu
 /// commands ask of the application as a whole.
 ///
+/// The focused document follows the focus alone. When its window closes, the document of the window
+/// used before follows at once, since the desktop may give the focus later or not at all.
+///
 /// The program ends when the last document window has closed; the settings do not keep it.
 class MarlevoApp final : public QObject {
     Q_OBJECT
@@ -36,7 +39,7 @@ public:
     DrawingDocumentKey& focusedDocument() { return focusedDocument_; }
     NotificationCenter& notifications() { return notifications_; }
 
-    /// Opens a window with a fresh drawing, which goes away when it is closed.
+    /// Opens a window with a fresh drawing, which is deleted when it is closed.
     DocumentWindow& openWindow();
 
     /// Opens a window for each of the drawings, without the new-canvas sheet. A file that cannot be
@@ -46,25 +49,27 @@ public:
     /// The document windows still open, in the order in which they were opened.
     std::vector<DocumentWindow*> documentWindows() const;
 
-    /// Asks for a drawing over the frontmost window; it replaces the picture of the document that
-    /// is focused when the user confirms, and dismisses the new-canvas sheet of that window.
-    void openDocument();
+    /// Asks for a drawing in the panel of these services. It replaces the picture of the document
+    /// that is focused when the user confirms, and dismisses the new-canvas sheet of that window.
+    void openDocument(const Services& services);
 
     void showSettings();
 
-    /// Closes one document window after the other, the frontmost first, each as if the user had
+    /// Closes one document window after the other, the one used last first, each as if the user had
     /// closed it, and stops at the first that the user keeps.
     void quit();
 
 private:
     void focusFollows(const QWindow* focused);
+    void focus(DocumentWindow& window);
     void forget(DocumentWindow& window);
     void closeNextWindow();
 
     Services services_;
     NotificationCenter notifications_;
     DrawingDocumentKey focusedDocument_;
-    std::vector<QPointer<DocumentWindow>> windows_;
+    std::vector<QPointer<DocumentWindow>> windows_;  ///< in the order of their opening
+    std::vector<DocumentWindow*> byUse_;             ///< the same, the one used last at the end
     QPointer<SettingsWindow> settings_;
     bool isQuitting_ = false;
 };

@@ -15,16 +15,14 @@
 
 namespace marlevo {
 
-MenuCommands::MenuCommands(MarlevoApp& app, QWidget* window) : QMenuBar(window), app_(app) {
+MenuCommands::MenuCommands(MarlevoApp& app, DrawingDocument& document, QWidget* window)
+    : QMenuBar(window), app_(app), document_(document) {
     addFileMenu();
     addEditMenu();
     addCanvasMenu();
     addMenu(new WindowMenu(app, *window));
     addMenu(new HelpMenu(*this));
-
-    connect(&app.focusedDocument(), &DrawingDocumentKey::changed, this,
-            &MenuCommands::followFocusedDocument);
-    followFocusedDocument();
+    historyFollower_.emplace(document.changeRegistry(), [this] { showHistory(); });
 }
 
 void MenuCommands::addFileMenu() {
@@ -32,7 +30,8 @@ void MenuCommands::addFileMenu() {
     addCommand(file, tr("New Window"), Qt::CTRL | Qt::SHIFT | Qt::Key_N,
                [this] { app_.openWindow(); });
     addNewCanvas(file);
-    addCommand(file, tr("Open…"), Qt::CTRL | Qt::Key_O, [this] { app_.openDocument(); });
+    addCommand(file, tr("Open…"), Qt::CTRL | Qt::Key_O,
+               [this] { app_.openDocument(document_.services()); });
     file.addSeparator();
     addCommand(file, tr("Close"), Qt::CTRL | Qt::Key_W, [this] { window()->close(); });
     addDocumentCommand(file, tr("Save"), Qt::CTRL | Qt::Key_S, save);
@@ -115,28 +114,22 @@ QAction& MenuCommands::addCommand(QMenu& menu, const QString& title, const QKeyS
 QAction& MenuCommands::addDocumentCommand(QMenu& menu, const QString& title,
                                           const QKeySequence& shortcut,
                                           std::function<void(DrawingDocument&)> run) {
-    QAction& action = addCommand(menu, title, shortcut, [this, run = std::move(run)] {
-        if (DrawingDocument* const document = app_.focusedDocument().get()) run(*document);
-    });
+    QAction& action =
+        addCommand(menu, title, shortcut, [this, run = std::move(run)] { run(document_); });
     documentActions_.push_back(&action);
     return action;
 }
 
 void MenuCommands::setBehindSheet(bool isBehindSheet) {
     isBehindSheet_ = isBehindSheet;
-    followFocusedDocument();
+    for (QAction* const action : documentActions_)
+        action->setEnabled(!isBehindSheet);
+    historyFollower_->refresh();
 }
 
-void MenuCommands::followFocusedDocument() {
-    DrawingDocument* const document = isBehindSheet_ ? nullptr : app_.focusedDocument().get();
-    for (QAction* const action : documentActions_)
-        action->setEnabled(document != nullptr);
-    historyFollower_.reset();
-    if (document == nullptr) return;
-    historyFollower_.emplace(document->changeRegistry(), [this, document] {
-        undo_->setEnabled(document->canUndo());
-        redo_->setEnabled(document->canRedo());
-    });
+void MenuCommands::showHistory() {
+    undo_->setEnabled(document_.canUndo() && !isBehindSheet_);
+    redo_->setEnabled(document_.canRedo() && !isBehindSheet_);
 }
 
 }  // namespace marlevo

@@ -15,16 +15,16 @@ namespace marlevo {
 class DrawingDocument;
 class MarlevoApp;
 
-/// The menus of a window. Their commands act on the focused document, whichever window they stand
-/// in, and are disabled while there is none or a sheet lies over it.
+/// The menus of a document window. Their commands act on the window's document, whichever window has
+/// the focus, and are disabled while a sheet lies over it.
 class MenuCommands final : public QMenuBar {
     Q_OBJECT
 
 public:
-    /// The application must outlive the menus; `window` is what Close closes.
-    MenuCommands(MarlevoApp& app, QWidget* window);
+    /// The application and the document must outlive the menus; `window` is what Close closes.
+    MenuCommands(MarlevoApp& app, DrawingDocument& document, QWidget* window);
 
-    /// Whether a sheet lies over the document: its commands rest until the sheet goes.
+    /// Whether a sheet lies over the document, whose commands are disabled then.
     void setBehindSheet(bool isBehindSheet);
 
 private:
@@ -38,13 +38,14 @@ private:
     /// A key held down runs a command once.
     QAction& addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
                         std::function<void()> run);
-    /// A command that needs the focused document.
+    /// A command on the document.
     QAction& addDocumentCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
                                 std::function<void(DrawingDocument&)> run);
 
-    void followFocusedDocument();
+    void showHistory();
 
     MarlevoApp& app_;
+    DrawingDocument& document_;
     bool isBehindSheet_ = false;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
