@@ -3,7 +3,7 @@
 # For Debian 12 or newer and Ubuntu 24.04. Quick if no package is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev libcairo2-dev pkg-config qt6-base-dev qt6-svg-dev
+build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev libcairo2-dev pkg-config libxcb1-dev qt6-base-dev qt6-svg-dev
        qt6-image-formats-plugins qt6-tools-dev qt6-l10n-tools qt6-translations-l10n)
 virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
 

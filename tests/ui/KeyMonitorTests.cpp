@@ -3,6 +3,8 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QProcess>
+#include <QScopeGuard>
 
 using namespace marlevo;
 
@@ -20,12 +22,13 @@ struct NativeKey {
     int key;
     quint32 code;
     quint32 symbol;
+    quint32 state = 0;
 
-    void type(QWidget& window) const {
+    void type(QWidget& window, Qt::KeyboardModifiers others = {}) const {
         static quint64 time = 0;
         for (const QEvent::Type step :
              {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(step, key, Qt::ControlModifier, code, symbol, 0);
+            QKeyEvent event(step, key, Qt::ControlModifier | others, code, symbol, state);
             if (step == QEvent::ShortcutOverride) event.ignore();
             event.setTimestamp(++time);
             QCoreApplication::sendEvent(window.windowHandle(), &event);
@@ -91,6 +94,30 @@ private Q_SLOTS:
         QCOMPARE(zoomAfter(Qt::Key_Minus, 1.2), 1.0);
         QCOMPARE(zoomAfter(Qt::Key_Minus, 0.11), 0.1);
         QCOMPARE(zoomAfter(Qt::Key_Plus, 1), 1.2);
+    }
+
+    void keysThatMakePunctuationInAnotherScriptCountAsLetters() {
+        const auto setLayouts = [](const char* layouts) {
+            return QProcess::execute("setxkbmap", {layouts}) == 0;
+        };
+        if (!setLayouts("ara")) QSKIP("There is no setxkbmap.");
+        const auto restored = qScopeGuard([&] { setLayouts("us"); });
+        RunningApp s;
+        LatinShortcuts latin;
+        qApp->installEventFilter(&latin);
+        drawStroke(s.document);
+        s.document.undo();
+        // With Shift the key makes "~".
+        NativeKey{.key = Qt::Key_AsciiTilde, .code = 52, .symbol = '~'}.type(s.window,
+                                                                             Qt::ShiftModifier);
+        QCOMPARE(strokeCount(s.document.layers), qint64{1});
+        // Beside a Latin layout, whose letters count. The second is in use.
+        QVERIFY(setLayouts("fr,il"));
+        NativeKey{.key = Qt::Key_Apostrophe, .code = 25, .symbol = '\'', .state = 1u << 13}.type(
+            s.window);
+        QCOMPARE(strokeCount(s.document.layers), qint64{0});
+        NativeKey{.key = Qt::Key_Comma, .code = 58, .symbol = ','}.type(s.window);
+        QVERIFY(!s.window.isMinimized());
     }
 
     void capsLockAndTheScriptOfTheKeyboardDoNotCount() {

@@ -1,8 +1,11 @@
 #include "platform/qt/LatinShortcuts.h"
 
+#include "platform/qt/KeyboardLayouts.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWidget>
 #include <QWindow>
 
@@ -22,19 +25,30 @@ struct Keys {
 constexpr std::array usKeyboard{Keys{20, "-="}, Keys{24, "QWERTYUIOP"}, Keys{38, "ASDFGHJKL"},
                                 Keys{52, "ZXCVBNM,"}};
 
-bool isOfAnotherScript(int key) {
-    return key > 0xff && key < Qt::Key_Escape && QChar::script(char32_t(key)) != QChar::Script_Latin;
+/// 0 for the keys that no shortcut needs.
+int usKey(quint32 code) {
+    for (const auto& [firstCode, characters] : usKeyboard)
+        if (code - firstCode < characters.size()) return characters[code - firstCode];
+    return 0;
 }
 
-/// 0 when the press needs no other key.
-int latinKey(const QKeyEvent& press) {
-    if (!press.modifiers().testFlag(Qt::ControlModifier) || !isOfAnotherScript(press.key()))
+bool isOfAnotherScript(int key) {
+    return key > 0xff && key < Qt::Key_Escape &&
+           QChar::script(char32_t(key)) != QChar::Script_Latin;
+}
+
+/// The number of the layout in use, by the bits of an X11 key event.
+quint32 layoutOf(const QKeyEvent& event) { return event.nativeModifiers() >> 13 & 3; }
+
+/// 0 when the event needs no other key.
+int latinKey(const QKeyEvent& event) {
+    const quint32 code = event.nativeScanCode();
+    if (!event.modifiers().testFlag(Qt::ControlModifier) || usKey(code) == 0) return 0;
+    const KeyboardLayouts layouts;
+    if (layouts.isLatin(layoutOf(event)).value_or(true) && !isOfAnotherScript(event.key()))
         return 0;
-    for (const auto& [firstCode, characters] : usKeyboard) {
-        const quint32 place = press.nativeScanCode() - firstCode;
-        if (place < characters.size()) return characters[place];
-    }
-    return 0;
+    const char character = layouts.latinCharacter(code);
+    return character != 0 ? character : usKey(code);
 }
 
 /// The same event of another key.
@@ -53,30 +67,25 @@ struct ChangedKeyEvent : QKeyEvent {
     }
 };
 
-bool isTriggeredBy(const QAction& action, const QKeySequence& keys) {
-    return action.isEnabled() && action.shortcutContext() != Qt::WidgetShortcut &&
-           action.shortcuts().contains(keys);
-}
-
-/// Whether an action of the window has the shortcut; it is triggered.
-bool runShortcut(const QWindow& window, const QKeyEvent& press) {
+/// The action of the window that has the shortcut; null when there is none.
+QAction* actionFor(const QKeyEvent& press, const QObject& window) {
     const QKeySequence keys(press.keyCombination());
     for (const QWidget* const widget : QApplication::topLevelWidgets()) {
         if (widget->windowHandle() != &window) continue;
         for (QAction* const action : widget->findChildren<QAction*>()) {
-            if (!isTriggeredBy(*action, keys)) continue;
-            action->trigger();
-            return true;
+            const bool isOfWindow = action->shortcutContext() != Qt::WidgetShortcut;
+            if (isOfWindow && action->isEnabled() && action->shortcuts().contains(keys))
+                return action;
         }
     }
-    return false;
+    return nullptr;
 }
 
 }  // namespace
 
 bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
     // A window gets each event first, then hands it on to its widgets.
-    if (!receiver->isWindowType()) return false;
+    if (isPassingOn_ || !receiver->isWindowType()) return false;
     const QEvent::Type type = event->type();
     if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease)
         return false;
@@ -85,12 +94,22 @@ bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
     if (key == 0) return false;
 
     ChangedKeyEvent changed(key, original);
-    if (type == QEvent::KeyPress && !isClaimed_ &&
-        runShortcut(static_cast<const QWindow&>(*receiver), changed))
-        return true;
-    QCoreApplication::sendEvent(receiver, &changed);
-    if (type == QEvent::ShortcutOverride) isClaimed_ = changed.isAccepted();
+    if (type == QEvent::KeyPress && !isClaimed_) {
+        if (QAction* const action = actionFor(changed, *receiver)) {
+            if (!changed.isAutoRepeat() || action->autoRepeat()) action->trigger();
+            return true;
+        }
+    }
+    {
+        const QScopedValueRollback passingOn(isPassingOn_, true);
+        QCoreApplication::sendEvent(receiver, &changed);
+    }
     event->setAccepted(changed.isAccepted());
+    if (type == QEvent::ShortcutOverride) {
+        isClaimed_ = changed.isAccepted();
+        // Else the shortcuts would take the key for the one that it is.
+        if (actionFor(changed, *receiver) != nullptr) event->accept();
+    }
     return true;
 }
 

@@ -15,8 +15,8 @@ namespace marlevo {
 class DrawingDocument;
 class MarlevoApp;
 
-/// The menus of a document window. Their commands act on the window's document, whichever window has
-/// the focus, and are disabled while a sheet lies over it.
+/// The menus of a document window. Their commands act on the window's document, whichever window
+/// has the focus, and are disabled while a sheet lies over it.
 class MenuCommands final : public QMenuBar {
     Q_OBJECT
 
