@@ -1,3 +1,4 @@
+#include "tests/ui/Pointer.h"
 #include "tests/ui/SidebarSetting.h"
 #include "tools/StrokeCapture.h"
 #include "ui/controls/ColorSwatch.h"
@@ -11,6 +12,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QColorDialog>
+#include <QPushButton>
 #include <QSignalSpy>
 
 using namespace marlevo;
@@ -308,11 +310,27 @@ private Q_SLOTS:
         SidebarSetting s;
         const auto isOpen = [&] { return s.find<ExportPopover>("Export as") != nullptr; };
         s.click("Export");
-        auto& popover = s.get<ExportPopover>("Export as");
+        const auto& popover = s.get<ExportPopover>("Export as");
         QVERIFY(popover.geometry().right() > s.get("Export").mapTo(&s.window, QPoint(28, 0)).x());
-        s.click("Eraser");
+        QTest::keyClick(s.window.focusWidget(), Qt::Key_Escape);
         QTRY_VERIFY(!isOpen());
-        QVERIFY(!s.document.isEraser);
+
+        // A widget that takes the focus when it is clicked, as the canvas does.
+        QPushButton other(s.field);
+        other.setFocusPolicy(Qt::StrongFocus);
+        other.move(200, 400);
+        other.show();
+        QSignalSpy otherPresses(&other, &QPushButton::pressed);
+        for (QWidget* const outside : std::initializer_list<QWidget*>{&s.get("Eraser"), &other}) {
+            s.click("Export");
+            Pointer pointer(*outside);
+            pointer.press({5, 5});
+            pointer.release({5, 5});
+            QTRY_VERIFY(!isOpen());
+            QVERIFY(!s.document.isEraser);
+            QVERIFY(otherPresses.isEmpty());
+            QCOMPARE(QApplication::focusWidget(), s.field);
+        }
 
         s.click("Export");
         QTest::keyClick(s.window.focusWidget(), Qt::Key_Down);

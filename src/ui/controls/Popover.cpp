@@ -125,12 +125,23 @@ bool Popover::event(QEvent* event) {
 bool Popover::eventFilter(QObject* watched, QEvent* event) {
     if (watched == window() && event->type() == QEvent::Resize) place();
     if (watched == window() && event->type() == QEvent::WindowDeactivate) dismiss();
-    const bool isPressed = isPress(event->type());
-    if (!isPressed && event->type() != QEvent::FocusIn) return false;
+    if (isPress(event->type()) && watched == window()->windowHandle())
+        return takePress(static_cast<QPointerEvent&>(*event));
+    if (event->type() != QEvent::FocusIn) return false;
     const auto* reached = qobject_cast<QWidget*>(watched);
     if (reached == nullptr || reached == this || isAncestorOf(reached)) return false;
     dismiss();
-    return isPressed && reached->window() == window();
+    return false;
+}
+
+/// Whether the press lands outside. Taken where the window gets it, it does not move the focus.
+bool Popover::takePress(QPointerEvent& press) {
+    const QPointF place = press.points().first().scenePosition();
+    if (geometry().contains(place.toPoint())) return false;
+    dismiss();
+    // Else the toolkit would make a press of the mouse out of one of a finger or a pen.
+    press.accept();
+    return true;
 }
 
 // Round and round among the controls of the popover.

@@ -3,12 +3,14 @@
 #include <QPointer>
 #include <QWidget>
 
+class QPointerEvent;
+
 namespace marlevo {
 
 /// A panel that points at a control of its window, on the control's trailing side. It takes the
-/// keyboard while it is open and goes away, for good, on Escape, on a press anywhere else (which
-/// does nothing more), when something else takes the keyboard, such as a sheet, and when its window
-/// is left.
+/// keyboard while it is open. Escape closes and deletes it; so does a press elsewhere in its
+/// window, which does nothing more; so do another focus, such as a sheet's, and another active
+/// window.
 class Popover : public QWidget {
     Q_OBJECT
 
@@ -28,6 +30,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    bool takePress(QPointerEvent& press);
     void place();
     QRectF body() const;
 
