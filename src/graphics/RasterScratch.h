@@ -32,7 +32,7 @@ struct RasterScratch {
         constexpr std::size_t maxPoints = std::size_t{1} << 16;
         for (FlattenedPath* path : {&flattened, &outline})
             if (path->points.capacity() > maxPoints) *path = {};
-        if (edges.capacity() > maxPoints) edges = {};
+        if (edges.capacity() > maxPoints) edges = std::vector<Edge>();
     }
 };
 

@@ -79,7 +79,7 @@ IntRect StrokeInProgress::grow(std::size_t known) {
             constexpr double limit = IncrementalStroke::maxCoordinate;
             return std::abs(p.x * scale_) <= limit && std::abs(p.y * scale_) <= limit;
         });
-    if (!isPlain || (growing_ && growing_->bytes() > maxGrowingBytes)) growing_.reset();
+    if (!isPlain || (growing_ && growing_->bytes() > maxGrowingBytes_)) growing_.reset();
     if (!growing_) return areaFrom(known < 2 ? 0 : known - 2);
 
     const auto middle = [&](std::size_t i) {

@@ -17,6 +17,10 @@ namespace marlevo {
 /// event costs no more the longer it gets.
 class StrokeInProgress {
 public:
+    /// A stroke that needs more than `maxGrowingBytes` for its coverage is drawn whole.
+    explicit StrokeInProgress(std::size_t maxGrowingBytes = std::size_t{64} << 20)
+        : maxGrowingBytes_(maxGrowingBytes) {}
+
     /// Takes the stroke as it is now, if there is one, seen at `scale` device pixels a canvas
     /// pixel. Gives the device pixels that may look other than before.
     IntRect update(const std::optional<Stroke>& stroke, double scale);
@@ -26,10 +30,10 @@ public:
 
     void paint(const PixelBuffer& target) const;
 
-private:
-    /// What a stroke that grows may keep for its pixels; one that needs more is drawn whole.
-    static constexpr std::size_t maxGrowingBytes = std::size_t{64} << 20;
+    /// Memory for the coverage of a growing stroke; 0 if the stroke is drawn whole.
+    std::size_t growingBytes() const { return growing_ ? growing_->bytes() : 0; }
 
+private:
     bool isContinuedBy(const Stroke& stroke, double scale) const;
     void startGrowing();
     IntRect grow(std::size_t known);
@@ -39,6 +43,7 @@ private:
     std::optional<Stroke> style_;
     std::vector<Point> points_;
     double scale_ = 0;
+    std::size_t maxGrowingBytes_;
     std::unique_ptr<IncrementalStroke> growing_;  ///< of a stroke that is drawn piece by piece
     std::size_t curvesDrawn_ = 0;                 ///< for good
 };

@@ -179,6 +179,52 @@ TEST(BitmapContext, DrawsWhatCanBeSeenOfShapesOfAnySize) {
     }
 }
 
+TEST(BitmapContext, DrawsStrokesThatLeaveTheRangeOnEachSideAndComeBack) {
+    constexpr Point middle{20, 20};
+    for (const double far : {3e6, 4194305.0, 5e6, 1e12}) {
+        for (const Point away : {Point{1, 0}, Point{-1, 0}, Point{0, 1}, Point{0, -1}}) {
+            for (const double width : {6.0, 30.0}) {
+                const Point start{middle.x + away.x * far, middle.y + away.y * far};
+                Path path = line(start, middle);
+                path.addLine({start.x * 2, start.y * 2});
+                Canvas canvas(40, 40);
+                BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
+                context.strokePath(path, black, width);
+                const auto alphaAt = [&](double along) {
+                    return canvas.alpha(static_cast<int>(middle.x + along * away.x),
+                                        static_cast<int>(middle.y + along * away.y));
+                };
+                EXPECT_EQ(alphaAt(19), 255) << far << ", " << width;
+                EXPECT_EQ(alphaAt(1), 255) << far << ", " << width;
+                EXPECT_EQ(alphaAt(-18), 0) << far << ", " << width;
+            }
+        }
+    }
+}
+
+TEST(BitmapContext, DrawsStrokesThatTouchThePartByTheirFringeAlone) {
+    constexpr IntRect part{20, 20, 40, 40};
+    for (const double width : {0.3, 1.0, 7.0, 40.0}) {
+        for (double offset = -2; offset < 1; offset += 0.0625) {
+            const double before = part.left - width / 2 + offset;
+            const double after = part.right + width / 2 - offset;
+            for (const Path& path :
+                 {line({before, 0}, {before, 60}), line({after, 0}, {after, 60}),
+                  line({0, before}, {60, before}), line({0, after}, {60, after})}) {
+                Canvas whole(60, 60);
+                Canvas tile(60, 60);
+                BitmapContext onWhole(whole.buffer(), DeviceFrame::yDown(1));
+                BitmapContext onPart(tile.part(part), DeviceFrame::yDown(1));
+                onWhole.strokePath(path, black, width);
+                onPart.strokePath(path, black, width);
+                for (int y = part.top; y < part.bottom; ++y)
+                    for (int x = part.left; x < part.right; ++x)
+                        ASSERT_EQ(tile.alpha(x, y), whole.alpha(x, y)) << width << ", " << offset;
+            }
+        }
+    }
+}
+
 TEST(BitmapContext, LeavesOutWhatCannotBeDrawn) {
     Canvas canvas(30, 30);
     const std::vector<std::uint8_t> blank = canvas.bytes();

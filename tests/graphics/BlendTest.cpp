@@ -55,6 +55,9 @@ TEST(Blend, PacksColorsInEitherOrderAndClampsThem) {
     EXPECT_THAT(packColor({-3, infinity, nan, 7}, 2, PixelOrder::argb).bytes,
                 testing::ElementsAre(255, 0, 255, 0));
     EXPECT_EQ(packColor(white, nan, PixelOrder::argb).alpha, 0);
+    EXPECT_THAT(packColor({1, 1, 1, nan}, 1, PixelOrder::argb).bytes, testing::Each(0));
+    EXPECT_THAT(packColor({nan, 1, 1, 1}, 1, PixelOrder::bgra).bytes,
+                testing::ElementsAre(255, 255, 0, 255));
 }
 
 TEST(Blend, VectorsGiveTheBytesOfScalarCode) {

@@ -190,5 +190,25 @@ TEST(RasterizeByArea, SurvivesCoordinatesOfAnySize) {
     EXPECT_EQ(coveredArea(canvas, {0, 0, 40, 40}), 100);
 }
 
+TEST(RasterizeByArea, EndsAtItsLimitOnEachSide) {
+    constexpr int limit = 1 << 21;
+    for (const double beyond : {0.0, 7.0, 1e7, 1e300}) {
+        const double end = limit + beyond;
+        const FlattenedPath all = polygon({{-end, -end}, {end, -end}, {end, end}, {-end, end}});
+        for (const int edge : {-limit, limit}) {
+            const int inside = edge < 0 ? edge : edge - 1;
+            const int outside = edge < 0 ? edge - 1 : edge;
+            Canvas columns({edge - 20, 5, edge + 20, 9});
+            fillOutline(all, {columns.buffer(), opaque});
+            EXPECT_EQ(columns.alpha(inside, 7), 255) << edge << ", " << beyond;
+            EXPECT_EQ(columns.alpha(outside, 7), 0) << edge << ", " << beyond;
+            Canvas rows({5, edge - 20, 9, edge + 20});
+            fillOutline(all, {rows.buffer(), opaque});
+            EXPECT_EQ(rows.alpha(7, inside), 255) << edge << ", " << beyond;
+            EXPECT_EQ(rows.alpha(7, outside), 0) << edge << ", " << beyond;
+        }
+    }
+}
+
 }  // namespace
 }  // namespace marlevo

@@ -125,6 +125,33 @@ TEST(StrokeInProgress, KnowsAnotherStrokeFromALongerOne) {
     EXPECT_EQ(inProgress.update(std::nullopt, 1.5), IntRect{});
 }
 
+TEST(StrokeInProgress, IsDrawnWholeBeyondItsBounds) {
+    for (const double width : {3.0, 70.0}) {
+        StrokeInProgress bounded(200000);
+        StrokeInProgress unbounded;
+        Stroke stroke = makeStroke({{10, 10}, {60, 30}}, width);
+        const auto update = [&] {
+            unbounded.update(stroke, 1);
+            bounded.update(stroke, 1);
+            Picture shown;
+            bounded.paint(shown.part(sight));
+            EXPECT_EQ(shown, drawnWhole(stroke, 1));
+        };
+        update();
+        for (int i = 0; i < 20; ++i) {
+            stroke.points.append({i * 60.0, i * 40.0});
+            update();
+        }
+        // At least a byte for each pixel that the pen touches.
+        EXPECT_GT(unbounded.growingBytes(), 1300 * width);
+        EXPECT_EQ(bounded.growingBytes(), 0U);
+
+        stroke.points.append({70000, 20});
+        update();
+        EXPECT_EQ(unbounded.growingBytes(), 0U);
+    }
+}
+
 TEST(StrokeInProgress, StrangePointsNeverHurt) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const double width : {3.0, 70.0}) {
