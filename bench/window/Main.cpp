@@ -2,6 +2,7 @@
 // Each line of the output is a JSON object; scripts/bench.sh makes the table from them.
 
 #include "bench/window/Bench.h"
+#include "ui/controls/MarlevoStyle.h"
 
 #include <cstdio>
 #include <map>
@@ -11,9 +12,9 @@ using namespace marlevo;
 int main(int argc, char* argv[]) {
     // Before the application object, which starts threads.
     Hand hand;
-    QApplication::setStyle(QStringLiteral("fusion"));
     Meter meter(argc, argv);
     // The same as in the program.
+    QApplication::setStyle(new MarlevoStyle);
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QApplication::setQuitOnLastWindowClosed(false);
 

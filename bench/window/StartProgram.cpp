@@ -5,6 +5,7 @@
 #include "bench/window/Meter.h"
 #include "bench/window/ProcessMemory.h"
 #include "bench/window/RealWindow.h"
+#include "ui/controls/MarlevoStyle.h"
 
 #include <QMainWindow>
 
@@ -24,8 +25,8 @@ double milliseconds() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication::setStyle(QStringLiteral("fusion"));
     Meter meter(argc, argv);
+    QApplication::setStyle(new MarlevoStyle);
     const QStringList arguments = QApplication::arguments();
     const double started = arguments.value(1).toDouble();
     const QString what = arguments.value(2);

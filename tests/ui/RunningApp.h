@@ -2,6 +2,7 @@
 
 #include "platform/qt/QtImageCodec.h"
 #include "tests/support/FakeServices.h"
+#include "tests/ui/MarlevoLook.h"
 #include "tools/StrokeCapture.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
@@ -13,6 +14,7 @@ namespace marlevo {
 
 /// The application over fakes, with a window in front whose sheet is gone.
 struct RunningApp {
+    MarlevoLook look;
     FakeFilePanels panels;
     FakePreferences preferences;
     FakeClock clock;

@@ -2,6 +2,7 @@
 
 #include "tests/support/FakeServices.h"
 #include "tests/support/ManualQueue.h"
+#include "tests/ui/MarlevoLook.h"
 #include "ui/sidebar/SidebarView.h"
 
 #include <QAbstractButton>
@@ -14,6 +15,7 @@ namespace marlevo {
 
 /// A sidebar in a window of its own, beside a field that has the keyboard.
 struct SidebarSetting {
+    MarlevoLook look;
     FakeFilePanels panels;
     ManualMainQueue mainQueue;
     ManualBackgroundQueue backgroundQueue;

@@ -2,7 +2,8 @@
 
 namespace marlevo {
 
-ChoiceButton::ChoiceButton(const QString& name, QWidget* parent) : PaintedButton(name, parent) {
+ChoiceButton::ChoiceButton(Look look, const QString& name, QWidget* parent)
+    : ToolButton(look, name, parent) {
     setCheckable(true);
     connect(this, &ChoiceButton::clicked, this, &ChoiceButton::chosen);
 }

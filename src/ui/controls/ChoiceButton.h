@@ -1,16 +1,16 @@
 #pragma once
 
-#include "ui/controls/PaintedButton.h"
+#include "ui/controls/ToolButton.h"
 
 namespace marlevo {
 
-/// A button for one of several choices that somebody else keeps: being pressed, it only says so,
-/// and it is down when it is told that it is the one.
-class ChoiceButton : public PaintedButton {
+/// A button for one of several choices. A press emits chosen() and changes nothing else; the owner
+/// sets the state with setActive(). Several buttons may be active at once, or none.
+class ChoiceButton : public ToolButton {
     Q_OBJECT
 
 public:
-    explicit ChoiceButton(const QString& name, QWidget* parent = nullptr);
+    ChoiceButton(Look look, const QString& name, QWidget* parent = nullptr);
 
     bool isActive() const { return isChecked(); }
     void setActive(bool active) { setChecked(active); }
@@ -20,7 +20,6 @@ Q_SIGNALS:
     void chosen();
 
 protected:
-    /// A press does not change what is shown.
     void nextCheckState() override {}
 };
 

@@ -13,38 +13,42 @@ namespace marlevo {
 namespace {
 
 constexpr int circle = 14;
-constexpr int room = 1;  // on each side, for the eye to see the focus
+constexpr int room = 1;  // on each side, for the outline and the focus ring
 
 }  // namespace
 
 ColorSwatch::ColorSwatch(const QString& name, std::function<Color()> color, QWidget* parent)
-    : ChoiceButton(name, parent), color_(std::move(color)) {
+    : ChoiceButton(Look::custom, name, parent), color_(std::move(color)) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-void ColorSwatch::showStanding(Standing standing) {
-    standing_ = standing;
-    setActive(standing == Standing::inUse);
+void ColorSwatch::setSelection(Selection selection) {
+    selection_ = selection;
+    setActive(selection == Selection::active);
     update();
 }
 
 QSize ColorSwatch::sizeHint() const { return {circle + 2 * room, circle + 2 * room}; }
 
-void ColorSwatch::paintContents(QPainter& painter) {
+void ColorSwatch::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled()) painter.setOpacity(disabledOpacity);
     const QRectF disc = QRectF(rect()).adjusted(room, room, -room, -room);
-    const QColor outline = standing_ == Standing::inUse
+    const QColor outline = selection_ == Selection::active
                                ? semanticColor(SemanticColor::blue)
                                : withOpacity(semanticColor(SemanticColor::gray), 0.3);
     paintRoundedRect(painter, disc, circle / 2.0, toQColor(color_()));
-    // Half of the line lies outside the circle, so that the colour keeps its place.
-    const double width = standing_ == Standing::other ? 1 : 2.5;
+    // Half of the outline is outside the circle, so that the coloured area keeps its size.
+    const double width = selection_ == Selection::none ? 1 : 2.5;
     const double outside = std::min(width / 2, double(room));
     paintRoundedRect(painter, disc.adjusted(-outside, -outside, outside, outside),
                      circle / 2.0 + outside, Qt::transparent, {outline, width});
-    if (isInviting() && !isDown()) {
+    if (isHovered() && !isDown()) {
         paintRoundedRect(painter, disc, circle / 2.0, Qt::transparent,
                          {withOpacity(semanticColor(SemanticColor::gray), 0.6), 1});
     }
+    if (hasFocus()) paintFocusRing(painter, rect(), this->width() / 2.0);
 }
 
 }  // namespace marlevo

@@ -7,35 +7,34 @@
 
 namespace marlevo {
 
-/// A circle in one of the colours offered for quick choice.
+/// A circle in one of the quick colours.
 class ColorSwatch final : public ChoiceButton {
     Q_OBJECT
 
 public:
-    /// How the swatch's colour stands to the selected one, which its outline shows.
-    enum class Standing : unsigned char {
-        other,  ///< another colour, or the tool does not draw in colours
-        same,   ///< the same, though not of the strokes that the tool draws
-        inUse,
+    /// How the swatch's colour relates to the selected one. The outline shows it.
+    enum class Selection : unsigned char {
+        none,       ///< another colour, or the tool draws in no colour
+        sameColor,  ///< the selected colour, while the tool does not draw strokes in it
+        active,     ///< the colour of new strokes
     };
 
-    /// `color` is asked each time, for it may follow the desktop's palette.
+    /// `color` is called at each use, because its result may follow the desktop's palette.
     ColorSwatch(const QString& name, std::function<Color()> color, QWidget* parent = nullptr);
 
     Color color() const { return color_(); }
 
-    void showStanding(Standing standing);
+    void setSelection(Selection selection);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    void paintContents(QPainter& painter) override;
-    double focusRadius() const override { return width() / 2.0; }
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     std::function<Color()> color_;
-    Standing standing_ = Standing::other;
+    Selection selection_ = Selection::none;
 };
 
 }  // namespace marlevo

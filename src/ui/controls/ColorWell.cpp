@@ -16,6 +16,7 @@ namespace {
 
 constexpr int wellHeight = 20;
 constexpr double radius = 5;
+constexpr double focusRadius = 6;
 constexpr double innerRadius = 3;
 constexpr double frame = 3;
 constexpr int checker = 4;
@@ -32,7 +33,7 @@ void paintCheckers(QPainter& painter, const QRectF& rect) {
 }  // namespace
 
 ColorWell::ColorWell(const QString& name, Opacity opacity, int width, QWidget* parent)
-    : PaintedButton(name, parent), opacity_(opacity), width_(width) {
+    : ToolButton(Look::custom, name, parent), opacity_(opacity), width_(width) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &ColorWell::clicked, this, &ColorWell::openPanel);
 }
@@ -51,11 +52,14 @@ void ColorWell::showColor(const Color& color) {
 
 QSize ColorWell::sizeHint() const { return {width_, wellHeight}; }
 
-void ColorWell::paintContents(QPainter& painter) {
+void ColorWell::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled()) painter.setOpacity(disabledOpacity);
     const QColor gray = semanticColor(SemanticColor::gray);
-    const double fill = isDown() ? 0.25 : isInviting() ? 0.12 : 0.06;
+    const double fill = isDown() ? pressedFill : isHovered() ? hoveredFill : restingFill;
     paintRoundedRect(painter, rect(), radius, withOpacity(gray, fill),
-                     {withOpacity(gray, 0.35), 1});
+                     {withOpacity(gray, outlineOpacity), 1});
 
     const QRectF inner = QRectF(rect()).adjusted(frame, frame, -frame, -frame);
     QPainterPath shape;
@@ -67,11 +71,12 @@ void ColorWell::paintContents(QPainter& painter) {
         paintCheckers(painter, inner);
         painter.restore();
     }
-    paintRoundedRect(painter, inner, innerRadius, color, {withOpacity(gray, 0.35), 1});
+    paintRoundedRect(painter, inner, innerRadius, color, {withOpacity(gray, outlineOpacity), 1});
+    if (hasFocus()) paintFocusRing(painter, rect(), focusRadius);
 }
 
 void ColorWell::changeEvent(QEvent* event) {
-    PaintedButton::changeEvent(event);
+    ToolButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange && !isEnabled() && panel_) panel_->close();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "graphics/Color.h"
-#include "ui/controls/PaintedButton.h"
+#include "ui/controls/ToolButton.h"
 
 #include <QPointer>
 
@@ -9,9 +9,9 @@ class QColorDialog;
 
 namespace marlevo {
 
-/// Shows a colour and opens a panel to choose another. What is chosen there is said at once, while
-/// the window stays usable; the panel goes when the well is disabled.
-class ColorWell final : public PaintedButton {
+/// Shows a colour and opens a panel to choose another. Each choice in the panel emits colorChosen()
+/// at once; the panel is not modal and closes when the well is disabled.
+class ColorWell final : public ToolButton {
     Q_OBJECT
 
 public:
@@ -30,7 +30,7 @@ Q_SIGNALS:
     void colorChosen(const marlevo::Color& color);
 
 protected:
-    void paintContents(QPainter& painter) override;
+    void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

@@ -7,8 +7,14 @@ class QPainter;
 
 namespace marlevo {
 
-/// What our own controls are multiplied with while they are disabled.
+/// Of a disabled control as a whole.
 inline constexpr double disabledOpacity = 0.35;
+
+// The opacities of grey in controls without a colour of their own.
+inline constexpr double restingFill = 0.06;
+inline constexpr double hoveredFill = 0.12;
+inline constexpr double pressedFill = 0.25;
+inline constexpr double outlineOpacity = 0.35;
 
 struct Outline {
     QColor color;

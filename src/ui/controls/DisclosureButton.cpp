@@ -1,5 +1,6 @@
 #include "ui/controls/DisclosureButton.h"
 
+#include "ui/controls/ControlPainting.h"
 #include "ui/controls/Icons.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TypeScale.h"
@@ -12,15 +13,18 @@ namespace marlevo {
 
 namespace {
 
+// View points.
 constexpr int gap = 4;
 constexpr int leastHeight = 16;  // a line of small text alone is hard to hit
+constexpr double focusRadius = 6;
+
 constexpr double quarterTurn = 90;
 
 }  // namespace
 
 DisclosureButton::DisclosureButton(const QString& name, const QList<QWidget*>& header,
                                    QWidget* parent)
-    : PaintedButton(name, parent), row_(new QHBoxLayout(this)) {
+    : ToolButton(Look::custom, name, parent), row_(new QHBoxLayout(this)) {
     row_->setContentsMargins(0, 0, 0, 0);
     row_->setSpacing(gap);
     row_->addSpacing(iconSide(TypeStyle::caption2) + gap);
@@ -50,7 +54,10 @@ QSize DisclosureButton::minimumSizeHint() const {
     return row_->minimumSize().expandedTo({0, leastHeight});
 }
 
-void DisclosureButton::paintContents(QPainter& painter) {
+void DisclosureButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled()) painter.setOpacity(disabledOpacity);
     const double side = iconSide(TypeStyle::caption2);
     const double middle = isRightToLeft() ? width() - side / 2 : side / 2;
     painter.save();
@@ -59,6 +66,7 @@ void DisclosureButton::paintContents(QPainter& painter) {
     paintIcon(painter, Icon::chevronRight, {-side / 2, -side / 2, side, side},
               semanticColor(SemanticColor::tertiary));
     painter.restore();
+    if (hasFocus()) paintFocusRing(painter, rect(), focusRadius);
 }
 
 }  // namespace marlevo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/controls/PaintedButton.h"
+#include "ui/controls/ToolButton.h"
 
 #include <QList>
 
@@ -8,15 +8,16 @@ class QHBoxLayout;
 
 namespace marlevo {
 
-/// The line that opens and closes a section: a chevron, which turns, and the section's header.
-class DisclosureButton final : public PaintedButton {
+/// The header of a section with a chevron, which turns as the section opens. The owner opens and
+/// closes the section.
+class DisclosureButton final : public ToolButton {
     Q_OBJECT
 
 public:
     /// `name` is the accessible name. The widgets of `header` become children, side by side.
     DisclosureButton(const QString& name, const QList<QWidget*>& header, QWidget* parent = nullptr);
 
-    /// How far the section is open, from 0 to 1.
+    /// Turns the chevron: 0 for a closed section, 1 for an open one.
     void showOpening(double share);
 
     bool isOpen() const { return isOpen_; }
@@ -26,7 +27,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    void paintContents(QPainter& painter) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QHBoxLayout* row_;

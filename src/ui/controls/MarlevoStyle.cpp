@@ -3,6 +3,7 @@
 #include "platform/qt/DesktopSettings.h"
 #include "ui/controls/Icons.h"
 #include "ui/controls/SemanticColors.h"
+#include "ui/controls/SmallButton.h"
 #include "ui/controls/StylePainting.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
 #include <QStyleOptionSlider>
+#include <QStyleOptionToolButton>
 
 namespace marlevo {
 
@@ -53,11 +55,6 @@ void MarlevoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             field && field->lineWidth > 0)
             return paintField(*painter, *field);
     }
-    if (element == PE_FrameFocusRect && widget && widget->inherits("QPushButton")) {
-        if (option->state.testFlag(State_KeyboardFocusChange))
-            paintPushButtonFocus(*painter, widget->rect());
-        return;
-    }
     if (element == PE_PanelScrollAreaCorner)
         return painter->fillRect(option->rect, option->palette.window());
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -74,6 +71,10 @@ void MarlevoStyle::drawControl(ControlElement element, const QStyleOption* optio
         }
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+    // The other push buttons show the focus as the default button, which these never are.
+    if (element == CE_PushButton && qobject_cast<const SmallButton*>(widget) &&
+        option->state.testFlag(State_HasFocus))
+        paintPushButtonFocus(*painter, option->rect);
 }
 
 void MarlevoStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -81,6 +82,10 @@ void MarlevoStyle::drawComplexControl(ComplexControl control, const QStyleOption
     if (control == CC_ScrollBar) {
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
             return paintScrollBar(*painter, *bar);
+    }
+    if (const auto* tool = qobject_cast<const ToolButton*>(widget); control == CC_ToolButton) {
+        const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        if (tool && button) return paintToolButton(*painter, *button, tool->look());
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -96,6 +101,10 @@ QRect MarlevoStyle::subControlRect(ComplexControl control, const QStyleOptionCom
 
 QSize MarlevoStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                      const QSize& contents, const QWidget* widget) const {
+    if (const auto* tool = qobject_cast<const ToolButton*>(widget); type == CT_ToolButton) {
+        const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        if (tool && button) return toolButtonSize(*button, tool->look());
+    }
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton ? size + pushButtonRoom : size;
 }

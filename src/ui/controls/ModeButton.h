@@ -5,12 +5,16 @@
 
 namespace marlevo {
 
-/// A button for one of the tools: an icon and a label on a rounded rectangle.
+/// A button for one of the tools: an icon and a label on a rounded rectangle. A label that does not
+/// fit is elided and shown whole in a tooltip.
 class ModeButton final : public ChoiceButton {
     Q_OBJECT
 
 public:
     enum class Kind : unsigned char { primary, secondary };
+
+    /// Between icon and label, in view points.
+    static constexpr int iconGap = 5;
 
     /// `label` is the accessible name too.
     ModeButton(Kind kind, Icon icon, const QString& label, QWidget* parent = nullptr);
@@ -21,17 +25,12 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    void paintContents(QPainter& painter) override;
-    void changeEvent(QEvent* event) override;
+    void initStyleOption(QStyleOptionToolButton* option) const override;
 
 private:
-    void paintBackground(QPainter& painter);
     int labelWidth() const;
     int widthAround(int labelWidth, int padding) const;
     int roomForLabel() const;
-
-    Kind kind_;
-    Icon icon_;
 };
 
 }  // namespace marlevo

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ui/controls/PaintedButton.h"
+#include <QPushButton>
 
 namespace marlevo {
 
-/// A small bordered button with text in caption size.
-class SmallButton final : public PaintedButton {
+/// A push button with text in caption size and narrow padding. It takes the focus by Tab only.
+class SmallButton final : public QPushButton {
     Q_OBJECT
 
 public:
@@ -13,10 +13,6 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
-
-protected:
-    void paintContents(QPainter& painter) override;
-    double focusRadius() const override;
 };
 
 }  // namespace marlevo

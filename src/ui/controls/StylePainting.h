@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/controls/ToolButton.h"
+
 #include <QSize>
 #include <QStyle>
 
@@ -7,6 +9,7 @@ class QPainter;
 class QStyleOptionButton;
 class QStyleOptionFrame;
 class QStyleOptionSlider;
+class QStyleOptionToolButton;
 
 // How MarlevoStyle paints and measures the toolkit's controls, by family. For the style only.
 namespace marlevo {
@@ -17,6 +20,12 @@ void paintPushButton(QPainter& painter, const QStyleOptionButton& button);
 void paintPushButtonFocus(QPainter& painter, const QRect& rect);
 /// Added to what the base style gives a push button, in view points.
 inline constexpr QSize pushButtonRoom(12, 2);
+
+/// Paints the button with its icon, its text and the focus.
+void paintToolButton(QPainter& painter, const QStyleOptionToolButton& button,
+                     ToolButton::Look look);
+/// Empty for the looks that their button measures.
+QSize toolButtonSize(const QStyleOptionToolButton& button, ToolButton::Look look);
 
 void paintField(QPainter& painter, const QStyleOptionFrame& field);
 /// Between a field's frame and its text on each side, in view points.

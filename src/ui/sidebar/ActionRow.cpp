@@ -31,8 +31,6 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
     row->addStretch(1);
     row->addWidget(&save_);
     row->addWidget(&export_);
-    for (IconButton* button : {&undo_, &redo_, &save_, &export_})
-        button->setToolTip(button->accessibleName());
 
     connect(&undo_, &IconButton::clicked, this, [this] { document_.undo(); });
     connect(&redo_, &IconButton::clicked, this, [this] { document_.redo(); });

@@ -67,13 +67,13 @@ void ColorRow::showColor() {
 }
 
 void ColorRow::showSwatches() {
-    using enum ColorSwatch::Standing;
+    using enum ColorSwatch::Selection;
     const Color selected = document_.selectedColor;
     const bool erases = document_.isEraser;
     const bool fills = document_.isFillTool;
     for (ColorSwatch* swatch : swatches_) {
         const bool isSelected = swatch->color() == selected && !erases;
-        swatch->showStanding(!isSelected ? other : fills ? same : inUse);
+        swatch->setSelection(!isSelected ? none : fills ? sameColor : active);
     }
 }
 

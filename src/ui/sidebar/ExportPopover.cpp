@@ -1,12 +1,9 @@
 #include "ui/sidebar/ExportPopover.h"
 
-#include "ui/controls/ControlPainting.h"
-#include "ui/controls/Icons.h"
+#include "ui/controls/IconEngine.h"
 #include "ui/controls/TextLabel.h"
 
 #include <QKeyEvent>
-#include <QPainter>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -19,8 +16,12 @@ constexpr int leastWidth = 140;
 constexpr int sidePadding = 12;
 constexpr int headingTop = 8;
 constexpr int headingBottom = 4;
-constexpr int rowPadding = 6;
 constexpr int bottomPadding = 4;  // keeps the last row clear of the round corners
+
+QString titleOf(ExportFormat format) {
+    const auto title = rawValue(format);
+    return QString::fromLatin1(title.data(), qsizetype(title.size()));
+}
 
 }  // namespace
 
@@ -47,35 +48,11 @@ ExportPopover::ExportPopover(QWidget& anchor) : Popover(anchor) {
 }
 
 ExportFormatButton::ExportFormatButton(ExportFormat format, QWidget* parent)
-    : PaintedButton({}, parent) {
-    const auto title = rawValue(format);
-    setText(QString::fromLatin1(title.data(), qsizetype(title.size())));
-    setAccessibleName(text());
+    : ToolButton(Look::menuRow, titleOf(format), parent) {
+    setText(titleOf(format));
+    setIcon(makeIcon(Icon::documentArrowDown, SemanticColor::secondary));
     setTypeStyle(*this, TypeStyle::body);
-}
-
-QSize ExportFormatButton::sizeHint() const {
-    const int icon = iconSide(TypeStyle::caption);
-    return {2 * sidePadding + fontMetrics().horizontalAdvance(text()) + sidePadding + icon,
-            2 * rowPadding + std::max(fontMetrics().height(), icon)};
-}
-
-void ExportFormatButton::paintContents(QPainter& painter) {
-    if (isDown() || isInviting() || hasFocus()) {
-        const QRectF inside = QRectF(rect()).adjusted(4, 0, -4, 0);
-        paintRoundedRect(painter, inside, 5,
-                         withOpacity(semanticColor(SemanticColor::blue), isDown() ? 0.3 : 0.15));
-    }
-    const QRect content = rect().adjusted(sidePadding, 0, -sidePadding, 0);
-    painter.setPen(semanticColor(SemanticColor::primary));
-    painter.drawText(
-        content, int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter),
-        text());
-    const int side = iconSide(TypeStyle::caption);
-    const QRect icon(content.right() + 1 - side, (height() - side) / 2, side, side);
-    paintIcon(painter, Icon::documentArrowDown,
-              QStyle::visualRect(layoutDirection(), content, icon),
-              semanticColor(SemanticColor::secondary));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 void ExportFormatButton::keyPressEvent(QKeyEvent* event) {
@@ -85,9 +62,9 @@ void ExportFormatButton::keyPressEvent(QKeyEvent* event) {
         return click();
     case Qt::Key_Up:
     case Qt::Key_Down:
-        return event->ignore();  // the popover goes to the next line
+        return event->ignore();  // the popover moves the focus
     default:
-        PaintedButton::keyPressEvent(event);
+        ToolButton::keyPressEvent(event);
     }
 }
 

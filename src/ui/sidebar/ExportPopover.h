@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/ExportFormat.h"
-#include "ui/controls/PaintedButton.h"
 #include "ui/controls/Popover.h"
+#include "ui/controls/ToolButton.h"
 
 namespace marlevo {
 
@@ -18,18 +18,14 @@ Q_SIGNALS:
     void formatChosen(marlevo::ExportFormat format);
 };
 
-/// A line of the popover: a format's title and, at the end, a picture of saving.
-class ExportFormatButton final : public PaintedButton {
+/// A row of the popover: a format's title and, at the trailing edge, an icon.
+class ExportFormatButton final : public ToolButton {
     Q_OBJECT
 
 public:
     explicit ExportFormatButton(ExportFormat format, QWidget* parent = nullptr);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
 protected:
-    void paintContents(QPainter& painter) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

@@ -1,13 +1,11 @@
 #include "ui/sidebar/LayerRow.h"
 
 #include "ui/controls/ControlPainting.h"
-#include "ui/controls/Icons.h"
+#include "ui/controls/IconEngine.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QPainter>
-
-#include <algorithm>
 
 namespace marlevo {
 
@@ -16,13 +14,11 @@ namespace {
 constexpr int spacing = 8;
 constexpr int sidePadding = 8;
 constexpr int verticalPadding = 6;
-constexpr int eyeWidth = 16;
 constexpr int dotSize = 7;
-constexpr double radius = 6;
 
 }  // namespace
 
-EyeButton::EyeButton(QWidget* parent) : PaintedButton({}, parent) {
+EyeButton::EyeButton(QWidget* parent) : ToolButton(Look::compact, {}, parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -32,28 +28,11 @@ void EyeButton::showLayer(const QString& name, bool isVisible) {
     isLayerVisible_ = isVisible;
     setToolTip(isVisible ? tr("Hide layer") : tr("Show layer"));
     setAccessibleName((isVisible ? tr("Hide layer: %1") : tr("Show layer: %1")).arg(name));
-    update();
-}
-
-QSize EyeButton::sizeHint() const {
-    const int side = std::max(eyeWidth, iconSide(TypeStyle::caption));
-    return {side, side + 4};
-}
-
-void EyeButton::paintContents(QPainter& painter) {
-    const int side = iconSide(TypeStyle::caption);
-    QRectF square(0, 0, side, side);
-    square.moveCenter(QRectF(rect()).center());
-    if (isDown() || isInviting()) {
-        const QColor gray = semanticColor(SemanticColor::gray);
-        paintRoundedRect(painter, rect(), 4, withOpacity(gray, isDown() ? 0.3 : 0.18));
-    }
-    paintIcon(painter, isLayerVisible_ ? Icon::eye : Icon::eyeSlash, square,
-              semanticColor(isLayerVisible_ ? SemanticColor::primary : SemanticColor::tertiary));
+    setIcon(isVisible ? makeIcon(Icon::eye) : makeIcon(Icon::eyeSlash, SemanticColor::tertiary));
 }
 
 LayerRow::LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget* parent)
-    : ChoiceButton({}, parent), layerID_(layerID), thumbnail_(document),
+    : ChoiceButton(Look::listRow, {}, parent), layerID_(layerID), thumbnail_(document),
       name_({}, {TypeStyle::callout}) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(sidePadding, verticalPadding, sidePadding, verticalPadding);
@@ -90,17 +69,14 @@ QSize LayerRow::sizeHint() const { return layout()->sizeHint(); }
 
 QSize LayerRow::minimumSizeHint() const { return layout()->minimumSize(); }
 
-void LayerRow::paintContents(QPainter& painter) {
-    const QColor blue = semanticColor(SemanticColor::blue);
-    const QColor gray = semanticColor(SemanticColor::gray);
-    if (isActive())
-        paintRoundedRect(painter, rect(), radius, withOpacity(blue, 0.08));
-    else if (isInviting())
-        paintRoundedRect(painter, rect(), radius, withOpacity(gray, 0.08));
-
+void LayerRow::paintEvent(QPaintEvent* event) {
+    ChoiceButton::paintEvent(event);
+    QPainter painter(this);
     const int left = isRightToLeft() ? sidePadding : width() - sidePadding - dotSize;
     const QRectF dot(left, (height() - dotSize) / 2.0, dotSize, dotSize);
-    paintRoundedRect(painter, dot, dotSize / 2.0, isActive() ? blue : withOpacity(gray, 0.15));
+    const QColor gray = withOpacity(semanticColor(SemanticColor::gray), 0.15);
+    paintRoundedRect(painter, dot, dotSize / 2.0,
+                     isActive() ? semanticColor(SemanticColor::blue) : gray);
 }
 
 }  // namespace marlevo

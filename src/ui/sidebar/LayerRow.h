@@ -9,19 +9,13 @@ namespace marlevo {
 class DrawingDocument;
 
 /// The button with an eye that shows and hides a layer.
-class EyeButton final : public PaintedButton {
+class EyeButton final : public ToolButton {
     Q_OBJECT
 
 public:
     explicit EyeButton(QWidget* parent = nullptr);
 
     void showLayer(const QString& name, bool isVisible);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-protected:
-    void paintContents(QPainter& painter) override;
 
 private:
     QString layerName_;
@@ -51,7 +45,7 @@ Q_SIGNALS:
     void visibilityToggled();
 
 protected:
-    void paintContents(QPainter& painter) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     Uuid layerID_;

@@ -30,8 +30,6 @@ LayersSection::LayersSection(DrawingDocument& document, QWidget* parent)
     buttons->addStretch(1);
     buttons->addWidget(&moveUp_);
     buttons->addWidget(&moveDown_);
-    for (IconButton* button : {&add_, &delete_, &moveUp_, &moveDown_})
-        button->setToolTip(button->accessibleName());
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, topPadding, 0, 0);
