@@ -1,4 +1,4 @@
-#include "ui/controls/RowShares.h"
+#include "ui/controls/DistributeWidth.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TextLabel.h"
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
 
     void aRowIsSharedEquallyUnlessALabelNeedsMore() {
         const auto shares = [](std::vector<int> needs, int width) {
-            return rowShares(needs, width);
+            return distributeWidth(needs, width);
         };
         QCOMPARE(shares({10, 20, 30}, 100), (std::vector{33, 33, 34}));
         QCOMPARE(shares({10, 20, 60}, 120), (std::vector{20, 30, 70}));

@@ -1,4 +1,4 @@
-#include "platform/qt/KeyRepeatFilter.h"
+#include "platform/qt/KeyRepeats.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtPasteboard.h"
 

@@ -6,8 +6,8 @@
 #include "ui/canvas/PixelConversions.h"
 #include "ui/canvas/RoundedCorners.h"
 #include "ui/canvas/WaitPointer.h"
+#include "ui/controls/AppearanceNotifier.h"
 #include "ui/controls/Colors.h"
-#include "ui/controls/DesktopLook.h"
 #include "ui/controls/DevicePixels.h"
 #include "ui/controls/SemanticColors.h"
 
@@ -45,12 +45,13 @@ CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
     setAcceptDrops(true);
     setMouseTracking(true);  // a move with the button up tells that a release was lost
     setAccessibleName(tr("Canvas"));
-    takeColors();
-    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this, &CanvasView::takeColors);
+    updateColors();
+    connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
+            &CanvasView::updateColors);
     updateWhatChanged();
 }
 
-void CanvasView::takeColors() {
+void CanvasView::updateColors() {
     picture_.setGridColor(toColor(withOpacity(semanticColor(SemanticColor::gray), gridOpacity)));
     update();
 }

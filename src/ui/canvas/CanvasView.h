@@ -45,7 +45,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void takeColors();
+    void updateColors();
     void follow(DocumentProperty property);
     void updateWhatChanged();
     void updateOverlay();

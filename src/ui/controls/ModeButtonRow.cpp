@@ -1,6 +1,6 @@
 #include "ui/controls/ModeButtonRow.h"
 
-#include "ui/controls/RowShares.h"
+#include "ui/controls/DistributeWidth.h"
 
 #include <QEvent>
 #include <QStyle>
@@ -40,7 +40,7 @@ void ModeButtonRow::layOut() {
     for (const ModeButton* button : buttons_)
         needs.push_back(button->sizeHint().width());
     const int gaps = spacing * (int(buttons_.size()) - 1);
-    const std::vector<int> shares = rowShares(needs, width() - gaps);
+    const std::vector<int> shares = distributeWidth(needs, width() - gaps);
     int left = 0;
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const QRect place(left, 0, shares[i], height());

@@ -35,7 +35,7 @@ Appearance appearanceOf(const QPalette& palette);
 QColor semanticColor(SemanticColor color, Appearance appearance);
 
 /// As the desktop's palette is now. To be asked for while painting: widgets are painted anew when
-/// the palette changes; what is kept must be renewed then (DesktopLook.h).
+/// the palette changes; what is kept must be renewed then (AppearanceNotifier.h).
 QColor semanticColor(SemanticColor color);
 
 /// The colour at a share, from 0 to 1, of its own opacity.

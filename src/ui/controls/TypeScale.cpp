@@ -1,6 +1,6 @@
 #include "ui/controls/TypeScale.h"
 
-#include "ui/controls/DesktopLook.h"
+#include "ui/controls/AppearanceNotifier.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -51,7 +51,8 @@ int iconSide(TypeStyle style) {
 void setTypeStyle(QWidget& widget, TypeStyle style, QFont::Weight weight) {
     const auto apply = [&widget, style, weight] { widget.setFont(typeFont(style, weight)); };
     apply();
-    QObject::connect(&DesktopLook::instance(), &DesktopLook::fontChanged, &widget, apply);
+    QObject::connect(&AppearanceNotifier::instance(), &AppearanceNotifier::fontChanged, &widget,
+                     apply);
 }
 
 }  // namespace marlevo

@@ -1,9 +1,9 @@
 #include "ui/sidebar/ColorRow.h"
 
 #include "model/DrawingDocument.h"
+#include "ui/controls/AppearanceNotifier.h"
 #include "ui/controls/Colors.h"
 #include "ui/controls/ControlPainting.h"
-#include "ui/controls/DesktopLook.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/sidebar/QuickColors.h"
 
@@ -36,7 +36,7 @@ ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
     row->addStretch(1);
     addSwatches(*row);
     swatchesFollower_.refresh();
-    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this,
+    connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
             [this] { swatchesFollower_.refresh(); });
     connect(&well_, &ColorWell::colorChosen, this,
             [this](const Color& color) { document_.selectedColor = color; });

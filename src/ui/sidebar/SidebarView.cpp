@@ -1,6 +1,6 @@
 #include "ui/sidebar/SidebarView.h"
 
-#include "ui/controls/DesktopLook.h"
+#include "ui/controls/AppearanceNotifier.h"
 #include "ui/controls/DisclosureSection.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/Separator.h"
@@ -38,8 +38,9 @@ SidebarView::SidebarView(DrawingDocument& document, QWidget* parent)
     setAccessibleName(tr("Sidebar"));
     addSections(document);
     setWidget(column_);
-    takeColors();
-    connect(&DesktopLook::instance(), &DesktopLook::paletteChanged, this, &SidebarView::takeColors);
+    updateColors();
+    connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
+            &SidebarView::updateColors);
     verticalScrollBar()->installEventFilter(this);
     makeRoomForScrollBar();
 }
@@ -74,7 +75,7 @@ QSize SidebarView::minimumSizeHint() const {
     return {std::clamp(content, leastWidth, greatestWidth), 0};
 }
 
-void SidebarView::takeColors() { setPalette(semanticPalette(SemanticColor::controlBackground)); }
+void SidebarView::updateColors() { setPalette(semanticPalette(SemanticColor::controlBackground)); }
 
 void SidebarView::makeRoomForScrollBar() {
     // The bar takes its room from the padding, so that the column keeps its width.

@@ -31,7 +31,7 @@ protected:
 
 private:
     void addSections(DrawingDocument& document);
-    void takeColors();
+    void updateColors();
     void makeRoomForScrollBar();
 
     QWidget* column_;

@@ -1,11 +1,11 @@
-#include "ui/controls/RowShares.h"
+#include "ui/controls/DistributeWidth.h"
 
 #include <algorithm>
 #include <numeric>
 
 namespace marlevo {
 
-std::vector<int> rowShares(std::span<const int> needs, int width) {
+std::vector<int> distributeWidth(std::span<const int> needs, int width) {
     const auto count = static_cast<int>(needs.size());
     if (count == 0 || width <= 0) return std::vector<int>(needs.size(), 0);
     const int needed = std::accumulate(needs.begin(), needs.end(), 0);
@@ -13,7 +13,7 @@ std::vector<int> rowShares(std::span<const int> needs, int width) {
 
     std::vector<int> shares;
     int needBefore = 0;
-    // Differences of rounded ends, not rounded shares: so they add up.
+    // Shares are differences of rounded ends, so that they add up to the width.
     const auto endAt = [&](int index, int needUpTo) {
         if (greatest * count <= width) return width * index / count;
         if (needed <= width) return needUpTo + (width - needed) * index / count;
