@@ -33,8 +33,8 @@ public:
     /// Covers `area`, which is not empty, without edges. All edges must be blended before.
     void reset(const IntRect& area);
 
-    /// Adds the part of the edge in the band's rows. What is left of the area counts for all its
-    /// columns, what is right of it for none. Coordinates are within ±2²⁹.
+    /// Adds the part of the edge in the band's rows. A part left of the area adds cover to all
+    /// columns, a part right of it to none. Coordinates are within ±2²⁹.
     void add(const Edge& edge);
 
     /// Blends `color` onto the pixels of `target`, which must contain the area, and removes all

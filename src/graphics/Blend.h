@@ -17,7 +17,7 @@ struct PackedColor {
     friend bool operator==(const PackedColor&, const PackedColor&) = default;
 };
 
-/// The colour at `alpha` times its own alpha, each byte the nearest to its exact value.
+/// The colour at `alpha` times its own alpha, each byte rounded to nearest.
 /// Components and alphas are clamped to 0 … 1; one that is not a number counts as 0.
 PackedColor packColor(const Color& color, double alpha, PixelOrder order);
 
@@ -27,8 +27,8 @@ constexpr std::uint8_t mulDiv255(unsigned a, unsigned b) {
 }
 
 /// Source-over for one byte of a premultiplied pixel: byte · (1 − alpha · coverage) + color ·
-/// coverage, each product rounded to nearest. It is the same for the colours and for alpha, so the
-/// order of a pixel's bytes does not matter here.
+/// coverage, each product rounded to nearest. The formula is the same for colours and alpha, so
+/// that it holds for either order of a pixel's bytes.
 constexpr std::uint8_t blendByte(std::uint8_t byte, std::uint8_t color, std::uint8_t alpha,
                                  std::uint8_t coverage) {
     const unsigned keep = 255U - mulDiv255(alpha, coverage);

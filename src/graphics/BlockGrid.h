@@ -43,7 +43,7 @@ public:
     std::size_t indexOf(int strip, int block) const {
         return static_cast<std::size_t>(strip) * blocksPerStrip_ + block;
     }
-    /// The strip or the block that a device position in the grid lies in.
+    /// The strip or the block that contains a device position in the grid.
     int stripAt(int x) const { return (x - left_) / blockWidth; }
     int blockAt(int y) const { return (y - top_) / blockHeight; }
 

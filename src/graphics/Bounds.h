@@ -11,7 +11,7 @@
 
 namespace marlevo {
 
-/// A box whose edges lie anywhere between pixels. Without arguments it is empty and touches
+/// A box with edges at any positions. A default-constructed box is empty and touches
 /// nothing.
 struct Bounds {
     double left = std::numeric_limits<double>::infinity();

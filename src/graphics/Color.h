@@ -2,8 +2,8 @@
 
 namespace marlevo {
 
-/// An sRGB colour; components from 0 to 1, not premultiplied. Values outside that range (a file
-/// may hold them) are kept as they are and clamped only where they become pixels.
+/// An sRGB colour; components from 0 to 1, not premultiplied. Values outside that range, which
+/// a file may hold, are kept and clamped only when they are converted to pixels.
 struct Color {
     double red = 0;
     double green = 0;

@@ -23,7 +23,7 @@ HWY_INLINE bool contains(const IntRect& area, int left, int top) {
            top + BlockGrid::blockHeight <= area.bottom;
 }
 
-/// Calls each(x, y, coverage) for the pixels of a block that lie in `area`.
+/// Calls each(x, y, coverage) for the pixels of a block in `area`.
 template <typename Each>
 HWY_INLINE void forEachPixel(int left, int top, const BlockCoverage& coverage, const IntRect& area,
                              Each each) {

@@ -63,7 +63,7 @@ private:
         explicit SubpixelPoint(Point p) : x(toSubpixels(p.x)), y(toSubpixels(p.y)) {}
 
         static std::int32_t toSubpixels(double v) {
-            // The bias makes the number positive, and truncation, one instruction, its floor.
+            // For a positive number, truncation, which is one instruction, is the floor.
             constexpr std::int64_t bias = std::int64_t{1} << 32;
             return static_cast<std::int32_t>(
                 static_cast<std::int64_t>(v * AccumulationBuffer::subpixels +

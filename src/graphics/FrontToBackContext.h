@@ -37,7 +37,7 @@ public:
     /// The share of the pixels, 0 to 1, that opaque strokes do not hide.
     double visibleShare() const { return occlusion_.visibleShare(); }
 
-    /// True if the caller should draw what is left on the target and then flush().
+    /// True if the caller should draw the remaining operations on the target and then flush().
     bool isFull() const {
         return blocks_.size() >= limits_.blocks || deferredElements_ >= limits_.elements;
     }

@@ -10,11 +10,11 @@
 
 namespace marlevo {
 
-/// Something to draw on: pixels (BitmapContext) or a page.
+/// A surface to draw on: pixels (BitmapContext) or a page (PdfContext).
 ///
 /// The drawing frame has its origin at the bottom left corner and y growing upwards, one unit a
 /// pixel or point, until scale() changes it. Every operation composites source-over, anti-aliased.
-/// Coordinates that are not finite or absurdly large never hurt: what cannot be drawn is left out.
+/// Coordinates may have any value: shapes that cannot be drawn are left out.
 class GraphicsContext {
 public:
     virtual ~GraphicsContext() = default;
@@ -26,7 +26,7 @@ public:
     /// Scales the frame for everything that follows; pens are scaled with it.
     virtual void scale(double x, double y) = 0;
 
-    /// The alpha, 0 to 1, multiplied into every following operation; replaces the current one.
+    /// Sets the global alpha, 0 to 1, which is multiplied into every following operation.
     virtual void setAlpha(double alpha) = 0;
 
     virtual void fillRect(const Rect& rect, const Color& color) = 0;
@@ -38,11 +38,12 @@ public:
     /// crosses itself it is not darker. A sub-path of length zero is a dot.
     virtual void strokePath(const Path& path, const Color& color, double lineWidth) = 0;
 
-    /// Draws the whole image stretched into the rectangle, upright as one looks at the result.
+    /// Draws the whole image stretched into the rectangle, its top row at the rectangle's upper
+    /// side.
     virtual void drawImage(const RasterImage& image, const Rect& rect) = 0;
 
     /// Draws the image that was decoded from an image file. A page may keep the file's bytes in
-    /// place of the pixels; pixels have no use for them.
+    /// place of the pixels; a bitmap ignores them.
     virtual void drawImageFile(std::span<const std::uint8_t> /*file*/, const RasterImage& decoded,
                                const Rect& rect) {
         drawImage(decoded, rect);

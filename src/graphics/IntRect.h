@@ -23,7 +23,7 @@ struct IntRect {
                 std::min(bottom, other.bottom)};
     }
 
-    /// The smallest rectangle that holds both; an empty operand does not count.
+    /// The smallest rectangle that holds both; an empty operand is ignored.
     IntRect unitedWith(const IntRect& other) const {
         if (isEmpty()) return other;
         if (other.isEmpty()) return *this;

@@ -8,7 +8,7 @@
 
 namespace marlevo {
 
-/// An immutable picture of pixels; copies share them.
+/// An immutable picture; copies share its pixels.
 ///
 /// Four bytes a pixel in the order alpha, red, green, blue, the colour premultiplied by alpha;
 /// row 0 is the top row; rows follow each other without gaps.

@@ -27,7 +27,7 @@ struct RasterScratch {
         return scratch;
     }
 
-    /// Frees what a shape of rare size needed. The other members have bounds of their own.
+    /// Frees memory that only rare shapes need. The other members have bounds of their own.
     void trim() {
         constexpr std::size_t maxPoints = std::size_t{1} << 16;
         for (FlattenedPath* path : {&flattened, &outline})

@@ -7,9 +7,9 @@ namespace marlevo {
 
 ResampleAxis::ResampleAxis(int imageSize, double start, double end, int firstPixel, int count) {
     const double size = imageSize;
-    // Halves, so that the extent of a vast interval stays finite.
+    // Halves keep the extent of a vast interval finite.
     const double scale = size / 2 / (end / 2 - start / 2);
-    // Half the width of the triangle, in image pixels; more than the image has no use.
+    // Half the width of the triangle, in image pixels; at most the image.
     const double reach = std::clamp(scale, 1.0, size);
     entries_.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {

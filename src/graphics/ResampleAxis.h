@@ -7,22 +7,22 @@
 
 namespace marlevo {
 
-/// How one side of an image is stretched over an interval of the device plane: which of its pixels
-/// make up each device pixel, and with which weights.
+/// The weights of image pixels in device pixels, for one side of an image that is stretched over an
+/// interval of the device plane.
 class ResampleAxis {
 public:
     static constexpr int weightBits = 14;
 
-    /// The image pixels `first` and on weigh in the device pixel by `weights`, which add up to
-    /// 1 << weightBits.
+    /// The weights, with a sum of 1 << weightBits, of the image pixels from `first` on in a device
+    /// pixel.
     struct Window {
         std::size_t first;
         std::span<const std::int16_t> weights;
-        std::uint8_t coverage;  ///< how much of the device pixel the interval covers, of 255
+        std::uint8_t coverage;  ///< the share of the device pixel in the interval, 0 … 255
     };
 
-    /// For `count` device pixels from `firstPixel` on, each touched by the interval from `start` to
-    /// `end`, over which `imageSize` pixels are stretched.
+    /// Stretches `imageSize` pixels over the interval from `start` to `end`, which touches each of
+    /// the `count` device pixels from `firstPixel` on.
     ResampleAxis(int imageSize, double start, double end, int firstPixel, int count);
 
     std::size_t count() const { return entries_.size(); }
@@ -31,7 +31,7 @@ public:
         return {e.first, {weights_.data() + e.firstWeight, e.weightCount}, e.coverage};
     }
 
-    /// The image pixels that any device pixel needs.
+    /// The range of image pixels with a weight.
     std::size_t firstNeeded() const { return entries_.front().first; }
     std::size_t endNeeded() const { return entries_.back().first + entries_.back().weightCount; }
 

@@ -2,8 +2,8 @@
 
 namespace marlevo {
 
-/// An extent, or a movement when it is called a translation. May be negative or not finite
-/// where it comes from a file.
+/// An extent, or a movement if it is called a translation. May be negative or not finite if it was
+/// read from a file.
 struct Size {
     double width = 0;
     double height = 0;

@@ -10,13 +10,13 @@ namespace marlevo {
 
 namespace {
 
-/// Points of the line nearer together than this part of the tolerance are one.
+/// Consecutive points nearer together than this fraction of the tolerance are merged.
 constexpr double mergeFraction = 0.125;
 
-/// No arc is finer than this part of its radius, or a vast pen would need endless corners.
+/// The least tolerance of an arc as a fraction of its radius. Bounds the number of its corners.
 constexpr double minArcFraction = 1e-6;
 
-/// Stands for the infinite tangent of half a turn of 180°.
+/// Used for half a turn of 180°, where the tangent is infinite.
 constexpr double maxTangent = 1e12;
 
 struct Segment {
@@ -24,8 +24,8 @@ struct Segment {
     Point to;
     Point direction;  ///< of length 1
     double length = 0;
-    /// The tangent of half the turn from the segment before; positive to the left, the side on
-    /// which normal() lies.
+    /// The tangent of half the turn from the segment before; positive to the left, the side of
+    /// normal().
     double turn = 0;
 
     Point normal() const { return {-direction.y, direction.x}; }
@@ -40,9 +40,9 @@ class Stroker {
 public:
     Stroker(double radius, FlattenedPath& out)
         : radius_(radius), tolerance_(toleranceOf(radius)), out_(out) {
-        // The corner that bisectors leave on a joint stands out by radius · tangent² / 2.
+        // A corner on the bisector is radius · tangent² / 2 further out than the arc.
         slightTurn_ = std::sqrt(2 * tolerance_ / radius);
-        // The middle of a chord lies radius · (1 − cosine of half the angle) within the arc.
+        // The middle of a chord is radius · (1 − cosine of half the angle) inside the arc.
         const double halfCosine = std::max(1 - tolerance_ / radius, std::sqrt(0.5));
         arcCosine_ = 2 * halfCosine * halfCosine - 1;
         arcSine_ = std::sqrt(1 - arcCosine_ * arcCosine_);
@@ -71,8 +71,8 @@ public:
 private:
     enum class Ends { capped, joined };
 
-    /// One end of a cell. At a height above the segment it lies inwards of the segment's end by
-    /// slope · height, but at most by `limit`.
+    /// One end of a cell. At a height above the segment its distance inwards from the segment's end
+    /// is slope · height, but at most `limit`.
     struct CellEnd {
         double slope = 0;
         double limit = 0;
@@ -127,7 +127,8 @@ void Stroker::collect(std::span<const Point> points, bool closed) {
     for (const Point p : points.subspan(1))
         if (addSegment(last, p)) last = p;
     if (closed && !segments_.empty() && !addSegment(last, points.front())) {
-        // The end lies on the start but for a hair: let the last segment take it.
+        // The last point nearly coincides with the first. Extend the last segment to the first
+        // point instead of adding a tiny one.
         Segment& end = segments_.back();
         const Point from = end.from;
         segments_.pop_back();
@@ -139,7 +140,7 @@ void Stroker::collect(std::span<const Point> points, bool closed) {
     for (Segment& segment : segments_) {
         const double sine = cross(before->direction, segment.direction);
         const double cosine = dot(before->direction, segment.direction);
-        // Of the two equal ways to write the tangent of half an angle, the one without
+        // The tangent of half an angle has two equal formulas. Each case uses the one without
         // cancellation.
         if (cosine >= 0)
             segment.turn = sine / (1 + cosine);
@@ -151,7 +152,7 @@ void Stroker::collect(std::span<const Point> points, bool closed) {
     }
 }
 
-/// The same line walked from its end, so that its right side becomes the left one.
+/// Reverses the line, so that its right side becomes the left one.
 void Stroker::turnAround() {
     std::reverse(segments_.begin(), segments_.end());
     const double lastTurn = segments_.back().turn;
@@ -163,16 +164,16 @@ void Stroker::turnAround() {
     }
 }
 
-/// The end of a cell at a turn, beyond which `neighbour` follows.
+/// The end of a cell at a turn to `neighbour`.
 Stroker::CellEnd Stroker::cellEnd(double turn, const Segment& neighbour) const {
     if (turn < -slightTurn_) return {};
-    // What the bisector takes from one cell is nearer to the other segment than to this one, as
-    // long as it is not further from the joint than that segment is long. Some e beyond is at most
-    // e² / (2 · radius) nearer to this one, which tolerance allows to be lost.
+    // The part that the bisector cuts off is nearer to the neighbour than to this segment, up to
+    // the neighbour's length from the joint. At a distance e beyond that it is at most e² / (2 ·
+    // radius) nearer to this segment, an error within the tolerance.
     return {turn, neighbour.length + slightTurn_ * radius_, false};
 }
 
-/// The height at which the ends of a cell meet that do so below the radius.
+/// The height at which the two ends of a cell meet, if that is below the radius.
 double Stroker::crossingHeight(const CellEnd& start, const CellEnd& end, double length) const {
     double height = length / (start.slope + end.slope);
     if (start.slope > 0) height = std::max(height, (length - end.limit) / start.slope);
@@ -180,10 +181,10 @@ double Stroker::crossingHeight(const CellEnd& start, const CellEnd& end, double 
     return height;
 }
 
-/// Puts out the left border of the cells.
+/// Appends the left border of the cells to the outline.
 void Stroker::addSide(Ends ends) {
     const std::size_t count = segments_.size();
-    bool cornerIsOut = false;  // the border already stands at the top of the next cell's start
+    bool cornerIsOut = false;  // the last point is already the top of the next cell's start
     for (std::size_t i = 0; i < count; ++i) {
         const Segment& previous = segments_[i > 0 ? i - 1 : count - 1];
         const Segment& segment = segments_[i];
@@ -220,7 +221,7 @@ void Stroker::addSide(Ends ends) {
     }
 }
 
-/// Goes round the end of the last segment.
+/// Appends the cap at the end of the last segment.
 void Stroker::addCap() {
     const Point normal = segments_.back().normal();
     addArc(segments_.back().to, normal, {-normal.x, -normal.y});
@@ -234,9 +235,9 @@ void Stroker::addDisc(Point center) {
     endPolygon();
 }
 
-/// Puts out the corners of an arc of at most 180°, clockwise about `center`, without its ends.
+/// Appends the corners of an arc of at most 180°, clockwise about `center`, without its ends.
 void Stroker::addArc(Point center, Point fromNormal, Point toNormal) {
-    // What is left to turn shows in the cosine alone: it is never more than 180°.
+    // The remaining angle is at most 180°, so its cosine determines it.
     for (Point n = fromNormal; dot(n, toNormal) < arcCosine_;) {
         n = {n.x * arcCosine_ + n.y * arcSine_, n.y * arcCosine_ - n.x * arcSine_};
         addOffset(center, n);
@@ -261,8 +262,8 @@ void strokeOutline(const FlattenedPath& centerLine, double lineWidth, double sca
     const double widthY = lineWidth * unitY;
     if (!(widthX > 0) || !(widthY > 0) || !std::isfinite(widthX) || !std::isfinite(widthY)) return;
 
-    // The wider side of the pen is the measure: in a plane stretched until the narrower side is as
-    // wide, the pen is a circle.
+    // The plane is stretched until the narrower side of the pen is as wide as the other: there the
+    // pen is a circle.
     const double width = std::max(widthX, widthY);
     Stroker stroker(width / 2, out);
     if (widthX == widthY) {

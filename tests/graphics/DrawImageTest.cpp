@@ -106,7 +106,7 @@ TEST(DrawImage, BlendsAtAlphaAndAlongFractionalEdges) {
     EXPECT_NEAR(at(canvas.buffer(), 2, 3)[0], 37, 1);
     EXPECT_EQ(at(canvas.buffer(), 10, 5)[0], 0);
 
-    // Source-over on what is there: 100 + 100 · (155 / 255).
+    // Source-over on the background: 100 + 100 · (155 / 255).
     drawImage(image, {2.25, 3.5, 10, 12}, 0.5, canvas.buffer());
     EXPECT_EQ(at(canvas.buffer(), 5, 5)[0], 161);
 }

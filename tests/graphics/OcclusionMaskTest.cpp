@@ -26,7 +26,7 @@ TEST(OcclusionMask, HoldsWhichPixelsAreHidden) {
     EXPECT_FALSE(mask.anyVisible(0, 2, 4));
     mask.occlude(8, 4, 1);
     EXPECT_TRUE(mask.isOccluded());
-    mask.occlude(800, 400, 0xFFFF);  // no matter
+    mask.occlude(800, 400, 0xFFFF);  // ignored
 }
 
 }  // namespace marlevo

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Allocations of this thread until one fails; never if negative.
+/// The number of allocations of this thread before one fails. Negative: none fails.
 thread_local int allocationsLeft = -1;
 
 void* allocate(std::size_t size, std::size_t alignment) {
@@ -41,7 +41,7 @@ namespace {
 
 const PackedColor opaque{{255, 255, 255, 255}, 255};
 
-/// A thread of its own has scratch memory of its own.
+/// Each thread has its own scratch memory.
 void inNewThread(const std::function<void()>& work) { std::thread(work).join(); }
 
 }  // namespace
@@ -102,7 +102,7 @@ TEST(RasterScratch, FreesWhatARareShapeNeeded) {
     });
 }
 
-/// Under the address sanitizer an access beyond the last cell of a row shows.
+/// The address sanitizer reports an access beyond the last cell of a row.
 TEST(RasterScratch, HasRoomForEdgesInTheLastColumn) {
     for (int width = 13; width < 36; ++width) {
         inNewThread([width] {

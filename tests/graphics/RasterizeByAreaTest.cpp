@@ -75,7 +75,7 @@ TEST(RasterizeByArea, CoversEachPixelByItsExactArea) {
 }
 
 TEST(RasterizeByArea, FollowsTheNonZeroRule) {
-    // The inner square is filled whichever way it turns unless it turns against the outer one.
+    // The inner square is a hole only if its direction is opposite to the outer one.
     const std::vector<Point> outer{{1, 1}, {19, 1}, {19, 19}, {1, 19}};
     const std::vector<Point> inner{{5, 5}, {15, 5}, {15, 15}, {5, 15}};
     FlattenedPath same = polygon(outer);
@@ -159,7 +159,7 @@ TEST(RasterizeByArea, GivesTheSameBytesWithEveryInstructionSet) {
 }
 
 TEST(RasterizeByArea, EndsBandsAtTheSamePixelsOnWidePictures) {
-    // So wide that a band holds few rows, and edges go on from band to band.
+    // A band has few rows of a picture this wide, so that edges cross several bands.
     const FlattenedPath outline = polygon({{10, 3}, {29000, 40}, {15000, 77}});
     Canvas canvas = filled(outline, 30000, 80);
     for (int y = 0; y < 80; y += 7) {

@@ -127,7 +127,7 @@ TEST(RasterizeByDistance, AgreesWithSupersampledTruth) {
                 const double exact = 255 * coverageByRoundPen(x, y, path, width / 2);
                 if (exact == 0 && canvas.alpha(x, y) == 0) continue;
                 const double off = std::abs(canvas.alpha(x, y) - exact);
-                // A pixel in a notch between two edges sees only the nearer one.
+                // In a notch between two edges only the nearer one counts.
                 ASSERT_LT(off, 110) << x << ", " << y << ", width " << width;
                 sum += off;
                 ++count;
