@@ -28,7 +28,7 @@ private:
     /// Shared with the loads. Written on the user-interface thread only.
     struct Target {
         std::mutex mutex;
-        DrawingDocument* document;  ///< null from the destruction on
+        DrawingDocument* document = nullptr;  ///< absent from the destruction on
     };
 
     std::shared_ptr<Target> target_;

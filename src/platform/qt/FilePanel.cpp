@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeView>
 
 #include <algorithm>
@@ -80,7 +81,8 @@ void FilePanel::layOutColumns() {
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);
-    resize(std::max(width(), firstPanelWidth * fontMetrics().averageCharWidth()), height());
+    const int wanted = std::max(width(), firstPanelWidth * fontMetrics().averageCharWidth());
+    resize(std::min(wanted, screen()->availableSize().width()), height());
 }
 
 std::filesystem::path FilePanel::chosenFile() const {

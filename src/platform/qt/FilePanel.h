@@ -39,7 +39,7 @@ protected:
     /// Calls finish() or showRefusal(), now or later. `file` is not a folder.
     virtual void examine(const std::filesystem::path& file) = 0;
 
-    void finish() { QDialog::accept(); }
+    void finish() { done(Accepted); }
 
     /// Shows over the panel, without blocking, why a file cannot be chosen.
     void showRefusal(const QString& reason);

@@ -16,7 +16,7 @@ namespace {
 
 struct Form {
     QLatin1String name;
-    ImageCodec::Format format;
+    ImageCodec::Format format{};
 };
 
 /// The forms without loss first: many programs take the first that they read.
