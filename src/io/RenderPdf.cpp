@@ -3,18 +3,19 @@
 #include "io/PdfContext.h"
 #include "model/DrawingDocument.h"
 #include "render/LayerPainting.h"
+#include "render/RasterCompositing.h"
 
 namespace marlevo {
 
 std::optional<std::vector<std::uint8_t>> renderPDFData(const DrawingDocument& document) {
-    const CanvasSize canvas = document.canvasSize;
-    const Size page{canvas.width, canvas.height};
+    const Picture picture = pictureOf(document);
+    const Size page{picture.canvasSize.width, picture.canvasSize.height};
     if (!PdfContext::isPageSize(page)) return std::nullopt;
     PdfContext context(page);
-    if (!document.backgroundIsTransparent)
-        context.fillRect({{0, 0}, page}, document.backgroundColor);
-    drawLayers(context, document.layers, canvas, page.height,
-               [&](const Bytes& file) { return document.decodedImages().image(file); });
+    if (!document.backgroundIsTransparent) context.fillRect({{0, 0}, page}, picture.background);
+    BorrowedImages images(document);
+    drawLayers(context, picture.layers, picture.canvasSize, page.height,
+               [&](const Bytes& file) { return images.cache().image(file); });
     return context.finish();
 }
 

@@ -2,7 +2,7 @@
 
 namespace marlevo {
 
-DrawingDocument::DrawingDocument(const Services& services)
+DrawingDocument::DrawingDocument(const Services& services, ImageCache* imageCache)
     : layers(changeRegistry_, {}), activeLayerIndex(changeRegistry_, 0),
       currentStroke(changeRegistry_, {}), selectedColor(changeRegistry_, black),
       lineWidth(changeRegistry_, 3.0), brushOpacity(changeRegistry_, 1.0),
@@ -17,7 +17,7 @@ DrawingDocument::DrawingDocument(const Services& services)
       exportFormat(changeRegistry_, ExportFormat::png), showExportPopover(changeRegistry_, false),
       currentFileURL(changeRegistry_, {}), undoStack(changeRegistry_, {}),
       redoStack(changeRegistry_, {}), layerThumbnails(changeRegistry_, {}), services_(services),
-      decodedImages_(services.imageCodec) {}
+      imageCache_(imageCache) {}
 
 DrawingDocument::~DrawingDocument() = default;
 

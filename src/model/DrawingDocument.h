@@ -2,7 +2,6 @@
 
 #include "graphics/RasterImage.h"
 #include "model/CanvasSize.h"
-#include "model/DecodedImages.h"
 #include "model/ExportFormat.h"
 #include "model/LayerList.h"
 #include "model/Property.h"
@@ -16,6 +15,8 @@
 #include <vector>
 
 namespace marlevo {
+
+class ImageCache;
 
 /// Everything that one window shows and edits: the picture, the stroke in progress, the tool
 /// settings, the selection, the view, the file and the history.
@@ -33,7 +34,8 @@ public:
     using Snapshot = LayerList;
     using P = DocumentProperty;
 
-    explicit DrawingDocument(const Services& services = {});
+    /// The services and the image cache are borrowed and must outlive the document.
+    explicit DrawingDocument(const Services& services = {}, ImageCache* imageCache = nullptr);
     ~DrawingDocument();
     DrawingDocument(const DrawingDocument&) = delete;
     DrawingDocument& operator=(const DrawingDocument&) = delete;
@@ -78,8 +80,9 @@ public:
     ChangeRegistry& changeRegistry() { return changeRegistry_; }
     const Services& services() const { return services_; }
 
-    /// The decoded images of the layers; what it holds is no state of the document.
-    DecodedImages& decodedImages() const { return decodedImages_; }
+    /// The cache with which the document's picture is rendered. Null if the document borrows none:
+    /// then each render decodes the images anew.
+    ImageCache* imageCache() const { return imageCache_; }
 
     // ---- Layers (model/LayerOperations.cpp) -----------------------------------------------------
     /// The layer that receives new strokes, or null when `activeLayerIndex` names none. Valid until
@@ -122,7 +125,7 @@ private:
     void stepHistory(Source& source, Target& target);
 
     Services services_;
-    mutable DecodedImages decodedImages_;
+    ImageCache* imageCache_;
 };
 
 }  // namespace marlevo

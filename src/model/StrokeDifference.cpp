@@ -86,7 +86,7 @@ StrokeDifference StrokeDifference::between(const StrokeList& before, const Strok
     std::vector<Run> runsB = runs(b, after.tail());
     dropCommon(runsA, runsB);
     StrokeDifference difference{strokes(runsA), strokes(runsB)};
-    dropCommon(difference.went, difference.came);
+    dropCommon(difference.removed, difference.added);
     return difference;
 }
 

@@ -10,8 +10,8 @@ namespace marlevo {
 /// was replaced or modified is on both sides. The pointers are valid as long as their list is
 /// unchanged.
 struct StrokeDifference {
-    std::vector<const Stroke*> went;  ///< only in `before`
-    std::vector<const Stroke*> came;  ///< only in `after`
+    std::vector<const Stroke*> removed;  ///< only in `before`
+    std::vector<const Stroke*> added;    ///< only in `after`
 
     /// Takes time in proportion to what the lists do not share, wherever that lies; a stroke that
     /// both hold is never reported, also when an erase has shifted it. Strokes are compared by

@@ -8,9 +8,9 @@ namespace marlevo {
 
 namespace {
 
-/// Calls `line` with the position of each grid line in 0 … end that may touch from … to. Positions
-/// are multiples taken anew each time, so that they do not drift. `from` and `to` are a part of
-/// what a screen shows, so few lines lie between them.
+/// Calls `line` with the position of each grid line in 0 … end that may touch from … to. Each
+/// position is a product, so that no rounding adds up. `from` and `to` are the edges of a part of a
+/// screen, so there are few lines between them.
 template <typename Line>
 void forEachPosition(double end, double from, double to, Line line) {
     const double first = std::max(0.0, std::ceil((from - gridLineWidth) / gridSpacing));

@@ -9,9 +9,9 @@ namespace marlevo {
 inline constexpr double gridSpacing = 50;
 inline constexpr double gridLineWidth = 0.5;
 
-/// The grid as thin rectangles in canvas coordinates, to be filled at once: lines at every multiple
-/// of the spacing from 0 to the canvas's far edges, which count when they are multiples. Only lines
-/// that may touch `visible` are in it.
+/// The grid as thin rectangles in canvas coordinates, to be filled in one call: lines at every
+/// multiple of the spacing from 0 to the canvas's far edges, including an edge that is a multiple.
+/// Leaves out lines that cannot touch `visible`.
 Path gridPath(CanvasSize canvas, const Rect& visible);
 
 }  // namespace marlevo

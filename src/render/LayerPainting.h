@@ -9,11 +9,11 @@
 
 namespace marlevo {
 
-/// Gives the picture in an image file; nothing when it is none.
+/// The image in a file; nothing when the file cannot be decoded.
 using ImageDecoder = std::function<std::optional<RasterImage>(const Bytes& file)>;
 
-// The painting steps, in a frame whose y grows upwards: canvas y = `height` lies at 0. They know no
-// document and may run on any thread that owns what they are given.
+// The steps of painting a picture, in a frame whose y grows upwards: canvas y = `height` is at 0.
+// They may run on any thread that owns the arguments.
 
 /// Draws the visible layers from the lowest to the topmost.
 void drawLayers(GraphicsContext& context, const LayerList& layers, CanvasSize canvas, double height,
@@ -26,9 +26,6 @@ void drawLayer(GraphicsContext& context, const Layer& layer, CanvasSize canvas, 
 /// Draws the layer's image over the canvas at the layer's opacity.
 void drawLayerImageIfPresent(GraphicsContext& context, const Layer& layer, CanvasSize canvas,
                              double height, const ImageDecoder& decode);
-
-/// The stroke must have at least two points; a line runs to the second.
-void drawStroke(GraphicsContext& context, const Stroke& stroke, double height);
 
 /// The layer on white, stretched from the canvas to `size`, whose sides are truncated to whole
 /// pixels; its visibility does not matter. Nothing when a side is below 1 or memory is short.

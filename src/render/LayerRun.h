@@ -9,14 +9,14 @@
 
 namespace marlevo {
 
-/// Layers that are drawn one after the other and of which at most the first has an image, so that
-/// they can be drawn in many parts while no more than one decoded image is held.
+/// Consecutive layers of which at most the first has an image. They can be drawn part by part with
+/// one decoded image in memory.
 struct LayerRun {
     std::vector<const Layer*> layers;
     std::optional<RasterImage> image;  ///< of the first layer, if it has one that can be decoded
 };
 
-/// Takes the visible layers apart into runs, from below.
+/// Calls `draw` with each run of the visible layers, from the lowest.
 template <typename Draw>
 void forEachRun(const LayerList& layers, const ImageDecoder& decode, Draw draw) {
     LayerRun run;

@@ -1,8 +1,10 @@
 #include "render/LayerThumbnail.h"
 
+#include "model/ImageCache.h"
 #include "platform/BackgroundQueue.h"
 #include "platform/ImageCodec.h"
 #include "platform/MainQueue.h"
+#include "platform/Services.h"
 #include "render/LayerPainting.h"
 
 #include <utility>
@@ -11,7 +13,8 @@ namespace marlevo {
 
 namespace {
 
-bool shareImage(const Layer& a, const Layer& b) {
+/// Unlike a comparison of the files alone: the opacity is part of what the thumbnail shows.
+bool shareImageAndOpacity(const Layer& a, const Layer& b) {
     if (!a.imageData || !b.imageData) return a.imageData.has_value() == b.imageData.has_value();
     return a.imageData->sharesWith(*b.imageData) && a.opacity == b.opacity;
 }
@@ -20,30 +23,31 @@ bool shareImage(const Layer& a, const Layer& b) {
 
 bool LayerThumbnail::Contents::looksLike(const Contents& other) const {
     return canvas == other.canvas && layer.strokes.sharesWith(other.layer.strokes) &&
-           shareImage(layer, other.layer);
+           shareImageAndOpacity(layer, other.layer);
 }
 
-LayerThumbnail::LayerThumbnail(const DrawingDocument& document, std::function<void()> onChange)
-    : document_(document), onChange_(std::move(onChange)) {}
+LayerThumbnail::LayerThumbnail(const Services& services, ImageCache& images,
+                               std::function<void()> onChange)
+    : services_(services), images_(images), onChange_(std::move(onChange)) {}
 
-void LayerThumbnail::show(const Layer& layer) {
-    shown_ = Contents{layer, document_.canvasSize};
+void LayerThumbnail::show(const Layer& layer, CanvasSize canvas) {
+    shown_ = Contents{layer, canvas};
     if (!isRendering_) generate();
 }
 
 void LayerThumbnail::generate() {
-    const Services& services = document_.services();
-    if (services.backgroundQueue == nullptr || services.mainQueue == nullptr) return;
+    if (services_.backgroundQueue == nullptr || services_.mainQueue == nullptr) return;
     if (rendered_ && rendered_->looksLike(*shown_)) return;
     rendered_ = shown_;
     isRendering_ = true;
 
-    // Pixels that the screen has decoded already are borrowed; the document is not touched later.
+    // The cache belongs to this thread: an image in it is passed to the render, which decodes any
+    // other itself.
     std::optional<RasterImage> decoded;
-    if (shown_->layer.imageData)
-        decoded = document_.decodedImages().known(*shown_->layer.imageData);
-    services.backgroundQueue->post([self = std::weak_ptr(self_), contents = *shown_, decoded,
-                                    codec = services.imageCodec, mainQueue = services.mainQueue] {
+    if (shown_->layer.imageData) decoded = images_.known(*shown_->layer.imageData);
+    services_.backgroundQueue->post([self = std::weak_ptr(self_), contents = *shown_, decoded,
+                                     codec = services_.imageCodec,
+                                     mainQueue = services_.mainQueue] {
         if (self.expired()) return;
         auto result = renderLayer(contents.layer, contents.canvas, size, [&](const Bytes& file) {
             if (decoded || codec == nullptr) return decoded;
@@ -59,7 +63,7 @@ void LayerThumbnail::finish(std::optional<RasterImage> result) {
     isRendering_ = false;
     cgImage_ = std::move(result);
     generate();
-    // Last: who is told may let go of this thumbnail.
+    // The last statement, because the callback may destroy this object.
     if (onChange_) onChange_();
 }
 

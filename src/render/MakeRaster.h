@@ -11,8 +11,8 @@
 
 namespace marlevo {
 
-/// Allocates a raster filled with one byte value and lets `draw` paint on its pixels; nothing when
-/// there is not enough memory.
+/// Allocates a raster filled with one byte value and calls `draw` with its pixels. Nothing when
+/// memory is short.
 template <typename Draw>
 std::optional<RasterImage> makeRaster(RasterSize size, std::uint8_t fill, Draw draw) {
     const std::ptrdiff_t stride = std::ptrdiff_t{size.width} * 4;

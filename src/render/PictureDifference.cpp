@@ -1,7 +1,7 @@
 #include "render/PictureDifference.h"
 
 #include "model/StrokeDifference.h"
-#include "render/PaintedArea.h"
+#include "render/DeviceBounds.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,10 +12,11 @@ namespace {
 
 constexpr IntRect everything{-(1 << 30), -(1 << 30), 1 << 30, 1 << 30};
 
-/// More strokes than this are painted faster all together, area by area.
+/// More strokes than this are painted faster by repainting their area.
 constexpr std::size_t maxDrawnOver = 16;
 
-bool shareImage(const Layer& a, const Layer& b) {
+/// Compares the files only: an image without changes may have another opacity.
+bool shareImageFile(const Layer& a, const Layer& b) {
     if (!a.imageData || !b.imageData) return a.imageData.has_value() == b.imageData.has_value();
     return a.imageData->sharesWith(*b.imageData);
 }
@@ -30,11 +31,11 @@ LayerList::Iterator topmostPainted(const LayerList& layers) {
     return top == layers.rend() ? layers.end() : top.base() - 1;
 }
 
-/// Whether `came`, which is not empty, is what `after` has behind all strokes of `before`.
-bool wereAppended(const std::vector<const Stroke*>& came, const StrokeList& before,
+/// True if `after` consists of the strokes of `before` and then those of `added`, at least one.
+bool wereAppended(const std::vector<const Stroke*>& added, const StrokeList& before,
                   const StrokeList& after) {
-    return before.size() + came.size() == after.size() && came.front() == &after[before.size()] &&
-           came.back() == &after[after.size() - 1];
+    return before.size() + added.size() == after.size() && added.front() == &after[before.size()] &&
+           added.back() == &after[after.size() - 1];
 }
 
 class Comparison {
@@ -46,9 +47,9 @@ public:
     void compare(const Layer& before, const Layer& after) {
         if (&before == &after) return;  // both lists share the layer
         const bool hasImage = before.imageData || after.imageData;
-        if (before.isVisible != after.isVisible || !shareImage(before, after) ||
+        if (before.isVisible != after.isVisible || !shareImageFile(before, after) ||
             (hasImage && before.opacity != after.opacity)) {
-            // An image covers the whole canvas; without one only the strokes come or go.
+            // An image covers the whole canvas. Without one only the strokes change.
             if (hasImage) return difference_.damage.push_back(everything);
             damageStrokes(before);
             damageStrokes(after);
@@ -66,19 +67,21 @@ private:
     void compareStrokes(const Layer& before, const Layer& after) {
         auto strokes = StrokeDifference::between(before.strokes, after.strokes);
         const bool isOnTop = top_ != end_ && &after == &*top_;
-        if (isOnTop && strokes.went.empty() && !strokes.came.empty() &&
-            strokes.came.size() <= maxDrawnOver &&
-            wereAppended(strokes.came, before.strokes, after.strokes)) {
-            difference_.drawnOver = std::move(strokes.came);
+        if (isOnTop && strokes.removed.empty() && !strokes.added.empty() &&
+            strokes.added.size() <= maxDrawnOver &&
+            wereAppended(strokes.added, before.strokes, after.strokes)) {
+            difference_.drawnOver = std::move(strokes.added);
             return;
         }
-        for (const Stroke* stroke : strokes.went)
+        for (const Stroke* stroke : strokes.removed)
             damage(*stroke);
-        for (const Stroke* stroke : strokes.came)
+        for (const Stroke* stroke : strokes.added)
             damage(*stroke);
     }
 
-    void damage(const Stroke& stroke) { difference_.damage.push_back(paintedArea(stroke, scale_)); }
+    void damage(const Stroke& stroke) {
+        difference_.damage.push_back(deviceBounds(stroke, scale_));
+    }
 
     LayerList::Iterator top_;
     LayerList::Iterator end_;
@@ -93,7 +96,8 @@ PictureDifference PictureDifference::between(const LayerList& before, const Laye
     PictureDifference difference;
     Comparison comparison(after, scale, difference);
     const auto sameLayer = [](const Layer& a, const Layer& b) { return a.id == b.id; };
-    // Layers that came, went or changed places lie between the equal ends of the two stacks.
+    // Both stacks begin and end with the same layers. Between them, layers were added, removed or
+    // moved.
     const auto head =
         std::mismatch(before.begin(), before.end(), after.begin(), after.end(), sameLayer).first -
         before.begin();

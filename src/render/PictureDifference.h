@@ -7,18 +7,18 @@
 
 namespace marlevo {
 
-/// What turns the picture of one stack of layers into that of another, as it is seen at a scale.
-/// Found by what the two share, in time in proportion to what they do not.
+/// The repaints that turn the picture of one stack of layers into that of another. Found in time
+/// proportional to what the two do not share.
 struct PictureDifference {
-    std::vector<IntRect> damage;  ///< device pixels to be painted anew; may reach beyond the canvas
+    std::vector<IntRect> damage;  ///< device pixels to repaint; may extend beyond the canvas
 
-    /// Strokes of `after` that need no more than to be drawn over all the rest, in this order.
+    /// Strokes of `after` for which drawing them over everything else, in this order, is enough.
     /// Valid as long as that list is unchanged.
     std::vector<const Stroke*> drawnOver;
 
     bool isEmpty() const { return damage.empty() && drawnOver.empty(); }
 
-    /// `scale` in device pixels a canvas pixel.
+    /// `scale` is device pixels per canvas pixel.
     static PictureDifference between(const LayerList& before, const LayerList& after, double scale);
 };
 

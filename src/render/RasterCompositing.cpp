@@ -6,7 +6,8 @@
 #include "render/LayerPainting.h"
 #include "render/LayerRun.h"
 #include "render/MakeRaster.h"
-#include "render/StrokesInSight.h"
+#include "render/StrokePainting.h"
+#include "render/VisibleStrokes.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -19,7 +20,7 @@ namespace {
 constexpr int leastRowsOfBand = 64;
 constexpr int maxBands = 8;
 
-/// The picture in bands, which threads may paint.
+/// Parts of the picture for the threads to share.
 std::vector<IntRect> bandsOf(const IntRect& picture) {
     const int rows = std::max((picture.height() + maxBands - 1) / maxBands, leastRowsOfBand);
     std::vector<IntRect> bands;
@@ -30,26 +31,21 @@ std::vector<IntRect> bandsOf(const IntRect& picture) {
 
 }  // namespace
 
-std::optional<RasterImage> renderCGImage(const DrawingDocument& document) {
-    const CanvasSize canvas = document.canvasSize;
+std::optional<RasterImage> renderPicture(const Picture& picture, ImageCache& images) {
+    const CanvasSize canvas = picture.canvasSize;
     const auto size = RasterSize::truncating(canvas.width, canvas.height);
     if (!size) return std::nullopt;
     const double height = size->height;
-    return makeRaster(*size, 0, [&](const PixelBuffer& picture) {
-        if (!document.backgroundIsTransparent) {
-            const Rect whole{{0, 0}, {static_cast<double>(size->width), height}};
-            BitmapContext(picture, DeviceFrame::yUp(height))
-                .fillRect(whole, document.backgroundColor);
-        }
-        DecodedImages& images = document.decodedImages();
-        images.decodeAhead(document.layers);
+    return makeRaster(*size, 0, [&](const PixelBuffer& pixels) {
+        const Rect whole{{0, 0}, {static_cast<double>(size->width), height}};
+        BitmapContext(pixels, DeviceFrame::yUp(height)).fillRect(whole, picture.background);
+        images.decodeAhead(picture.layers);
         const auto decode = [&](const Bytes& file) { return images.image(file); };
-        const std::vector<IntRect> bands = bandsOf(picture.area);
-        forEachRun(document.layers, decode, [&](const LayerRun& run) {
-            const StrokesInSight strokes(run, picture.area, 1);
-            // The threads read values only, not the document.
+        const std::vector<IntRect> bands = bandsOf(pixels.area);
+        forEachRun(picture.layers, decode, [&](const LayerRun& run) {
+            const VisibleStrokes strokes(run, pixels.area, 1);
             parallelFor(bands.size(), [&](std::size_t i) {
-                BitmapContext context(picture.part(bands[i]), DeviceFrame::yUp(height));
+                BitmapContext context(pixels.part(bands[i]), DeviceFrame::yUp(height));
                 drawLayerImageIfPresent(context, *run.layers.front(), canvas, height,
                                         [&](const Bytes&) { return run.image; });
                 strokes.draw(context, [&](GraphicsContext& to, const Stroke& stroke) {
@@ -60,14 +56,32 @@ std::optional<RasterImage> renderCGImage(const DrawingDocument& document) {
     });
 }
 
+Picture pictureOf(const DrawingDocument& document) {
+    return {document.layers, document.canvasSize,
+            document.backgroundIsTransparent ? clear : *document.backgroundColor};
+}
+
+Scene sceneOf(const DrawingDocument& document, double scale) {
+    const std::optional<Stroke>& stroke = document.currentStroke;
+    return {pictureOf(document), document.showGrid, scale, stroke ? &*stroke : nullptr};
+}
+
+std::optional<RasterImage> renderCGImage(const DrawingDocument& document) {
+    return renderPicture(pictureOf(document), BorrowedImages(document).cache());
+}
+
 std::optional<RasterImage> renderForFill(const DrawingDocument& document) {
     return renderCGImage(document);
 }
 
 std::optional<RasterImage> renderSingleLayer(const DrawingDocument& document, const Layer& layer,
                                              Size size) {
+    BorrowedImages images(document);
     return renderLayer(layer, document.canvasSize, size,
-                       [&](const Bytes& file) { return document.decodedImages().image(file); });
+                       [&](const Bytes& file) { return images.cache().image(file); });
 }
+
+BorrowedImages::BorrowedImages(const DrawingDocument& document)
+    : own_(document.services().imageCodec), lent_(document.imageCache()) {}
 
 }  // namespace marlevo

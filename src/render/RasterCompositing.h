@@ -2,23 +2,49 @@
 
 #include "graphics/RasterImage.h"
 #include "graphics/Size.h"
+#include "model/ImageCache.h"
+#include "render/Scene.h"
 
 #include <optional>
 
 namespace marlevo {
 
 class DrawingDocument;
-struct Layer;
 
-/// The document's whole picture at one pixel per canvas pixel. Nothing when the canvas is smaller
-/// than 1 × 1 or too large for memory.
+/// The whole picture at one pixel per canvas pixel. Nothing when the canvas is smaller than 1 × 1
+/// or too large for memory.
+std::optional<RasterImage> renderPicture(const Picture& picture, ImageCache& images);
+
+// The only functions of render/ that read a document.
+
+/// The document's finished picture: without the grid and the stroke in progress.
+Picture pictureOf(const DrawingDocument& document);
+
+/// All that a window shows of the document, at `scale` device pixels per canvas pixel. Refers to
+/// the document's stroke in progress.
+Scene sceneOf(const DrawingDocument& document, double scale);
+
+/// renderPicture() of the document's picture.
 std::optional<RasterImage> renderCGImage(const DrawingDocument& document);
 
 /// The picture in which a fill looks for its region: the same as renderCGImage().
 std::optional<RasterImage> renderForFill(const DrawingDocument& document);
 
-/// One layer on white, stretched from the document's canvas to `size`, as renderLayer() does.
+/// renderLayer() of one layer, stretched from the document's canvas to `size`.
 std::optional<RasterImage> renderSingleLayer(const DrawingDocument& document, const Layer& layer,
                                              Size size);
+
+/// Lends the document's image cache while its picture is rendered; a document without one gets a
+/// cache for this time.
+class BorrowedImages {
+public:
+    explicit BorrowedImages(const DrawingDocument& document);
+
+    ImageCache& cache() { return lent_ ? *lent_ : own_; }
+
+private:
+    ImageCache own_;
+    ImageCache* lent_;
+};
 
 }  // namespace marlevo

@@ -7,14 +7,14 @@ namespace marlevo {
 
 /// Width and height of a raster in whole pixels, both at least 1.
 struct RasterSize {
-    /// The most pixels that a raster may have: 4 GiB of bytes.
+    /// 4 GiB of bytes.
     static constexpr std::int64_t maxPixels = std::int64_t{1} << 30;
 
     int width;
     int height;
 
-    /// Both sides truncated toward zero; nothing when one is then below 1, not a number, or the
-    /// raster would be too large.
+    /// Both sides truncated toward zero. Nothing if one of them is then below 1 or is NaN, or if
+    /// the raster has more than `maxPixels`.
     static std::optional<RasterSize> truncating(double width, double height) {
         const double most = static_cast<double>(maxPixels);
         if (!(width >= 1 && height >= 1 && width <= most && height <= most)) return std::nullopt;

@@ -1,14 +1,14 @@
 #include "render/ScreenPicture.h"
 
 #include "graphics/BitmapContext.h"
-#include "model/DecodedImages.h"
+#include "model/ImageCache.h"
 #include "platform/ParallelFor.h"
-#include "render/DrawOnScreen.h"
+#include "render/DeviceBounds.h"
 #include "render/Grid.h"
 #include "render/LayerRun.h"
-#include "render/PaintedArea.h"
 #include "render/PictureDifference.h"
-#include "render/StrokesInSight.h"
+#include "render/StrokePainting.h"
+#include "render/VisibleStrokes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,7 +35,7 @@ void clearPixels(const PixelBuffer& part) {
     }
 }
 
-/// What is left of a rectangle when `end`, which has three of its edges, is cut off.
+/// The rectangle `all` without `end`, which shares three of its edges.
 IntRect without(const IntRect& end, const IntRect& all) {
     if (end.bottom < all.bottom) return {all.left, end.bottom, all.right, all.bottom};
     if (end.top > all.top) return {all.left, all.top, all.right, end.top};
@@ -43,8 +43,8 @@ IntRect without(const IntRect& end, const IntRect& all) {
     return {all.left, all.top, end.left, all.bottom};
 }
 
-/// Takes from `stale` what lies in `asked`, a margin around it, and as much more as it takes to
-/// leave a rectangle.
+/// Removes from `stale` the part inside `asked`, a margin around it, and as much more as is needed
+/// to leave a rectangle.
 IntRect takeAround(const IntRect& asked, IntRect& stale) {
     constexpr int margin = 64;
     IntRect rows = stale;
@@ -64,11 +64,11 @@ IntRect takeAround(const IntRect& asked, IntRect& stale) {
     return taken;
 }
 
-/// Less is painted faster than another thread wakes up.
+/// Fewer pixels and strokes are painted in less time than another thread needs to wake up.
 constexpr int leastPixelsToShare = 1 << 14;
 constexpr std::size_t leastStrokesToShare = 64;
 
-/// Cuts an area across its longer side into at most `count` pieces that are not too slim.
+/// Cuts an area across its longer side into at most `count` pieces of at least `slimmest` pixels.
 void cut(const PixelBuffer& part, int count, std::vector<PixelBuffer>& pieces) {
     constexpr int slimmest = 16;
     const IntRect& area = part.area;
@@ -83,8 +83,8 @@ void cut(const PixelBuffer& part, int count, std::vector<PixelBuffer>& pieces) {
     }
 }
 
-/// Takes large areas apart so that each core gets its share; not further, since strokes that lie in
-/// two pieces are prepared twice.
+/// Cuts large areas into one piece for each core. Not into more, because a stroke in two pieces is
+/// prepared twice.
 std::vector<PixelBuffer> cutForAllCores(const std::vector<PixelBuffer>& areas,
                                         std::size_t strokes) {
     const auto cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
@@ -102,49 +102,42 @@ bool canBeShown(double scale) { return scale > 0 && std::isfinite(scale); }
 
 }  // namespace
 
-ScreenPicture::Contents ScreenPicture::Contents::of(const DrawingDocument& document, double scale) {
-    return {document.layers, document.backgroundIsTransparent ? clear : *document.backgroundColor,
-            document.canvasSize, scale, document.showGrid};
-}
-
-/// What lies below the layers, and where it ends.
-bool ScreenPicture::Contents::hasSameGround(const Contents& other) const {
-    return background == other.background && canvasSize == other.canvasSize &&
-           hasGrid == other.hasGrid;
-}
-
-IntRect ScreenPicture::Contents::canvasPixels() const {
-    // Where an edge lies within a pixel, all of that pixel may be painted.
-    constexpr double farthest = 1 << 30;
-    const auto edge = [farthest](double device) {
-        return device > 0 ? static_cast<int>(std::ceil(std::min(device, farthest))) : 0;
-    };
-    return {0, 0, edge(canvasSize.width * scale), edge(canvasSize.height * scale)};
-}
-
 void ScreenPicture::setGridColor(const Color& color) {
     if (color == gridColor_) return;
     gridColor_ = color;
     releaseMemory();
 }
 
-std::optional<std::vector<IntRect>> ScreenPicture::takeChanges(const DrawingDocument& document,
-                                                               double scale) {
-    follow(document, scale);
-    std::vector<IntRect> changes;
-    tiles_.forEachKnownTile([&](Tile& tile) {
-        const IntRect changed = std::exchange(tile.changed, {});
-        if (!changed.isEmpty()) changes.push_back(changed);
-    });
-    if (std::exchange(isAllChanged_, false)) return std::nullopt;
-    return changes;
+void ScreenPicture::update(const Scene& scene) {
+    if (!hasSameGround(scene) || !canBeShown(scene.scale) || !canBeShown(shown_.scale)) {
+        releaseMemory();
+        strokeInProgress_.update(scene.strokeInProgress, scene.scale);
+    } else {
+        applyDifference(scene.picture.layers, scene.strokeInProgress);
+        if (scene.scale != shown_.scale) {
+            changeScale(scene.scale);
+            strokeInProgress_.update(scene.strokeInProgress, scene.scale);
+        }
+    }
+    images_.retainOnly(scene.picture.layers);
+    shown_ = scene;
+    shown_.strokeInProgress = nullptr;
 }
 
-void ScreenPicture::paint(const DrawingDocument& document, double scale,
-                          const PixelBuffer& target) {
-    prepare(document, scale, target.area);
-    if (!canBeShown(scale) || target.area.isEmpty()) return;
-    const IntRect seen = target.area.intersectedWith(contents_.canvasPixels());
+std::optional<std::vector<IntRect>> ScreenPicture::takeDamage() {
+    std::vector<IntRect> damage;
+    tiles_.forEachKnownTile([&](Tile& tile) {
+        const IntRect part = std::exchange(tile.damage, {});
+        if (!part.isEmpty()) damage.push_back(part);
+    });
+    if (std::exchange(isAllDamaged_, false)) return std::nullopt;
+    return damage;
+}
+
+void ScreenPicture::paint(const PixelBuffer& target) {
+    prepare(target.area);
+    if (!canBeShown(shown_.scale) || target.area.isEmpty()) return;
+    const IntRect seen = target.area.intersectedWith(canvasPixels());
     if (seen != target.area) clearPixels(target);
     if (seen.isEmpty()) return;
     tiles_.forEachKnownTile(seen, [&](Tile& tile) {
@@ -153,10 +146,8 @@ void ScreenPicture::paint(const DrawingDocument& document, double scale,
     strokeInProgress_.paint(target.part(seen));
 }
 
-void ScreenPicture::prepare(const DrawingDocument& document, double scale, const IntRect& area) {
-    follow(document, scale);
-    if (canBeShown(scale))
-        renderStaleTiles(document, area.intersectedWith(contents_.canvasPixels()));
+void ScreenPicture::prepare(const IntRect& area) {
+    if (canBeShown(shown_.scale)) renderStaleTiles(area.intersectedWith(canvasPixels()));
 }
 
 std::size_t ScreenPicture::cachedBytes() const {
@@ -166,79 +157,83 @@ std::size_t ScreenPicture::cachedBytes() const {
     return tiles * tileBytes;
 }
 
-void ScreenPicture::limitMemory(const IntRect& inSight) {
-    while (cachedBytes() > maxCachedBytes && !otherScales_.empty())
+void ScreenPicture::evictTiles(const IntRect& visible) {
+    while (hasTilesToEvict() && !otherScales_.empty())
         otherScales_.erase(otherScales_.begin());
-    if (cachedBytes() > maxCachedBytes) tiles_.dropTilesOutside(inSight);
+    if (hasTilesToEvict()) tiles_.dropTilesOutside(visible);
 }
 
 void ScreenPicture::releaseMemory() {
     tiles_.clear();
     otherScales_.clear();
-    isAllChanged_ = true;
+    isAllDamaged_ = true;
 }
 
-void ScreenPicture::follow(const DrawingDocument& document, double scale) {
-    Contents next = Contents::of(document, scale);
-    const std::optional<Stroke>& inProgress = document.currentStroke;
-    if (!next.hasSameGround(contents_) || !canBeShown(scale) || !canBeShown(contents_.scale)) {
-        releaseMemory();
-        strokeInProgress_.update(inProgress, scale);
-    } else {
-        showDifference(next.layers, document);
-        if (scale != contents_.scale) {
-            changeScale(scale);
-            strokeInProgress_.update(inProgress, scale);
-        }
-    }
-    document.decodedImages().keepOnly(next.layers);
-    contents_ = std::move(next);
+IntRect ScreenPicture::canvasPixels() const {
+    // All of a pixel that contains an edge may be painted.
+    constexpr double farthest = 1 << 30;
+    const auto edge = [farthest](double device) {
+        return device > 0 ? static_cast<int>(std::ceil(std::min(device, farthest))) : 0;
+    };
+    const CanvasSize& canvas = shown_.picture.canvasSize;
+    return {0, 0, edge(canvas.width * shown_.scale), edge(canvas.height * shown_.scale)};
+}
+
+Rect ScreenPicture::canvasRect() const {
+    return {{0, 0}, {shown_.picture.canvasSize.width, shown_.picture.canvasSize.height}};
+}
+
+/// The ground is what is below the layers, and its edges.
+bool ScreenPicture::hasSameGround(const Scene& next) const {
+    return next.picture.background == shown_.picture.background &&
+           next.picture.canvasSize == shown_.picture.canvasSize &&
+           next.showsGrid == shown_.showsGrid;
 }
 
 void ScreenPicture::changeScale(double scale) {
-    if (tiles_.size() > 0) otherScales_.push_back({contents_.scale, std::exchange(tiles_, {})});
+    if (tiles_.size() > 0) otherScales_.push_back({shown_.scale, std::exchange(tiles_, {})});
     const auto known = std::ranges::find(otherScales_, scale, &OtherScale::scale);
     if (known != otherScales_.end()) {
         tiles_ = std::move(known->tiles);
         otherScales_.erase(known);
     }
-    isAllChanged_ = true;
+    isAllDamaged_ = true;
 }
 
-void ScreenPicture::showDifference(const LayerList& after, const DrawingDocument& document) {
-    const auto difference = PictureDifference::between(contents_.layers, after, contents_.scale);
+void ScreenPicture::applyDifference(const LayerList& after, const Stroke* strokeInProgress) {
+    const double scale = shown_.scale;
+    const auto difference = PictureDifference::between(shown_.picture.layers, after, scale);
     if (!difference.isEmpty()) otherScales_.clear();
-    const std::optional<Stroke>& inProgress = document.currentStroke;
-    // A stroke that has just joined its layer goes on looking as it did.
-    const bool isJoining = !inProgress && difference.damage.empty() &&
+    // A stroke that has just been added to its layer looks as it did in progress.
+    const bool isJoining = !strokeInProgress && difference.damage.empty() &&
                            difference.drawnOver.size() == 1 &&
                            strokeInProgress_.looksLike(*difference.drawnOver.front());
     for (const IntRect& area : difference.damage) {
-        markStale(area);
-        markChanged(area);
+        invalidate(area);
+        addDamage(area);
     }
     for (const Stroke* stroke : difference.drawnOver) {
-        const IntRect area = paintedArea(*stroke, contents_.scale);
+        const IntRect area = deviceBounds(*stroke, scale);
         paintOver(area, [&](const PixelBuffer& part) {
             if (isJoining) return strokeInProgress_.paint(part);
-            BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-            drawOnScreen(context, *stroke);
+            BitmapContext context(part, DeviceFrame::yDown(scale));
+            drawStrokeOnScreen(context, *stroke);
         });
-        if (!isJoining) markChanged(area);
+        if (!isJoining) addDamage(area);
     }
-    const IntRect area = strokeInProgress_.update(inProgress, contents_.scale);
-    if (!isJoining) markChanged(area);
+    const IntRect area = strokeInProgress_.update(strokeInProgress, scale);
+    if (!isJoining) addDamage(area);
 }
 
-void ScreenPicture::markStale(const IntRect& area) {
+void ScreenPicture::invalidate(const IntRect& area) {
     tiles_.forEachKnownTile(area, [&](Tile& tile) {
         tile.stale = tile.stale.unitedWith(area.intersectedWith(tile.area));
     });
 }
 
-void ScreenPicture::markChanged(const IntRect& area) {
+void ScreenPicture::addDamage(const IntRect& area) {
     tiles_.forEachKnownTile(area, [&](Tile& tile) {
-        tile.changed = tile.changed.unitedWith(area.intersectedWith(tile.area));
+        tile.damage = tile.damage.unitedWith(area.intersectedWith(tile.area));
     });
 }
 
@@ -248,32 +243,35 @@ void ScreenPicture::paintOver(const IntRect& area, Paint paint) {
         area, [&](Tile& tile) { paint(tile.pixels().part(area.intersectedWith(tile.area))); });
 }
 
-void ScreenPicture::renderStaleTiles(const DrawingDocument& document, const IntRect& area) {
-    std::vector<PixelBuffer> stale;
+void ScreenPicture::renderStaleTiles(const IntRect& area) {
+    struct Rest {
+        Tile& tile;
+        IntRect stale;
+    };
+    std::vector<PixelBuffer> parts;
+    std::vector<Rest> rests;
     IntRect whole;
     tiles_.forEachTile(area, [&](Tile& tile) {
         if (tile.stale.intersectedWith(area).isEmpty()) return;
-        tile.stale = tile.stale.intersectedWith(contents_.canvasPixels());
-        const IntRect part = takeAround(area, tile.stale);
-        stale.push_back(tile.pixels().part(part));
+        IntRect stale = tile.stale.intersectedWith(canvasPixels());
+        const IntRect part = takeAround(area, stale);
+        parts.push_back(tile.pixels().part(part));
+        rests.push_back({tile, stale});
         whole = whole.unitedWith(part);
     });
-    if (stale.empty()) return;
-    try {
-        render(document, stale, whole);
-    } catch (...) {
-        releaseMemory();  // rather than show tiles that are half painted
-        throw;
-    }
+    if (parts.empty()) return;
+    render(parts, whole);
+    // Only now: after an exception the parts are still stale and painted again.
+    for (const Rest& rest : rests)
+        rest.tile.stale = rest.stale;
 }
 
-void ScreenPicture::render(const DrawingDocument& document, const std::vector<PixelBuffer>& stale,
-                           const IntRect& whole) const {
-    document.decodedImages().decodeAhead(contents_.layers);
+void ScreenPicture::render(const std::vector<PixelBuffer>& stale, const IntRect& whole) const {
+    images_.decodeAhead(shown_.picture.layers);
     parallelFor(stale.size(), [&](std::size_t i) { renderBackground(stale[i]); });
-    const auto decode = [&](const Bytes& file) { return document.decodedImages().image(file); };
-    forEachRun(contents_.layers, decode, [&](const LayerRun& run) {
-        const StrokesInSight strokes(run, whole, contents_.scale);
+    const auto decode = [&](const Bytes& file) { return images_.image(file); };
+    forEachRun(shown_.picture.layers, decode, [&](const LayerRun& run) {
+        const VisibleStrokes strokes(run, whole, shown_.scale);
         const auto parts = cutForAllCores(stale, strokes.count());
         parallelFor(parts.size(), [&](std::size_t i) {
             if (run.image) renderImage(run, parts[i]);
@@ -284,23 +282,23 @@ void ScreenPicture::render(const DrawingDocument& document, const std::vector<Pi
 
 void ScreenPicture::renderBackground(const PixelBuffer& part) const {
     clearPixels(part);
-    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-    context.fillRect(contents_.canvasRect(), contents_.background);
-    if (contents_.hasGrid) {
-        context.fillPath(gridPath(contents_.canvasSize, onCanvas(part.area, contents_.scale)),
+    BitmapContext context(part, DeviceFrame::yDown(shown_.scale));
+    context.fillRect(canvasRect(), shown_.picture.background);
+    if (shown_.showsGrid) {
+        context.fillPath(gridPath(shown_.picture.canvasSize, onCanvas(part.area, shown_.scale)),
                          gridColor_);
     }
 }
 
 void ScreenPicture::renderImage(const LayerRun& run, const PixelBuffer& part) const {
-    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
+    BitmapContext context(part, DeviceFrame::yDown(shown_.scale));
     context.setAlpha(run.layers.front()->opacity);
-    context.drawImage(*run.image, contents_.canvasRect());
+    context.drawImage(*run.image, canvasRect());
 }
 
-void ScreenPicture::renderStrokes(const StrokesInSight& strokes, const PixelBuffer& part) const {
-    BitmapContext context(part, DeviceFrame::yDown(contents_.scale));
-    strokes.draw(context, drawOnScreen);
+void ScreenPicture::renderStrokes(const VisibleStrokes& strokes, const PixelBuffer& part) const {
+    BitmapContext context(part, DeviceFrame::yDown(shown_.scale));
+    strokes.draw(context, drawStrokeOnScreen);
 }
 
 }  // namespace marlevo

@@ -3,7 +3,7 @@
 #include "graphics/Color.h"
 #include "graphics/PixelBuffer.h"
 #include "graphics/TileMap.h"
-#include "model/DrawingDocument.h"
+#include "render/Scene.h"
 #include "render/StrokeInProgress.h"
 
 #include <cstddef>
@@ -14,61 +14,56 @@
 
 namespace marlevo {
 
+class ImageCache;
 struct LayerRun;
-class StrokesInSight;
+class VisibleStrokes;
 
-/// The document's picture as its window shows it: background, grid, layers and the stroke in
-/// progress, at device resolution.
+/// A drawing as its window shows it: background, grid, layers and the stroke in progress, at device
+/// resolution.
 ///
-/// The finished picture is kept as tiles, a pure function of the document's values; a change
-/// repaints only what differs. While only the scale changes, the tiles of other scales are kept
-/// too, so that going back to one costs nothing. Areas and pixels lie on a device plane whose
-/// origin is the canvas's top left corner. Used on the user-interface thread.
+/// The finished picture is kept as tiles, which depend on the scene's values only; a change
+/// repaints what differs. While only the scale changes, the tiles of other scales are kept too, so
+/// that returning to one costs nothing. Areas and pixels are device pixels, relative to the
+/// canvas's top left corner. Used on the user-interface thread.
 class ScreenPicture {
 public:
-    /// What all tiles together may take beyond those in sight.
-    static constexpr std::size_t maxCachedBytes = std::size_t{96} << 20;
+    static constexpr std::size_t defaultMaxCachedBytes = std::size_t{96} << 20;
 
-    /// What the grid is drawn in. With another colour than before everything counts as changed.
+    /// The cache must outlive this object. `maxCachedBytes` bounds the tiles that are kept in
+    /// addition to the visible ones.
+    explicit ScreenPicture(ImageCache& images, std::size_t maxCachedBytes = defaultMaxCachedBytes)
+        : images_(images), maxCachedBytes_(maxCachedBytes) {}
+
+    /// The colour of the grid's lines. A new one counts as a change of everything.
     void setGridColor(const Color& color);
 
-    /// Follows the document, seen with `scale` device pixels for a canvas pixel, and gives the
-    /// areas of what was painted that would be painted otherwise now, each of them once; nothing
-    /// when that is everything. Counts as reading all that the picture shows.
-    std::optional<std::vector<IntRect>> takeChanges(const DrawingDocument& document, double scale);
+    /// Takes over what is to be shown from now on; the following calls refer to it. A scale that is
+    /// not a positive number shows nothing. Drops images from the cache that no visible layer has.
+    void update(const Scene& scene);
 
-    /// Paints the pixels of `target`, which are in the order of the screen's; what they held before
-    /// is replaced, and nothing is seen beyond the canvas. Follows the document too, and keeps what
-    /// that changes to be taken later. A scale that is not a positive number paints nothing.
-    void paint(const DrawingDocument& document, double scale, const PixelBuffer& target);
+    /// The painted areas that have changed since the last call, without overlaps; nothing if all
+    /// has changed.
+    std::optional<std::vector<IntRect>> takeDamage();
 
-    /// Renders at once what several paints of parts of `area`, which are to follow, would render
-    /// one by one.
-    void prepare(const DrawingDocument& document, double scale, const IntRect& area);
+    /// Replaces the pixels of `target`, which are in the screen's order. Pixels outside the canvas
+    /// become transparent. Not to be called while the scale shows nothing: leaves `target` as it
+    /// is.
+    void paint(const PixelBuffer& target);
 
-    /// Where the tiles take more than maxCachedBytes, drops some: those of other scales, then those
-    /// out of sight. What was painted of a dropped tile must be painted again before it is shown.
-    void limitMemory(const IntRect& inSight);
+    /// Renders all of `area` at once, with all cores; the paints of parts of it that follow then
+    /// only copy.
+    void prepare(const IntRect& area);
+
+    /// While the tiles take more than the bound, drops those of other scales, then those outside
+    /// `visible`. A dropped area must be painted again before it is shown.
+    void evictTiles(const IntRect& visible);
+    bool hasTilesToEvict() const { return cachedBytes() > maxCachedBytes_; }
     std::size_t cachedBytes() const;
 
     /// Drops all tiles; everything counts as changed.
     void releaseMemory();
 
 private:
-    /// What the finished picture is made of.
-    struct Contents {
-        LayerList layers;
-        Color background;
-        CanvasSize canvasSize;
-        double scale = 0;
-        bool hasGrid = false;
-
-        static Contents of(const DrawingDocument& document, double scale);
-        bool hasSameGround(const Contents& other) const;
-        IntRect canvasPixels() const;
-        Rect canvasRect() const { return {{0, 0}, {canvasSize.width, canvasSize.height}}; }
-    };
-
     struct Tile {
         explicit Tile(const IntRect& place)
             : area(place), stale(place),
@@ -79,8 +74,8 @@ private:
         }
 
         IntRect area;
-        IntRect stale;    ///< the part that must be painted before it is used; all at first
-        IntRect changed;  ///< the part to be reported as looking other than before
+        IntRect stale;   ///< the part that must be painted before it is used; all at first
+        IntRect damage;  ///< the part that takeDamage() is to report
         std::unique_ptr<std::uint8_t[]> bytes;
     };
 
@@ -94,26 +89,29 @@ private:
         Tiles tiles;
     };
 
-    void follow(const DrawingDocument& document, double scale);
+    IntRect canvasPixels() const;
+    Rect canvasRect() const;
+    bool hasSameGround(const Scene& next) const;
     void changeScale(double scale);
-    void showDifference(const LayerList& after, const DrawingDocument& document);
-    void markStale(const IntRect& area);
-    void markChanged(const IntRect& area);
+    void applyDifference(const LayerList& after, const Stroke* strokeInProgress);
+    void invalidate(const IntRect& area);
+    void addDamage(const IntRect& area);
     template <typename Paint>
     void paintOver(const IntRect& area, Paint paint);
-    void renderStaleTiles(const DrawingDocument& document, const IntRect& area);
-    void render(const DrawingDocument& document, const std::vector<PixelBuffer>& stale,
-                const IntRect& whole) const;
+    void renderStaleTiles(const IntRect& area);
+    void render(const std::vector<PixelBuffer>& stale, const IntRect& whole) const;
     void renderBackground(const PixelBuffer& part) const;
     void renderImage(const LayerRun& run, const PixelBuffer& part) const;
-    void renderStrokes(const StrokesInSight& strokes, const PixelBuffer& part) const;
+    void renderStrokes(const VisibleStrokes& strokes, const PixelBuffer& part) const;
 
+    ImageCache& images_;
+    std::size_t maxCachedBytes_;
     Color gridColor_{0.5, 0.5, 0.5, 0.2};
-    Contents contents_;
-    Tiles tiles_;
-    std::vector<OtherScale> otherScales_;  ///< of the same contents; left longest ago comes first
+    Scene shown_;  ///< without the stroke in progress
     StrokeInProgress strokeInProgress_;
-    bool isAllChanged_ = true;
+    Tiles tiles_;
+    std::vector<OtherScale> otherScales_;  ///< of the same picture, the least recently shown first
+    bool isAllDamaged_ = true;
 };
 
 }  // namespace marlevo

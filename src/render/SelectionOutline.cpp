@@ -10,10 +10,8 @@ bool isDrawn(const Stroke& stroke) { return stroke.points.size() >= 2; }
 
 }  // namespace
 
-double selectionOutlineOpacity(const DrawingDocument& document) {
-    const std::optional<Stroke>& current = document.currentStroke;
-    if (current && isDrawn(*current)) return 1;
-    const LayerList& layers = document.layers;
+double selectionOutlineOpacity(const LayerList& layers, const Stroke* strokeInProgress) {
+    if (strokeInProgress && isDrawn(*strokeInProgress)) return 1;
     const auto top =
         std::find_if(layers.rbegin(), layers.rend(), [](const Layer& l) { return l.isVisible; });
     if (top == layers.rend()) return 1;

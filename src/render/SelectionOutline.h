@@ -1,12 +1,13 @@
 #pragma once
 
-#include "model/DrawingDocument.h"
+#include "model/LayerList.h"
 
 namespace marlevo {
 
-/// The opacity with which the outline of the selection is drawn: the one that drawing layers and
-/// the stroke in progress leaves behind. A layer sets its own, and each stroke sets 1 when it is
-/// done, so that only a topmost visible layer without strokes lends the outline its opacity.
-double selectionOutlineOpacity(const DrawingDocument& document);
+/// The opacity with which the outline of the selection is drawn: the one that drawing the layers
+/// and the stroke in progress, null without one, leaves set. A layer sets its own opacity, and each
+/// stroke sets 1 after it is drawn. So the outline has the opacity of the topmost visible layer if
+/// that layer has no strokes, else 1.
+double selectionOutlineOpacity(const LayerList& layers, const Stroke* strokeInProgress);
 
 }  // namespace marlevo

@@ -2,8 +2,8 @@
 
 #include "graphics/BitmapContext.h"
 #include "graphics/Flatten.h"
-#include "render/DrawOnScreen.h"
-#include "render/PaintedArea.h"
+#include "render/DeviceBounds.h"
+#include "render/StrokePainting.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,9 +24,9 @@ Rect boundsOf(std::span<const Point> points) {
 
 }  // namespace
 
-IntRect StrokeInProgress::update(const std::optional<Stroke>& stroke, double scale) {
+IntRect StrokeInProgress::update(const Stroke* stroke, double scale) {
     if (!stroke) {
-        const IntRect before = areaFrom(0);
+        const IntRect before = boundsFrom(0);
         style_.reset();
         points_.clear();
         growing_.reset();
@@ -39,14 +39,14 @@ IntRect StrokeInProgress::update(const std::optional<Stroke>& stroke, double sca
                        points.end());
         return points_.size() > known ? grow(known) : IntRect{};
     }
-    const IntRect before = areaFrom(0);
+    const IntRect before = boundsFrom(0);
     style_ = *stroke;
     style_->points = {};
     points_.assign(points.begin(), points.end());
     scale_ = scale;
     startGrowing();
     grow(0);
-    return before.unitedWith(areaFrom(0));
+    return before.unitedWith(boundsFrom(0));
 }
 
 bool StrokeInProgress::looksLike(const Stroke& other) const {
@@ -69,8 +69,8 @@ void StrokeInProgress::startGrowing() {
     curvesDrawn_ = 0;
 }
 
-/// Draws what comes with the points behind the first `known`. The curve towards a point is fixed
-/// when the next point is there.
+/// Draws what the points after the first `known` add. The curve towards a point is fixed by the
+/// next point.
 IntRect StrokeInProgress::grow(std::size_t known) {
     const std::size_t count = points_.size();
     if (count < 2) return {};
@@ -80,7 +80,7 @@ IntRect StrokeInProgress::grow(std::size_t known) {
             return std::abs(p.x * scale_) <= limit && std::abs(p.y * scale_) <= limit;
         });
     if (!isPlain || (growing_ && growing_->bytes() > maxGrowingBytes_)) growing_.reset();
-    if (!growing_) return areaFrom(known < 2 ? 0 : known - 2);
+    if (!growing_) return boundsFrom(known < 2 ? 0 : known - 2);
 
     const auto middle = [&](std::size_t i) {
         return Point{(points_[i].x + points_[i + 1].x) * 0.5,
@@ -96,16 +96,17 @@ IntRect StrokeInProgress::grow(std::size_t known) {
     FlattenedPath line;
     flatten(path, DeviceFrame::yDown(scale_), flatteningTolerance, line);
 
-    // The line begins with a point that is there already, but at first.
+    // Except for the first line, its first point is drawn already.
     const std::size_t first = known < 2 ? 0 : 1;
     const auto fixed = std::span(line.points).subspan(first, line.points.size() - 1 - first);
     if (count > 2) curvesDrawn_ = count - 1;
     return growing_->extend(fixed, line.points.back());
 }
 
-IntRect StrokeInProgress::areaFrom(std::size_t firstPoint) const {
+IntRect StrokeInProgress::boundsFrom(std::size_t firstPoint) const {
     if (!style_ || points_.size() < 2) return {};
-    return paintedArea(boundsOf(std::span(points_).subspan(firstPoint)), style_->lineWidth, scale_);
+    return deviceBounds(boundsOf(std::span(points_).subspan(firstPoint)), style_->lineWidth,
+                        scale_);
 }
 
 void StrokeInProgress::paint(const PixelBuffer& target) const {
@@ -117,7 +118,7 @@ void StrokeInProgress::paint(const PixelBuffer& target) const {
     BitmapContext context(target, DeviceFrame::yDown(scale_));
     Stroke stroke = *style_;
     stroke.points = PointList(points_);
-    drawOnScreen(context, stroke);
+    drawStrokeOnScreen(context, stroke);
 }
 
 }  // namespace marlevo

@@ -12,20 +12,22 @@
 
 namespace marlevo {
 
-/// The stroke that is being drawn, as the screen shows it over the finished picture: in the very
-/// bytes that drawing it whole would give. A freehand one is kept as what it covers, so that an
-/// event costs no more the longer it gets.
+/// The stroke that is being drawn, as the screen shows it over the finished picture: the same bytes
+/// as those of drawing it whole. The coverage of a freehand stroke is kept, so that the time for an
+/// event does not depend on the stroke's length.
 class StrokeInProgress {
 public:
-    /// A stroke that needs more than `maxGrowingBytes` for its coverage is drawn whole.
-    explicit StrokeInProgress(std::size_t maxGrowingBytes = std::size_t{64} << 20)
+    static constexpr std::size_t defaultMaxGrowingBytes = std::size_t{64} << 20;
+
+    /// `maxGrowingBytes` bounds the coverage that is kept; a stroke above it is drawn whole.
+    explicit StrokeInProgress(std::size_t maxGrowingBytes = defaultMaxGrowingBytes)
         : maxGrowingBytes_(maxGrowingBytes) {}
 
-    /// Takes the stroke as it is now, if there is one, seen at `scale` device pixels a canvas
-    /// pixel. Gives the device pixels that may look other than before.
-    IntRect update(const std::optional<Stroke>& stroke, double scale);
+    /// Takes over the stroke as it is now, null if there is none, at `scale` device pixels per
+    /// canvas pixel. Returns the device pixels that may have changed.
+    IntRect update(const Stroke* stroke, double scale);
 
-    /// Whether the stroke is shown and `other` would look the very same.
+    /// True if a stroke is shown and `other` would give the same pixels.
     bool looksLike(const Stroke& other) const;
 
     void paint(const PixelBuffer& target) const;
@@ -37,15 +39,15 @@ private:
     bool isContinuedBy(const Stroke& stroke, double scale) const;
     void startGrowing();
     IntRect grow(std::size_t known);
-    IntRect areaFrom(std::size_t firstPoint) const;
+    IntRect boundsFrom(std::size_t firstPoint) const;
 
-    /// Points apart, since holding on to a list that grows would make it move.
+    /// Without the points: a copy that shares them would make the next append copy all of them.
     std::optional<Stroke> style_;
     std::vector<Point> points_;
     double scale_ = 0;
     std::size_t maxGrowingBytes_;
-    std::unique_ptr<IncrementalStroke> growing_;  ///< of a stroke that is drawn piece by piece
-    std::size_t curvesDrawn_ = 0;                 ///< for good
+    std::unique_ptr<IncrementalStroke> growing_;  ///< null if drawn whole
+    std::size_t curvesDrawn_ = 0;                 ///< those that further points do not change
 };
 
 }  // namespace marlevo

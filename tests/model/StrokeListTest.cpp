@@ -314,8 +314,8 @@ TEST(StrokeDifference, IsExactBetweenAnyTwoVersions) {
             return rest;
         };
         const StrokeDifference difference = StrokeDifference::between(before, after);
-        ASSERT_EQ(difference.went, only(before, after));
-        ASSERT_EQ(difference.came, only(after, before));
+        ASSERT_EQ(difference.removed, only(before, after));
+        ASSERT_EQ(difference.added, only(after, before));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "render/LayerThumbnail.h"
 
+#include "model/DrawingDocument.h"
+#include "model/ImageCache.h"
 #include "platform/BackgroundThread.h"
 #include "render/RasterCompositing.h"
 #include "tests/support/FakeImageCodec.h"
@@ -42,15 +44,16 @@ protected:
     FakeImageCodec codec;
     ManualMainQueue mainQueue;
     ManualBackgroundQueue backgroundQueue;
+    ImageCache images{&codec};
     DrawingDocument document;
     int changes = 0;
-    LayerThumbnail thumbnail{document, [this] { ++changes; }};
+    LayerThumbnail thumbnail{document.services(), images, [this] { ++changes; }};
 };
 
 TEST_F(LayerThumbnailTest, ShowsNothingUntilTheRenderIsBack) {
     draw(document, {100, 360});
     document.toggleLayerVisibility(0);
-    thumbnail.show(layer());
+    thumbnail.show(layer(), document.canvasSize);
     backgroundQueue.run();
     EXPECT_FALSE(thumbnail.cgImage());
     mainQueue.run();
@@ -62,11 +65,11 @@ TEST_F(LayerThumbnailTest, ShowsNothingUntilTheRenderIsBack) {
 }
 
 TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
-    thumbnail.show(layer());
+    thumbnail.show(layer(), document.canvasSize);
     settle();
     const auto rendersAfter = [&](auto change) {
         change();
-        thumbnail.show(layer());
+        thumbnail.show(layer(), document.canvasSize);
         const std::size_t renders = backgroundQueue.size();
         settle();
         return renders;
@@ -93,10 +96,10 @@ TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
 }
 
 TEST_F(LayerThumbnailTest, ChangesDuringARenderMakeOneMore) {
-    thumbnail.show(layer());
+    thumbnail.show(layer(), document.canvasSize);
     for (double y = 100; y < 700; y += 100) {
         draw(document, {100, y});
-        thumbnail.show(layer());
+        thumbnail.show(layer(), document.canvasSize);
         EXPECT_EQ(backgroundQueue.size(), 1);
     }
     backgroundQueue.run();
@@ -108,8 +111,9 @@ TEST_F(LayerThumbnailTest, ChangesDuringARenderMakeOneMore) {
 }
 
 TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
-    auto gone = std::make_unique<LayerThumbnail>(document, [this] { ++changes; });
-    gone->show(layer());
+    auto gone =
+        std::make_unique<LayerThumbnail>(document.services(), images, [this] { ++changes; });
+    gone->show(layer(), document.canvasSize);
     backgroundQueue.run();
     gone.reset();
     mainQueue.run();
@@ -119,9 +123,9 @@ TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
 TEST_F(LayerThumbnailTest, CanvasesOfNoExtentAreRenderedOnce) {
     document.canvasSize = CanvasSize{0, -5};
     draw(document, {10, 10});
-    thumbnail.show(layer());
+    thumbnail.show(layer(), document.canvasSize);
     settle();
-    thumbnail.show(layer());
+    thumbnail.show(layer(), document.canvasSize);
     EXPECT_EQ(backgroundQueue.size(), 0);
     EXPECT_EQ(changes, 1);
 }
@@ -130,16 +134,16 @@ TEST_F(LayerThumbnailTest, RendersWhileTheLayerIsDrawnOn) {
     BackgroundThread thread;
     DrawingDocument busy(services(thread));
     busy.ensureLayers();
-    LayerThumbnail shown(busy, {});
+    LayerThumbnail shown(busy.services(), images, {});
     for (int i = 0; i < 300; ++i) {
         draw(busy, {4.0 * i, 2.0 * i});
-        shown.show((*busy.layers)[0]);
+        shown.show((*busy.layers)[0], busy.canvasSize);
         mainQueue.run();
         if (i % 50 == 49) busy.undo();
     }
     const auto wanted = renderSingleLayer(busy, (*busy.layers)[0], {88, 64});
     while (shown.cgImage() != wanted) {
-        shown.show((*busy.layers)[0]);
+        shown.show((*busy.layers)[0], busy.canvasSize);
         mainQueue.run();
         std::this_thread::yield();
     }

@@ -1,5 +1,8 @@
 #include "render/ScreenPicture.h"
 
+#include "model/DrawingDocument.h"
+#include "model/ImageCache.h"
+#include "render/RasterCompositing.h"
 #include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
@@ -10,36 +13,39 @@
 namespace marlevo {
 namespace {
 
-std::vector<std::uint8_t> paint(ScreenPicture& picture, const DrawingDocument& document,
-                                double scale, const IntRect& area) {
+/// Has no codec: the pictures here have no images.
+ImageCache noImages(nullptr);
+
+std::vector<std::uint8_t> paint(ScreenPicture& picture, const Scene& scene, const IntRect& area) {
     std::vector<std::uint8_t> pixels(static_cast<std::size_t>(area.width()) * area.height() * 4,
                                      0xAB);
-    picture.paint(document, scale,
-                  {pixels.data(), std::ptrdiff_t{area.width()} * 4, area, PixelOrder::bgra});
+    picture.update(scene);
+    picture.paint({pixels.data(), std::ptrdiff_t{area.width()} * 4, area, PixelOrder::bgra});
     return pixels;
 }
 
-/// A view of the picture that paints again only what it is told has changed.
+/// A view that repaints only the damage of its picture.
 class View {
 public:
     explicit View(const IntRect& area)
         : area_(area), pixels_(static_cast<std::size_t>(area.width()) * area.height() * 4) {}
 
-    void showChanges(const DrawingDocument& document, double scale) {
-        if (const auto changes = picture_.takeChanges(document, scale)) {
-            for (const IntRect& change : *changes)
-                paintPart(document, scale, change.intersectedWith(area_));
+    void showChanges(const Scene& scene) {
+        picture_.update(scene);
+        if (const auto damage = picture_.takeDamage()) {
+            for (const IntRect& area : *damage)
+                paintPart(scene, area.intersectedWith(area_));
         } else {
-            paintPart(document, scale, area_);
+            paintPart(scene, area_);
         }
     }
 
-    void paintPart(const DrawingDocument& document, double scale, const IntRect& part) {
+    void paintPart(const Scene& scene, const IntRect& part) {
         if (part.isEmpty()) return;
+        picture_.update(scene);
         const PixelBuffer whole{pixels_.data(), std::ptrdiff_t{area_.width()} * 4, area_,
                                 PixelOrder::bgra};
-        picture_.paint(document, scale,
-                       {whole.pixel(part.left, part.top), whole.stride, part, whole.order});
+        picture_.paint({whole.pixel(part.left, part.top), whole.stride, part, whole.order});
     }
 
     ScreenPicture& picture() { return picture_; }
@@ -48,7 +54,7 @@ public:
 private:
     IntRect area_;
     std::vector<std::uint8_t> pixels_;
-    ScreenPicture picture_;
+    ScreenPicture picture_{noImages};
 };
 
 void extendCurrentStroke(DrawingDocument& document, Point to) {
@@ -159,7 +165,7 @@ private:
 
 TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
     RandomEditor editor(11);
-    ScreenPicture kept;
+    ScreenPicture kept(noImages);
     for (int step = 0; step < 260; ++step) {
         // Towards the end the view goes to and fro, while the picture changes now and then.
         const bool isZooming = step >= 140;
@@ -167,10 +173,9 @@ TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
         const double scale = isZooming ? 0.5 + 0.5 * editor.below(3) : 1;
         const IntRect area{editor.below(300), editor.below(200), 350 + editor.below(350),
                            250 + editor.below(250)};
-        ScreenPicture fresh;
-        ASSERT_EQ(paint(kept, editor.document, scale, area),
-                  paint(fresh, editor.document, scale, area))
-            << step;
+        ScreenPicture fresh(noImages);
+        const Scene scene = sceneOf(editor.document, scale);
+        ASSERT_EQ(paint(kept, scene, area), paint(fresh, scene, area)) << step;
     }
 }
 
@@ -184,11 +189,12 @@ TEST(ScreenPicture, PaintingOnlyWhatIsSaidToHaveChangedShowsThePicture) {
             editor.change();
         const double scale = isZooming && editor.below(3) == 0 ? 0.7 : 1;
         // The window system may ask for a part before the changes are looked at.
-        if (editor.below(4) == 0) view.paintPart(editor.document, scale, {100, 100, 300, 200});
+        const Scene scene = sceneOf(editor.document, scale);
+        if (editor.below(4) == 0) view.paintPart(scene, {100, 100, 300, 200});
         if (editor.below(50) == 0) view.picture().releaseMemory();
-        view.showChanges(editor.document, scale);
-        ScreenPicture fresh;
-        ASSERT_EQ(view.pixels(), paint(fresh, editor.document, scale, area)) << step;
+        view.showChanges(scene);
+        ScreenPicture fresh(noImages);
+        ASSERT_EQ(view.pixels(), paint(fresh, scene, area)) << step;
     }
 }
 
@@ -196,14 +202,15 @@ TEST(ScreenPicture, SaysThatLittleChangedWhenLittleDid) {
     DrawingDocument document;
     document.canvasSize = CanvasSize{2000, 1000};
     document.ensureLayers();
-    ScreenPicture picture;
-    paint(picture, document, 1, {0, 0, 2000, 1000});
-    picture.takeChanges(document, 1);
+    ScreenPicture picture(noImages);
+    paint(picture, sceneOf(document, 1), {0, 0, 2000, 1000});
+    picture.takeDamage();
     const auto changedPixels = [&] {
         int sum = 0;
-        if (const auto changes = picture.takeChanges(document, 1)) {
-            for (const IntRect& change : *changes)
-                sum += change.width() * change.height();
+        picture.update(sceneOf(document, 1));
+        if (const auto damage = picture.takeDamage()) {
+            for (const IntRect& area : *damage)
+                sum += area.width() * area.height();
         } else {
             ADD_FAILURE() << "everything changed";
         }

@@ -1,7 +1,7 @@
 #include "render/StrokeInProgress.h"
 
 #include "graphics/BitmapContext.h"
-#include "render/DrawOnScreen.h"
+#include "render/StrokePainting.h"
 #include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +43,7 @@ private:
 Picture drawnWhole(const Stroke& stroke, double scale) {
     Picture picture;
     BitmapContext context(picture.part(sight), DeviceFrame::yDown(scale));
-    drawOnScreen(context, stroke);
+    drawStrokeOnScreen(context, stroke);
     return picture;
 }
 
@@ -91,7 +91,7 @@ TEST(StrokeInProgress, ShowsAtEachMomentWhatDrawingItWholeWould) {
         StrokeInProgress inProgress;
         Picture shown;
         for (int step = 0; step < 50; ++step) {
-            const auto changed = inProgress.update(stroke, scale).intersectedWith(sight);
+            const auto changed = inProgress.update(&stroke, scale).intersectedWith(sight);
             if (!changed.isEmpty()) {
                 shown.clean(changed);
                 inProgress.paint(shown.part(changed));
@@ -107,7 +107,7 @@ TEST(StrokeInProgress, ShowsAtEachMomentWhatDrawingItWholeWould) {
 TEST(StrokeInProgress, KnowsAnotherStrokeFromALongerOne) {
     StrokeInProgress inProgress;
     const auto verify = [&](const Stroke& stroke, double scale) {
-        inProgress.update(stroke, scale);
+        inProgress.update(&stroke, scale);
         Picture shown;
         inProgress.paint(shown.part(sight));
         EXPECT_EQ(shown, drawnWhole(stroke, scale));
@@ -119,10 +119,10 @@ TEST(StrokeInProgress, KnowsAnotherStrokeFromALongerOne) {
         verify(makeStroke({{10, 10}, {60, 31}, {90, 90}, {100, 120}}, width + 1), 1.5);
         verify(makeStroke({{10, 10}, {60, 31}, {90, 90}}, width + 1), 1.5);
     }
-    const IntRect gone = inProgress.update(std::nullopt, 1.5);
+    const IntRect gone = inProgress.update(nullptr, 1.5);
     EXPECT_LE(gone.left, -20);
     EXPECT_GE(gone.bottom, 170);
-    EXPECT_EQ(inProgress.update(std::nullopt, 1.5), IntRect{});
+    EXPECT_EQ(inProgress.update(nullptr, 1.5), IntRect{});
 }
 
 TEST(StrokeInProgress, IsDrawnWholeBeyondItsBounds) {
@@ -131,8 +131,8 @@ TEST(StrokeInProgress, IsDrawnWholeBeyondItsBounds) {
         StrokeInProgress unbounded;
         Stroke stroke = makeStroke({{10, 10}, {60, 30}}, width);
         const auto update = [&] {
-            unbounded.update(stroke, 1);
-            bounded.update(stroke, 1);
+            unbounded.update(&stroke, 1);
+            bounded.update(&stroke, 1);
             Picture shown;
             bounded.paint(shown.part(sight));
             EXPECT_EQ(shown, drawnWhole(stroke, 1));
@@ -160,10 +160,10 @@ TEST(StrokeInProgress, StrangePointsNeverHurt) {
             Stroke stroke = makeStroke({{10, 10}, {60, 30}}, width);
             StrokeInProgress inProgress;
             for (const Point p : {strange, Point{100, 100}, Point{120, 90}}) {
-                inProgress.update(stroke, 1);
+                inProgress.update(&stroke, 1);
                 stroke.points.append(p);
             }
-            inProgress.update(stroke, 1);
+            inProgress.update(&stroke, 1);
             Picture shown;
             inProgress.paint(shown.part(sight));
             EXPECT_EQ(shown, drawnWhole(stroke, 1));

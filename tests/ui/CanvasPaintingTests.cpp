@@ -92,11 +92,13 @@ private Q_SLOTS:
 
             const QImage seen = s.shot();
             QImage expected(seen.size(), QImage::Format_ARGB32_Premultiplied);
-            ScreenPicture().paint(s.document, scale,
-                                  {expected.bits(),
-                                   expected.bytesPerLine(),
-                                   {0, 0, expected.width(), expected.height()},
-                                   PixelOrder::bgra});
+            ImageCache images(nullptr);
+            ScreenPicture picture(images);
+            picture.update(sceneOf(s.document, scale));
+            picture.paint({expected.bits(),
+                           expected.bytesPerLine(),
+                           {0, 0, expected.width(), expected.height()},
+                           PixelOrder::bgra});
             // Inside the rounded corners and the edges that may end within a pixel.
             const QRect inside = seen.rect().adjusted(4, 4, -4, -4);
             QVERIFY(seen.copy(inside) ==

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ImageCache.h"
 #include "tests/support/FakeServices.h"
 #include "tests/support/ManualQueue.h"
 #include "tests/ui/MarlevoLook.h"
@@ -21,8 +22,9 @@ struct SidebarSetting {
     ManualBackgroundQueue backgroundQueue;
     DrawingDocument document{Services{
         .mainQueue = &mainQueue, .filePanels = &panels, .backgroundQueue = &backgroundQueue}};
+    ImageCache images{nullptr};
     QWidget window;
-    SidebarView* sidebar = new SidebarView(document);
+    SidebarView* sidebar = new SidebarView(document, images);
     QWidget* field = new QWidget;
 
     SidebarSetting() {

@@ -36,8 +36,11 @@ QRectF eyeDropperPlace(const QRectF& canvas) {
 
 CanvasOverlay::CanvasOverlay(const DrawingDocument& document)
     : hasEyeDropper_(document.isEyeDropper) {
-    if (const auto rect = selectedStrokeBoundingRect(document))
-        outline_ = Outline{*rect, selectionOutlineOpacity(document)};
+    const auto rect = selectedStrokeBoundingRect(document);
+    if (!rect) return;
+    const std::optional<Stroke>& stroke = document.currentStroke;
+    outline_ =
+        Outline{*rect, selectionOutlineOpacity(document.layers, stroke ? &*stroke : nullptr)};
 }
 
 void CanvasOverlay::paintOutline(QImage& part, QPoint origin, double scale) const {

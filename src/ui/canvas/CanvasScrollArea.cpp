@@ -38,8 +38,8 @@ int start(int length, int room, const QScrollBar& bar) {
 
 }  // namespace
 
-CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, QWidget* parent)
-    : QAbstractScrollArea(parent), document_(document), view_(document, viewport()),
+CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, ImageCache& images, QWidget* parent)
+    : QAbstractScrollArea(parent), document_(document), view_(document, images, viewport()),
       layoutFollower_(document.changeRegistry(), [this] { layOut(); }),
       descriptionChanges_(document, view_), focusRing_(this) {
     setFrameShape(QFrame::NoFrame);

@@ -9,6 +9,7 @@
 namespace marlevo {
 
 class DrawingDocument;
+class ImageCache;
 
 /// The canvas on its desk: scrolls in both directions, centres a canvas smaller than itself, and
 /// draws the canvas's shadow.
@@ -20,8 +21,8 @@ public:
     /// leaves beside it, so that a canvas that was fitted needs no scrolling.
     static constexpr int margin = 12;
 
-    /// The document must outlive the area.
-    explicit CanvasScrollArea(DrawingDocument& document, QWidget* parent = nullptr);
+    /// The document and the cache must outlive the area.
+    CanvasScrollArea(DrawingDocument& document, ImageCache& images, QWidget* parent = nullptr);
 
     CanvasView& view() { return view_; }
 

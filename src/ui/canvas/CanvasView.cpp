@@ -1,6 +1,7 @@
 #include "ui/canvas/CanvasView.h"
 
 #include "platform/qt/QtItemProviders.h"
+#include "render/RasterCompositing.h"
 #include "ui/canvas/CanvasAccessibility.h"
 #include "ui/canvas/DisplaySize.h"
 #include "ui/canvas/PixelConversions.h"
@@ -36,8 +37,8 @@ void acceptCopy(QDropEvent& event) {
 
 }  // namespace
 
-CanvasView::CanvasView(DrawingDocument& document, QWidget* parent)
-    : QWidget(parent), document_(document), gesture_(document),
+CanvasView::CanvasView(DrawingDocument& document, ImageCache& images, QWidget* parent)
+    : QWidget(parent), document_(document), picture_(images), gesture_(document),
       releaseWatch_(*this, [this] { interruptGesture(); }), imageDrop_(document),
       reader_(document.changeRegistry(), [this](DocumentProperty property) { follow(property); }),
       pointerShape_(document.changeRegistry(), [this] { showPointerOfTool(); }) {
@@ -69,8 +70,9 @@ void CanvasView::follow(DocumentProperty property) {
 void CanvasView::updateWhatChanged() {
     isChangeAnnounced_ = false;
     reader_.observe([&] {
-        if (const auto changes = picture_.takeChanges(document_, deviceScale())) {
-            for (const IntRect& area : *changes)
+        picture_.update(sceneOf(document_, deviceScale()));
+        if (const auto damage = picture_.takeDamage()) {
+            for (const IntRect& area : *damage)
                 updateDevicePixels(toQRect(area));
         } else {
             update();
@@ -106,15 +108,16 @@ void CanvasView::updateDevicePixels(const QRectF& area) {
 void CanvasView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const DevicePixels pixels(painter, QPointF(0, 0));
-    picture_.prepare(document_, deviceScale(), toIntRect(pixels.touchedBy(event->rect())));
+    picture_.update(sceneOf(document_, deviceScale()));
+    picture_.prepare(toIntRect(pixels.touchedBy(event->rect())));
     const bool hasDesk = testAttribute(Qt::WA_OpaquePaintEvent);
     for (const QRect& exposed : event->region()) {
         if (hasDesk) painter.fillRect(exposed, palette().window());
         paintPicture(pixels, exposed);
     }
     CanvasOverlay(document_).paintEyeDropper(painter, QRectF(rect()));
-    if (picture_.cachedBytes() > ScreenPicture::maxCachedBytes)
-        picture_.limitMemory(toIntRect(pixels.touchedBy(visibleRegion().boundingRect())));
+    if (picture_.hasTilesToEvict())
+        picture_.evictTiles(toIntRect(pixels.touchedBy(visibleRegion().boundingRect())));
 }
 
 void CanvasView::paintPicture(const DevicePixels& pixels, const QRect& exposed) {
@@ -129,7 +132,7 @@ void CanvasView::paintPicture(const DevicePixels& pixels, const QRect& exposed) 
     QImage frame(frame_.data(), part.width(), part.height(), qsizetype(part.width()) * 4,
                  QImage::Format_ARGB32_Premultiplied);
 
-    picture_.paint(document_, deviceScale(), pixelsOf(frame, part.topLeft()));
+    picture_.paint(pixelsOf(frame, part.topLeft()));
     CanvasOverlay(document_).paintOutline(frame, part.topLeft(), deviceScale());
     clipToRoundedRect(frame, part.topLeft(), size, cornerRadius * ratio);
     pixels.drawImage(part.topLeft(), frame);

@@ -27,8 +27,8 @@ class CanvasView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document must outlive the view.
-    explicit CanvasView(DrawingDocument& document, QWidget* parent = nullptr);
+    /// The document and the cache must outlive the view.
+    CanvasView(DrawingDocument& document, ImageCache& images, QWidget* parent = nullptr);
 
     const DrawingDocument& document() const { return document_; }
 

@@ -31,8 +31,9 @@ void EyeButton::showLayer(const QString& name, bool isVisible) {
     setIcon(isVisible ? makeIcon(Icon::eye) : makeIcon(Icon::eyeSlash, SemanticColor::tertiary));
 }
 
-LayerRow::LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget* parent)
-    : ChoiceButton(Look::listRow, {}, parent), layerID_(layerID), thumbnail_(document),
+LayerRow::LayerRow(const Services& services, ImageCache& images, const Uuid& layerID,
+                   QWidget* parent)
+    : ChoiceButton(Look::listRow, {}, parent), layerID_(layerID), thumbnail_(services, images),
       name_({}, {TypeStyle::callout}) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(sidePadding, verticalPadding, sidePadding, verticalPadding);
@@ -45,11 +46,11 @@ LayerRow::LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget
     connect(&eye_, &EyeButton::clicked, this, &LayerRow::visibilityToggled);
 }
 
-void LayerRow::showLayer(const Layer& layer, bool isActive) {
+void LayerRow::showLayer(const Layer& layer, CanvasSize canvas, bool isActive) {
     const QString name = QString::fromStdString(layer.name);
     setAccessibleName(name);
     name_.setText(name);
-    thumbnail_.showLayer(layer, isActive);
+    thumbnail_.showLayer(layer, canvas, isActive);
     eye_.showLayer(name, layer.isVisible);
     if (isActive == this->isActive()) return;
     setActive(isActive);

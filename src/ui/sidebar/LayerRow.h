@@ -6,8 +6,6 @@
 
 namespace marlevo {
 
-class DrawingDocument;
-
 /// The button with an eye that shows and hides a layer.
 class EyeButton final : public ToolButton {
     Q_OBJECT
@@ -27,12 +25,13 @@ class LayerRow final : public ChoiceButton {
     Q_OBJECT
 
 public:
-    /// For a layer of the document, which must outlive the row.
-    LayerRow(const DrawingDocument& document, const Uuid& layerID, QWidget* parent = nullptr);
+    /// The services and the cache must outlive the row.
+    LayerRow(const Services& services, ImageCache& images, const Uuid& layerID,
+             QWidget* parent = nullptr);
 
     const Uuid& layerID() const { return layerID_; }
 
-    void showLayer(const Layer& layer, bool isActive);
+    void showLayer(const Layer& layer, CanvasSize canvas, bool isActive);
 
     /// Makes the row and its eye follow a widget, if any, when the user tabs; returns the last of
     /// them.

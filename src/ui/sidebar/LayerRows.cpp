@@ -24,8 +24,8 @@ QWidget* stopBefore(const QWidget& area) {
 
 }  // namespace
 
-LayerRows::LayerRows(DrawingDocument& document, QWidget* parent)
-    : QWidget(parent), document_(document), layout_(new QVBoxLayout(this)),
+LayerRows::LayerRows(DrawingDocument& document, ImageCache& images, QWidget* parent)
+    : QWidget(parent), document_(document), images_(images), layout_(new QVBoxLayout(this)),
       follower_(document.changeRegistry(), [this] { showLayers(); }) {
     installSidebarAccessibility();
     setAccessibleName(tr("Layers"));
@@ -37,10 +37,9 @@ void LayerRows::showLayers() {
     matchRows();
     const LayerList& layers = document_.layers;
     const std::int64_t active = document_.activeLayerIndex;
-    // The thumbnails show the canvas stretched, also those that are not on screen yet.
-    (void)document_.canvasSize.get();
+    const CanvasSize canvas = document_.canvasSize;
     for (std::int64_t index = 0; index < std::ssize(layers); ++index)
-        rows_[rows_.size() - 1 - index]->showLayer(layers[index], index == active);
+        rows_[rows_.size() - 1 - index]->showLayer(layers[index], canvas, index == active);
 }
 
 /// Makes one row for each layer. A layer keeps its row, and so its thumbnail, when it moves.
@@ -72,7 +71,7 @@ void LayerRows::matchRows() {
 }
 
 LayerRow* LayerRows::makeRow(const Uuid& layerID) {
-    auto* row = new LayerRow(document_, layerID, this);
+    auto* row = new LayerRow(document_.services(), images_, layerID, this);
     connect(row, &LayerRow::chosen, this,
             [this, row] { document_.activeLayerIndex = indexOf(*row); });
     connect(row, &LayerRow::visibilityToggled, this,

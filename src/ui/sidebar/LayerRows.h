@@ -10,14 +10,15 @@
 namespace marlevo {
 
 class DrawingDocument;
+class ImageCache;
 
 /// The list of layers, the top one first.
 class LayerRows final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document must outlive the list.
-    explicit LayerRows(DrawingDocument& document, QWidget* parent = nullptr);
+    /// The document and the cache must outlive the list.
+    LayerRows(DrawingDocument& document, ImageCache& images, QWidget* parent = nullptr);
 
     /// As listed: the highest layer first.
     const std::vector<LayerRow*>& rows() const { return rows_; }
@@ -30,6 +31,7 @@ private:
     std::int64_t indexOf(const LayerRow& row) const;
 
     DrawingDocument& document_;
+    ImageCache& images_;
     QVBoxLayout* layout_;
     std::vector<LayerRow*> rows_;
     Follower follower_;

@@ -17,23 +17,25 @@ constexpr double radius = 4;
 
 }  // namespace
 
-LayerThumbnailView::LayerThumbnailView(const DrawingDocument& document, QWidget* parent)
-    : QWidget(parent), thumbnail_(document, [this] { update(); }) {
+LayerThumbnailView::LayerThumbnailView(const Services& services, ImageCache& images,
+                                       QWidget* parent)
+    : QWidget(parent), thumbnail_(services, images, [this] { update(); }) {
     installSidebarAccessibility();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void LayerThumbnailView::showLayer(const Layer& layer, bool isActive) {
+void LayerThumbnailView::showLayer(const Layer& layer, CanvasSize canvas, bool isActive) {
     layer_ = layer;
+    canvas_ = canvas;
     isActive_ = isActive;
     setAccessibleName(tr("Thumbnail: %1").arg(QString::fromStdString(layer.name)));
-    if (isVisible()) thumbnail_.show(layer);
+    if (isVisible()) thumbnail_.show(layer, canvas);
     update();
 }
 
 void LayerThumbnailView::showEvent(QShowEvent*) {
-    if (layer_) thumbnail_.show(*layer_);
+    if (layer_) thumbnail_.show(*layer_, canvas_);
 }
 
 QSize LayerThumbnailView::sizeHint() const { return frame; }

@@ -8,19 +8,17 @@
 
 namespace marlevo {
 
-class DrawingDocument;
-
 /// Shows a layer's small picture in a frame of 44 × 32 points. Nothing is rendered while it is not
 /// on screen.
 class LayerThumbnailView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document must outlive the view.
-    explicit LayerThumbnailView(const DrawingDocument& document, QWidget* parent = nullptr);
+    /// The services and the cache must outlive the view.
+    LayerThumbnailView(const Services& services, ImageCache& images, QWidget* parent = nullptr);
 
     /// To be told whenever the layer or the canvas may have changed.
-    void showLayer(const Layer& layer, bool isActive);
+    void showLayer(const Layer& layer, CanvasSize canvas, bool isActive);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -32,6 +30,7 @@ protected:
 private:
     LayerThumbnail thumbnail_;
     std::optional<Layer> layer_;
+    CanvasSize canvas_;
     bool isActive_ = false;
 };
 

@@ -16,8 +16,8 @@ constexpr int listSpacing = 8;
 
 }  // namespace
 
-LayersSection::LayersSection(DrawingDocument& document, QWidget* parent)
-    : QWidget(parent), document_(document), rows_(document),
+LayersSection::LayersSection(DrawingDocument& document, ImageCache& images, QWidget* parent)
+    : QWidget(parent), document_(document), rows_(document, images),
       add_(Icon::plus, tr("Add layer"), IconButton::Look::bordered),
       delete_(Icon::minus, tr("Delete layer"), IconButton::Look::bordered),
       moveUp_(Icon::arrowUp, tr("Move layer up"), IconButton::Look::bordered),

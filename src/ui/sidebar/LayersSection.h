@@ -7,14 +7,15 @@
 namespace marlevo {
 
 class DrawingDocument;
+class ImageCache;
 
 /// The list of layers and the buttons that change it.
 class LayersSection final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document must outlive the section.
-    explicit LayersSection(DrawingDocument& document, QWidget* parent = nullptr);
+    /// The document and the cache must outlive the section.
+    LayersSection(DrawingDocument& document, ImageCache& images, QWidget* parent = nullptr);
 
 private:
     void showButtons();

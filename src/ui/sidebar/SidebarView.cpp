@@ -28,7 +28,7 @@ constexpr int separatorPadding = 2;
 
 }  // namespace
 
-SidebarView::SidebarView(DrawingDocument& document, QWidget* parent)
+SidebarView::SidebarView(DrawingDocument& document, ImageCache& images, QWidget* parent)
     : QScrollArea(parent), column_(new QWidget) {
     setFrameShape(NoFrame);
     setWidgetResizable(true);
@@ -36,7 +36,7 @@ SidebarView::SidebarView(DrawingDocument& document, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setAutoFillBackground(true);
     setAccessibleName(tr("Sidebar"));
-    addSections(document);
+    addSections(document, images);
     setWidget(column_);
     updateColors();
     connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
@@ -45,7 +45,7 @@ SidebarView::SidebarView(DrawingDocument& document, QWidget* parent)
     makeRoomForScrollBar();
 }
 
-void SidebarView::addSections(DrawingDocument& document) {
+void SidebarView::addSections(DrawingDocument& document, ImageCache& images) {
     using Start = DisclosureSection::Start;
     auto* column = new QVBoxLayout(column_);
     column->setSpacing(spacing);
@@ -60,7 +60,7 @@ void SidebarView::addSections(DrawingDocument& document) {
     column->addWidget(new Separator(separatorPadding));
     column->addWidget(new DisclosureSection(
         tr("Layers"), {new SectionHeader(tr("Layers")), new LayerCount(document)},
-        new LayersSection(document), Start::closed));
+        new LayersSection(document, images), Start::closed));
     column->addStretch(1);
 }
 

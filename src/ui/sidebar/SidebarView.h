@@ -6,6 +6,8 @@
 
 namespace marlevo {
 
+class ImageCache;
+
 /// The column beside the canvas with everything that is set before drawing, the actions on the
 /// document and its layers. Every control shows what the document says and changes nothing else;
 /// which sections are open is the view's own.
@@ -18,8 +20,8 @@ public:
     static constexpr int idealWidth = 220;
     static constexpr int greatestWidth = 280;
 
-    /// The document must outlive the view.
-    explicit SidebarView(DrawingDocument& document, QWidget* parent = nullptr);
+    /// The document and the cache, for its thumbnails, must outlive the view.
+    SidebarView(DrawingDocument& document, ImageCache& images, QWidget* parent = nullptr);
 
     /// As wide as the content needs, within the limits.
     QSize sizeHint() const override;
@@ -30,7 +32,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addSections(DrawingDocument& document);
+    void addSections(DrawingDocument& document, ImageCache& images);
     void updateColors();
     void makeRoomForScrollBar();
 

@@ -27,7 +27,8 @@ QSize contentSize(const QWidget& window) {
 }  // namespace
 
 ContentView::ContentView(const Services& services, NotificationCenter& notifications)
-    : document_(services), columns_(this), sidebar_(document_, this), canvas_(document_, this),
+    : images_(services.imageCodec), document_(services, &images_), columns_(this),
+      sidebar_(document_, images_, this), canvas_(document_, images_, this),
       statusBar_(
           document_, [this] { fitToWindow(); }, this),
       closeGuard_(document_), titleUpdater_(document_, *this, [this] { return windowTitle(); }),

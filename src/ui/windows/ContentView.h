@@ -2,6 +2,7 @@
 
 #include "io/AutoSave.h"
 #include "model/DrawingDocument.h"
+#include "model/ImageCache.h"
 #include "platform/NotificationCenter.h"
 #include "ui/canvas/CanvasScrollArea.h"
 #include "ui/canvas/StatusBar.h"
@@ -57,7 +58,8 @@ private:
     void layOut();
     void firstShown();
 
-    // What shows the document comes after it, so that it goes before it.
+    // The views are declared after the document and the cache and so are destroyed before them.
+    ImageCache images_;
     DrawingDocument document_;
     QSplitter columns_;
     SidebarView sidebar_;

@@ -10,18 +10,18 @@
 
 namespace marlevo {
 
-/// What a pen may touch beyond half its width, in device pixels: anti-aliasing, and hairlines,
-/// which are drawn wider than they are.
+/// How far a pen may reach beyond half its width, in device pixels: by anti-aliasing, and because
+/// hairlines are drawn wider than they are.
 inline constexpr double penFringe = 1.5;
 
-/// Device pixels as an area of the canvas, `scale` of them a canvas pixel.
+/// An area of device pixels in canvas pixels; `scale` is device pixels per canvas pixel.
 inline Rect onCanvas(const IntRect& area, double scale) {
     return {{area.left / scale, area.top / scale}, {area.width() / scale, area.height() / scale}};
 }
 
-/// The device pixels that may change when something with these point bounds and pen width is drawn
-/// at `scale` device pixels a canvas pixel. Bounds that are no numbers may change everything.
-inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {
+/// The device pixels that a mark with these bounds of its points and this pen width, both in canvas
+/// pixels, may change at `scale` device pixels per canvas pixel. Everything if a bound is NaN.
+inline IntRect deviceBounds(const Rect& bounds, double lineWidth, double scale) {
     constexpr double farthest = 1 << 30;
     const double margin = std::max(lineWidth, 0.0) / 2 * scale + penFringe;
     const auto low = [&](double edge) {
@@ -35,15 +35,15 @@ inline IntRect paintedArea(const Rect& bounds, double lineWidth, double scale) {
     return {low(bounds.minX()), low(bounds.minY()), high(bounds.maxX()), high(bounds.maxY())};
 }
 
-/// The same for what paints within a box.
-inline IntRect paintedArea(const Box& box, double scale) {
+/// The same for a mark that paints inside a box.
+inline IntRect deviceBounds(const Box& box, double scale) {
     const double left = box.minX;
     const double top = box.minY;
-    return paintedArea({{left, top}, {box.maxX - left, box.maxY - top}}, 0, scale);
+    return deviceBounds({{left, top}, {box.maxX - left, box.maxY - top}}, 0, scale);
 }
 
-inline IntRect paintedArea(const Stroke& stroke, double scale) {
-    return paintedArea(stroke.boundingRect(), stroke.lineWidth, scale);
+inline IntRect deviceBounds(const Stroke& stroke, double scale) {
+    return deviceBounds(stroke.boundingRect(), stroke.lineWidth, scale);
 }
 
 }  // namespace marlevo

@@ -1,4 +1,4 @@
-#include "model/DecodedImages.h"
+#include "model/ImageCache.h"
 
 #include "model/LayerList.h"
 #include "tests/support/FakeImageCodec.h"
@@ -26,9 +26,9 @@ Layer imageLayer(std::uint8_t shade) {
     return layer;
 }
 
-TEST(DecodedImages, DecodesAheadWhatIsSeenAndEachFileOnce) {
+TEST(ImageCache, DecodesAheadWhatIsSeenAndEachFileOnce) {
     const CountingCodec codec;
-    DecodedImages images(&codec);
+    ImageCache images(&codec);
     LayerList layers;
     for (std::uint8_t shade = 0; shade < 7; ++shade)
         layers.push_back(imageLayer(shade));
@@ -53,10 +53,10 @@ TEST(DecodedImages, DecodesAheadWhatIsSeenAndEachFileOnce) {
     EXPECT_EQ(codec.decoded, 7);
 
     layers[0].isVisible = false;
-    images.keepOnly(layers);
+    images.retainOnly(layers);
     EXPECT_FALSE(images.known(*layers[0].imageData));
     EXPECT_TRUE(images.known(*layers[1].imageData));
-    EXPECT_EQ(DecodedImages(nullptr).image(*layers[1].imageData), std::nullopt);
+    EXPECT_EQ(ImageCache(nullptr).image(*layers[1].imageData), std::nullopt);
 }
 
 }  // namespace

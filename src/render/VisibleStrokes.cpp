@@ -1,7 +1,7 @@
-#include "render/StrokesInSight.h"
+#include "render/VisibleStrokes.h"
 
 #include "graphics/FrontToBackContext.h"
-#include "render/PaintedArea.h"
+#include "render/DeviceBounds.h"
 
 #include <cstddef>
 
@@ -9,17 +9,17 @@ namespace marlevo {
 
 namespace {
 
-/// Fewer strokes are drawn faster as they come.
+/// Fewer strokes are drawn faster from the lowest to the topmost.
 constexpr std::size_t leastInReverse = 64;
 
-/// A sample of so many of the topmost strokes tells whether all lie in several layers over each
-/// other; where they do not, holding them costs more than it spares.
+/// The topmost strokes, 1 in `partOfSample`, are drawn first. If they leave more than this share of
+/// the pixels visible, the strokes overlap little, and recording them takes longer than it saves.
 constexpr std::size_t partOfSample = 16;
 constexpr double mostOpenAfterSample = 0.7;
 
 }  // namespace
 
-StrokesInSight::StrokesInSight(const LayerRun& run, const IntRect& area, double scale)
+VisibleStrokes::VisibleStrokes(const LayerRun& run, const IntRect& area, double scale)
     : scale_(scale) {
     for (const Layer* layer : run.layers) {
         layer->strokes.visitNear(onCanvas(area, scale), penFringe / scale,
@@ -30,7 +30,7 @@ StrokesInSight::StrokesInSight(const LayerRun& run, const IntRect& area, double 
     }
 }
 
-void StrokesInSight::draw(BitmapContext& context, const DrawStroke& drawStroke) const {
+void VisibleStrokes::draw(BitmapContext& context, const DrawStroke& drawStroke) const {
     const Box near = Box::around(onCanvas(context.area(), scale_), penFringe / scale_);
     std::vector<const Found*> strokes;
     for (const Found& each : found_)
@@ -48,7 +48,7 @@ void StrokesInSight::draw(BitmapContext& context, const DrawStroke& drawStroke) 
     while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
         if (below == sampled && fromTop.visibleShare() > mostOpenAfterSample) break;
         const Found& next = *strokes[--below];
-        if (!fromTop.hides(paintedArea(next.box, scale_))) drawStroke(fromTop, *next.stroke);
+        if (!fromTop.hides(deviceBounds(next.box, scale_))) drawStroke(fromTop, *next.stroke);
     }
     if (!fromTop.hidesAll()) drawBelow();
     fromTop.flush();

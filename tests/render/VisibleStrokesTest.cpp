@@ -1,6 +1,6 @@
-#include "render/StrokesInSight.h"
+#include "render/VisibleStrokes.h"
 
-#include "render/DrawOnScreen.h"
+#include "render/StrokePainting.h"
 #include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
@@ -61,23 +61,23 @@ std::size_t drawInParts(const Layer& layer, double scale, const std::vector<IntR
     Picture expected(whole);
     BitmapContext plain(expected.pixels(), DeviceFrame::yDown(scale));
     for (const Stroke& stroke : layer.strokes)
-        drawOnScreen(plain, stroke);
+        drawStrokeOnScreen(plain, stroke);
 
     Picture picture(whole);
     std::size_t drawn = 0;
-    const StrokesInSight strokes({{&layer}, {}}, whole, scale);
+    const VisibleStrokes strokes({{&layer}, {}}, whole, scale);
     for (const IntRect& part : parts) {
         BitmapContext context(picture.pixels().part(part), DeviceFrame::yDown(scale));
         strokes.draw(context, [&](GraphicsContext& to, const Stroke& stroke) {
             ++drawn;
-            drawOnScreen(to, stroke);
+            drawStrokeOnScreen(to, stroke);
         });
     }
     EXPECT_TRUE(picture.bytes == expected.bytes) << "in " << parts.size() << " parts";
     return drawn;
 }
 
-TEST(StrokesInSight, GiveThePictureOfAllStrokesAndSpareTheHiddenOnes) {
+TEST(VisibleStrokes, GiveThePictureOfAllStrokesAndSpareTheHiddenOnes) {
     struct Case {
         int count;
         int oddOnes;
@@ -102,7 +102,7 @@ TEST(StrokesInSight, GiveThePictureOfAllStrokesAndSpareTheHiddenOnes) {
 }
 
 /// Their distances are found in several bands of rows.
-TEST(StrokesInSight, MaySpanLargeParts) {
+TEST(VisibleStrokes, MaySpanLargeParts) {
     for (const double opacity : {1.0, 0.5}) {
         std::mt19937 random(7);
         std::uniform_real_distribution<double> x(-40, 1700);
