@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWindow>
 
 #include <algorithm>
 
