@@ -41,7 +41,7 @@ struct MaskSink {
 /// pixels that it covers fully. Refers to objects of the caller.
 struct RecordSink {
     IntRect bounds;
-    bool isOpaque;
+    bool isOpaque = false;
     OcclusionMask& occlusion;
     std::vector<CoverageBlock>& blocks;
 

@@ -51,7 +51,7 @@ HWY_EXPORT(drain);
 void DistanceField::reset(const IntRect& area) {
     grid_.reset(area);
     if (blocks_.size() >= grid_.blockCount()) return;
-    Block block;
+    Block block{};
     std::fill(std::begin(block.squares), std::end(block.squares), untouched);
     blocks_.resize(grid_.blockCount(), block);
 }
