@@ -36,8 +36,8 @@ std::optional<RasterImage> QtImageCodec::decode(std::span<const std::uint8_t> fi
     QImageReader reader(&device);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    // From the file's header, before there is memory for a pixel. Where a format does not tell, the
-    // allocation limit holds.
+    // The size in the file's header, before memory is allocated. For formats without one the
+    // allocation limit applies.
     if (exceedsLimit(reader.size())) return std::nullopt;
 
     QImage image = reader.read();

@@ -6,11 +6,12 @@ namespace marlevo {
 
 /// Image files through Qt's readers and writers, with the plug-ins that are installed.
 ///
-/// Decoding converts pictures with a colour profile of their own to sRGB; of an animation it gives
-/// the first picture. It prints nothing.
-/// Encoding: PNG and TIFF keep every pixel, transparency included; JPEG (quality 90, colour at half
-/// resolution, which is all that Qt's writer offers) and BMP know no transparency, so there the
-/// picture is laid on white.
+/// Decoding converts pictures with another colour profile to sRGB, and decodes only the first
+/// picture of an animation. It prints nothing.
+///
+/// Encoding: PNG and TIFF keep all pixels with their transparency. JPEG and BMP have no
+/// transparency, so the picture is put on white. JPEG has quality 90 and colour at half resolution:
+/// Qt's writer offers no other.
 class QtImageCodec final : public ImageCodec {
 public:
     /// Raises Qt's process-wide limit of memory for one decoded picture to `maxDecodedPixels`. The
