@@ -57,7 +57,7 @@ private Q_SLOTS:
         RunningApp s;
         s.document.zoom = 0.49375;
         auto& slider = control<ContinuousSlider>(s.window, "Zoom");
-        QCOMPARE(slider.value(), 0.49375);
+        QCOMPARE(slider.realValue(), 0.49375);
         QCOMPARE(s.document.zoom.get(), 0.49375);
         slider.moveTo(7);
         QCOMPARE(s.document.zoom.get(), maxZoom);

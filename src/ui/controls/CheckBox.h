@@ -8,13 +8,13 @@
 
 namespace marlevo {
 
-/// A checkbox in callout size, perhaps with an icon before its label. A label that does not fit is
-/// elided and shown whole in a tooltip.
+/// A check box in callout size, with or without an icon before its label. A label that does not fit
+/// is elided and shown whole in a tooltip.
 class CheckBox final : public QCheckBox {
     Q_OBJECT
 
 public:
-    /// What the box stands away from the edge, in points.
+    /// Room around every check box for the focus ring, in view points.
     static constexpr int focusRoom = 3;
 
     /// `label` is the accessible name too.
@@ -24,17 +24,7 @@ public:
     /// Shows a state; emits nothing.
     void showChecked(bool checked);
 
-    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-
-protected:
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    int labelLeft() const;
-
-    std::optional<Icon> icon_;
 };
 
 }  // namespace marlevo

@@ -1,13 +1,14 @@
 #include "ui/controls/ContinuousSlider.h"
 
 #include "ui/controls/ControlAccessibility.h"
-#include "ui/controls/ControlPainting.h"
-#include "ui/controls/SemanticColors.h"
+#include "ui/controls/StylePainting.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyleOptionSlider>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -18,26 +19,37 @@ namespace {
 
 constexpr int regularKnob = 16;
 constexpr int smallKnob = 13;
-constexpr int trackHeight = 4;
 constexpr int comfortableWidth = 120;
 constexpr int leastWidth = 48;
 constexpr int pageSteps = 10;
 
+/// QSlider counts in whole numbers: this many for a step of the keys.
+constexpr double unitsOfKeyStep = 1000;
+
+int toUnits(double value, const ContinuousSlider::Range& range) {
+    const double inRange = std::clamp(value, range.least, range.most);
+    return static_cast<int>(std::lround(inRange / range.keyStep * unitsOfKeyStep));
+}
+
 }  // namespace
 
 ContinuousSlider::ContinuousSlider(const QString& name, Range range, QWidget* parent, Knob knob)
-    : QWidget(parent), range_(range), knobSize_(knob == Knob::small ? smallKnob : regularKnob),
-      value_(range.least) {
+    : QSlider(Qt::Horizontal, parent), range_(range),
+      knobSize_(knob == Knob::small ? smallKnob : regularKnob), realValue_(range.least) {
     installControlAccessibility();
     setAccessibleName(name);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setRange(toUnits(range.least, range), toUnits(range.most, range));
+    connect(this, &QSlider::actionTriggered, this, &ContinuousSlider::performAction);
 }
 
 void ContinuousSlider::showValue(double value, const QString& inWords) {
-    if (value == value_ && inWords == inWords_) return;
-    value_ = value;
+    if (value == realValue_ && inWords == inWords_) return;
+    realValue_ = value;
     inWords_ = inWords;
+    const QSignalBlocker quiet(this);
+    setValue(toUnits(value, range_));
     update();
     QAccessibleValueChangeEvent event(this, value);
     QAccessible::updateAccessibility(&event);
@@ -52,10 +64,9 @@ QSize ContinuousSlider::sizeHint() const { return {comfortableWidth, knobSize_ +
 QSize ContinuousSlider::minimumSizeHint() const { return {leastWidth, knobSize_ + 2}; }
 
 double ContinuousSlider::knobCenter() const {
-    const double share =
-        std::clamp((value_ - range_.least) / (range_.most - range_.least), 0.0, 1.0);
-    const double forward = isRightToLeft() ? 1 - share : share;
-    return knobSize_ / 2.0 + forward * (width() - knobSize_);
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    return sliderKnobCenter(option, knobSize_);
 }
 
 double ContinuousSlider::valueAt(double x) const {
@@ -65,82 +76,68 @@ double ContinuousSlider::valueAt(double x) const {
     return range_.least + share * (range_.most - range_.least);
 }
 
-// On multiples of the step, or sums of rounded steps would show 89 % for 90 %.
+// Multiples of the step, because sums of rounded steps would show 89 % for 90 %.
 double ContinuousSlider::afterSteps(double count) const {
     constexpr double tolerance = 1e-6;
-    const double steps = value_ / range_.keyStep;
+    const double steps = realValue_ / range_.keyStep;
     const double whole = count > 0 ? std::floor(steps + tolerance) : std::ceil(steps - tolerance);
     return (whole + count) * range_.keyStep;
 }
 
-void ContinuousSlider::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
-
-    const double middle = height() / 2.0;
-    const QRectF track(1, middle - trackHeight / 2.0, width() - 2, trackHeight);
-    const double knob = knobCenter();
-    QRectF filled = track;
-    if (isRightToLeft())
-        filled.setLeft(knob);
-    else
-        filled.setRight(knob);
-    const auto gray = semanticColor(SemanticColor::gray);
-    const auto blue = semanticColor(SemanticColor::blue);
-    paintRoundedRect(painter, track, trackHeight / 2.0, withOpacity(gray, 0.35));
-    paintRoundedRect(painter, filled, trackHeight / 2.0, blue);
-
-    const QRectF disc(knob - knobSize_ / 2.0 + 1, middle - knobSize_ / 2.0 + 1, knobSize_ - 2,
-                      knobSize_ - 2);
-    const bool ringed = hasFocus() || isGrabbed_;
-    paintRoundedRect(painter, disc, disc.width() / 2, isGrabbed_ ? QColor(0xe8e8ec) : Qt::white,
-                     {ringed ? blue : gray, ringed ? 2.0 : 1.0});
+void ContinuousSlider::performAction(int action) {
+    switch (action) {
+    case SliderSingleStepAdd:
+        moveTo(afterSteps(1));
+        break;
+    case SliderSingleStepSub:
+        moveTo(afterSteps(-1));
+        break;
+    case SliderPageStepAdd:
+        moveTo(afterSteps(pageSteps));
+        break;
+    case SliderPageStepSub:
+        moveTo(afterSteps(-pageSteps));
+        break;
+    case SliderToMinimum:
+        moveTo(range_.least);
+        break;
+    case SliderToMaximum:
+        moveTo(range_.most);
+        break;
+    default:
+        break;
+    }
+    // QSlider has moved the knob by a step of its own. The value shown last holds.
+    const QSignalBlocker quiet(this);
+    setSliderPosition(toUnits(realValue_, range_));
 }
 
+// QSlider would move the knob's centre to the pointer and round to whole points.
 void ContinuousSlider::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     const double x = event->position().x();
     const double toKnob = knobCenter() - x;
-    isGrabbed_ = true;
+    setSliderDown(true);
     grabOffset_ = std::abs(toKnob) <= knobSize_ / 2.0 ? toKnob : 0;
     update();
     if (grabOffset_ == 0 && toKnob != 0) moveTo(valueAt(x));
 }
 
 void ContinuousSlider::mouseMoveEvent(QMouseEvent* event) {
-    if (isGrabbed_) moveTo(valueAt(event->position().x() + grabOffset_));
+    if (isSliderDown()) moveTo(valueAt(event->position().x() + grabOffset_));
 }
 
 void ContinuousSlider::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
-    isGrabbed_ = false;
+    setSliderDown(false);
     update();
 }
 
 void ContinuousSlider::keyPressEvent(QKeyEvent* event) {
     if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return event->ignore();
-    const double forward = isRightToLeft() ? -1 : 1;
-    switch (event->key()) {
-    case Qt::Key_Right:
-        return moveTo(afterSteps(forward));
-    case Qt::Key_Left:
-        return moveTo(afterSteps(-forward));
-    case Qt::Key_Up:
-        return moveTo(afterSteps(1));
-    case Qt::Key_Down:
-        return moveTo(afterSteps(-1));
-    case Qt::Key_PageUp:
-        return moveTo(afterSteps(pageSteps));
-    case Qt::Key_PageDown:
-        return moveTo(afterSteps(-pageSteps));
-    case Qt::Key_Home:
-        return moveTo(range_.least);
-    case Qt::Key_End:
-        return moveTo(range_.most);
-    default:
-        event->ignore();
-    }
+    QSlider::keyPressEvent(event);
 }
+
+void ContinuousSlider::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 }  // namespace marlevo

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QWidget>
+#include <QSlider>
 
 namespace marlevo {
 
-/// A horizontal slider over a closed range of real numbers, without steps. It only shows its value:
-/// a value beyond the range or between two pixels stays what it is until the user moves the knob.
-class ContinuousSlider final : public QWidget {
+/// A horizontal slider over a closed range of real numbers, without steps for the pointer. The
+/// slider only shows its value: a value beyond the range stays as it is until the user moves the
+/// knob. The wheel does not move it, so that the wheel can scroll what surrounds it.
+class ContinuousSlider final : public QSlider {
     Q_OBJECT
 
 public:
@@ -22,43 +23,47 @@ public:
     ContinuousSlider(const QString& name, Range range, QWidget* parent = nullptr,
                      Knob knob = Knob::regular);
 
-    double value() const { return value_; }
+    /// The value as shown last; value() is its position on the scale of whole numbers.
+    double realValue() const { return realValue_; }
     const Range& range() const { return range_; }
 
-    /// The value as it reads, for assistive technology.
+    /// The value as text, for assistive technology.
     const QString& valueInWords() const { return inWords_; }
+
+    /// The diameter, in view points.
+    int knobSize() const { return knobSize_; }
 
     /// Shows a value; emits nothing.
     void showValue(double value, const QString& inWords);
 
-    /// As if the user had moved the knob there; values beyond the range are clamped.
+    /// Emits moved() as if the user had moved the knob there; clamps values beyond the range.
     void moveTo(double value);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The user wants this value, within the range.
+    /// The user moved the knob to this value, which lies within the range.
     void moved(double value);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void performAction(int action);
     double knobCenter() const;
     double valueAt(double x) const;
     double afterSteps(double count) const;
 
     Range range_;
     int knobSize_;
-    double value_;
+    double realValue_;
     QString inWords_;
     double grabOffset_ = 0;  ///< from the pointer to the knob's centre
-    bool isGrabbed_ = false;
 };
 
 }  // namespace marlevo

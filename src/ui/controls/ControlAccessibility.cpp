@@ -26,7 +26,7 @@ public:
                    : QAccessibleWidget::text(kind);
     }
 
-    QVariant currentValue() const override { return slider_.value(); }
+    QVariant currentValue() const override { return slider_.realValue(); }
     void setCurrentValue(const QVariant& value) override {
         if (slider_.isEnabled()) slider_.moveTo(value.toDouble());
     }

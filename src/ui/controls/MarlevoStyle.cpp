@@ -1,10 +1,13 @@
 #include "ui/controls/MarlevoStyle.h"
 
 #include "platform/qt/DesktopSettings.h"
+#include "ui/controls/ChoiceRow.h"
+#include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/Icons.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/SmallButton.h"
 #include "ui/controls/StylePainting.h"
+#include "ui/controls/Switch.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -55,6 +58,7 @@ void MarlevoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             field && field->lineWidth > 0)
             return paintField(*painter, *field);
     }
+    if (element == PE_IndicatorCheckBox) return paintCheckIndicator(*painter, *option);
     if (element == PE_PanelScrollAreaCorner)
         return painter->fillRect(option->rect, option->palette.window());
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -68,6 +72,13 @@ void MarlevoStyle::drawControl(ControlElement element, const QStyleOption* optio
             QStyleOptionButton onBlue = *button;
             onBlue.palette.setColor(QPalette::ButtonText, Qt::white);
             return QProxyStyle::drawControl(element, &onBlue, painter, widget);
+        }
+    }
+    if (element == CE_CheckBox || element == CE_RadioButton) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            if (qobject_cast<const Switch*>(widget)) return paintSwitch(*painter, *button);
+            if (qobject_cast<const ChoiceRow*>(widget)) return paintChoiceRow(*painter, *button);
+            if (element == CE_CheckBox) return paintCheckBox(*painter, *button);
         }
     }
     QProxyStyle::drawControl(element, option, painter, widget);
@@ -87,6 +98,10 @@ void MarlevoStyle::drawComplexControl(ComplexControl control, const QStyleOption
         const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
         if (tool && button) return paintToolButton(*painter, *button, tool->look());
     }
+    if (const auto* const slider = qobject_cast<const ContinuousSlider*>(widget)) {
+        if (const auto* state = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return paintSlider(*painter, *state, slider->knobSize(), slider->isSliderDown());
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -105,12 +120,20 @@ QSize MarlevoStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
         const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
         if (tool && button) return toolButtonSize(*button, tool->look());
     }
+    if (type == CT_CheckBox || type == CT_RadioButton) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            if (qobject_cast<const Switch*>(widget)) return switchSize(*button);
+            if (qobject_cast<const ChoiceRow*>(widget)) return choiceRowSize(*button);
+            if (type == CT_CheckBox) return checkBoxSize(*button);
+        }
+    }
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton ? size + pushButtonRoom : size;
 }
 
 QRect MarlevoStyle::subElementRect(SubElement element, const QStyleOption* option,
                                    const QWidget* widget) const {
+    if (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect) return option->rect;
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     if (element != SE_LineEditContents) return rect;
     const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -119,6 +142,7 @@ QRect MarlevoStyle::subElementRect(SubElement element, const QStyleOption* optio
 
 int MarlevoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                               const QWidget* widget) const {
+    if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight) return checkBoxSide;
     if (metric == PM_ScrollBarExtent) return scrollBarWidth;
     if (metric == PM_ScrollBarSliderMin) return leastKnobLength;
     return QProxyStyle::pixelMetric(metric, option, widget);

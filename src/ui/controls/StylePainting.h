@@ -6,6 +6,7 @@
 #include <QStyle>
 
 class QPainter;
+class QStyleOption;
 class QStyleOptionButton;
 class QStyleOptionFrame;
 class QStyleOptionSlider;
@@ -30,6 +31,23 @@ QSize toolButtonSize(const QStyleOptionToolButton& button, ToolButton::Look look
 void paintField(QPainter& painter, const QStyleOptionFrame& field);
 /// Between a field's frame and its text on each side, in view points.
 inline constexpr int fieldPadding = 3;
+
+inline constexpr int checkBoxSide = 15;
+/// A square of that side.
+void paintCheckIndicator(QPainter& painter, const QStyleOption& indicator);
+void paintCheckBox(QPainter& painter, const QStyleOptionButton& button);
+QSize checkBoxSize(const QStyleOptionButton& button);
+/// With a few letters of the label.
+QSize leastCheckBoxSize(const QStyleOptionButton& button);
+void paintSwitch(QPainter& painter, const QStyleOptionButton& button);
+QSize switchSize(const QStyleOptionButton& button);
+void paintChoiceRow(QPainter& painter, const QStyleOptionButton& button);
+QSize choiceRowSize(const QStyleOptionButton& button);
+
+/// A horizontal slider.
+void paintSlider(QPainter& painter, const QStyleOptionSlider& slider, int knobSize, bool isHeld);
+/// The knob's centre from the left, in view points.
+double sliderKnobCenter(const QStyleOptionSlider& slider, int knobSize);
 
 void paintScrollBar(QPainter& painter, const QStyleOptionSlider& bar);
 /// The place of a part. A scroll bar has a knob and the room before and behind it, no buttons.

@@ -4,19 +4,13 @@
 
 namespace marlevo {
 
-/// A switch with its label; the knob stands at the trailing side while it is on.
+/// A check box that the style paints as a switch: the label leads, and the knob is at the trailing
+/// side while the switch is on.
 class Switch final : public QCheckBox {
     Q_OBJECT
 
 public:
-    explicit Switch(const QString& label, QWidget* parent = nullptr);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-protected:
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
-    void paintEvent(QPaintEvent* event) override;
+    using QCheckBox::QCheckBox;
 };
 
 }  // namespace marlevo

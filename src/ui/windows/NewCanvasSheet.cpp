@@ -203,7 +203,7 @@ void NewCanvasSheet::setUseCustom(bool useCustom) {
 void NewCanvasSheet::showState() {
     const bool useCustom = useCustom_.isChecked();
     for (PresetRow* const row : rows_)
-        row->showSelected(!useCustom && row->preset().id == selectedPresetID_);
+        row->showChosen(!useCustom && row->preset().id == selectedPresetID_);
     customW_.setEnabled(useCustom);
     customH_.setEnabled(useCustom);
 

@@ -1,0 +1,179 @@
+#include "ui/controls/CheckBox.h"
+#include "ui/controls/ControlPainting.h"
+#include "ui/controls/Icons.h"
+#include "ui/controls/SemanticColors.h"
+#include "ui/controls/StylePainting.h"
+#include "ui/controls/TypeScale.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOptionButton>
+
+#include <algorithm>
+
+// Check boxes, switches and rows of a list of choices.
+namespace marlevo {
+
+namespace {
+
+// View points.
+constexpr double boxRadius = 3.5;
+constexpr int labelGap = 6;
+constexpr QSize switchTrack(34, 20);
+constexpr int knobMargin = 2;
+constexpr int switchGap = 8;
+constexpr int rowSidePadding = 10;
+constexpr int rowPadding = 8;
+constexpr int rowMarkGap = 8;
+constexpr double rowRadius = 8;
+
+constexpr double chosenRow = 0.1;
+constexpr double hoveredRow = 0.05;
+
+int textWidth(const QStyleOptionButton& button) {
+    return button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
+}
+
+/// Elided where it has no room, at the leading side.
+void paintText(QPainter& painter, const QStyleOptionButton& button, const QRect& place) {
+    const int alignment = QStyle::visualAlignment(button.direction, Qt::AlignLeft) |
+                          Qt::AlignVCenter | Qt::TextShowMnemonic;
+    painter.setPen(semanticColor(SemanticColor::primary));
+    painter.drawText(place, alignment,
+                     button.fontMetrics.elidedText(button.text, Qt::ElideRight, place.width(),
+                                                   Qt::TextShowMnemonic));
+}
+
+void paintCheckMark(QPainter& painter, const QRectF& box, bool isPartial) {
+    QPainterPath mark(box.topLeft() + QPointF(0.24, 0.53) * box.width());
+    if (isPartial) {
+        mark = QPainterPath(box.center() - QPointF(0.25, 0) * box.width());
+        mark.lineTo(box.center() + QPointF(0.25, 0) * box.width());
+    } else {
+        mark.lineTo(box.topLeft() + QPointF(0.43, 0.72) * box.width());
+        mark.lineTo(box.topLeft() + QPointF(0.77, 0.29) * box.width());
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(mark);
+}
+
+int checkBoxLabelLeft(const QStyleOptionButton& button) {
+    const int icon = button.icon.isNull() ? 0 : iconSide(TypeStyle::callout) + labelGap;
+    return CheckBox::focusRoom + checkBoxSide + labelGap + icon;
+}
+
+}  // namespace
+
+QSize checkBoxSize(const QStyleOptionButton& button) {
+    return {checkBoxLabelLeft(button) + textWidth(button) + 1 + CheckBox::focusRoom,
+            std::max(button.fontMetrics.height(), checkBoxSide) + 2 * CheckBox::focusRoom};
+}
+
+QSize leastCheckBoxSize(const QStyleOptionButton& button) {
+    const QSize whole = checkBoxSize(button);
+    const int fewLetters = button.fontMetrics.horizontalAdvance(QStringLiteral("nn…"));
+    return {std::min(whole.width(), checkBoxLabelLeft(button) + fewLetters), whole.height()};
+}
+
+void paintCheckIndicator(QPainter& painter, const QStyleOption& indicator) {
+    painter.save();
+    if (!indicator.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    const QRectF box = indicator.rect;
+    const bool isPartial = indicator.state.testFlag(QStyle::State_NoChange);
+    if (isPartial || indicator.state.testFlag(QStyle::State_On)) {
+        paintRoundedRect(painter, box, boxRadius, semanticColor(SemanticColor::blue));
+        paintCheckMark(painter, box, isPartial);
+    } else {
+        const QColor gray = semanticColor(SemanticColor::gray);
+        const double fill = indicator.state.testFlag(QStyle::State_Sunken)      ? pressedFill
+                            : indicator.state.testFlag(QStyle::State_MouseOver) ? hoveredFill
+                                                                                : restingFill;
+        paintRoundedRect(painter, box, boxRadius, withOpacity(gray, fill), {gray, 1});
+    }
+    painter.restore();
+}
+
+void paintCheckBox(QPainter& painter, const QStyleOptionButton& button) {
+    const auto mirrored = [&](int left, int width, int height) {
+        const QRect place(left, (button.rect.height() - height) / 2, width, height);
+        return QStyle::visualRect(button.direction, button.rect,
+                                  place.translated(button.rect.topLeft()));
+    };
+    QStyleOption indicator = button;
+    indicator.rect = mirrored(CheckBox::focusRoom, checkBoxSide, checkBoxSide);
+    paintCheckIndicator(painter, indicator);
+
+    painter.save();
+    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    const int left = checkBoxLabelLeft(button);
+    if (!button.icon.isNull()) {
+        const int side = iconSide(TypeStyle::callout);
+        painter.setPen(semanticColor(SemanticColor::primary));
+        const QRect place = mirrored(left - labelGap - side, side, side);
+        button.icon.paint(&painter, place);
+    }
+    const int room = button.rect.width() - left - CheckBox::focusRoom + 1;
+    paintText(painter, button, mirrored(left, room, button.rect.height()));
+    painter.restore();
+    if (button.state.testFlag(QStyle::State_HasFocus))
+        paintFocusRing(painter, button.rect, boxRadius + CheckBox::focusRoom);
+}
+
+QSize switchSize(const QStyleOptionButton& button) {
+    return {textWidth(button) + switchGap + switchTrack.width(),
+            std::max(button.fontMetrics.height(), switchTrack.height()) + 4};
+}
+
+void paintSwitch(QPainter& painter, const QStyleOptionButton& button) {
+    painter.save();
+    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    paintText(painter, button, button.rect);
+
+    const bool isOn = button.state.testFlag(QStyle::State_On);
+    const QRectF track = QStyle::alignedRect(button.direction, Qt::AlignTrailing | Qt::AlignVCenter,
+                                             switchTrack, button.rect);
+    const double radius = track.height() / 2;
+    paintRoundedRect(painter, track, radius,
+                     semanticColor(isOn ? SemanticColor::blue : SemanticColor::gray));
+    const double side = track.height() - 2 * knobMargin;
+    const bool isAtRight = isOn == (button.direction == Qt::LeftToRight);
+    const double left = isAtRight ? track.right() - knobMargin - side : track.left() + knobMargin;
+    paintRoundedRect(painter, {left, track.top() + knobMargin, side, side}, side / 2, Qt::white);
+    painter.restore();
+    if (button.state.testFlag(QStyle::State_HasFocus)) paintFocusRing(painter, track, radius);
+}
+
+QSize choiceRowSize(const QStyleOptionButton& button) {
+    const int mark = iconSide(TypeStyle::title3);
+    return {textWidth(button) + rowMarkGap + mark + 2 * rowSidePadding,
+            std::max(button.fontMetrics.height(), mark) + 2 * rowPadding};
+}
+
+void paintChoiceRow(QPainter& painter, const QStyleOptionButton& button) {
+    const QColor blue = semanticColor(SemanticColor::blue);
+    const bool isChosen = button.state.testFlag(QStyle::State_On);
+    if (isChosen)
+        paintRoundedRect(painter, button.rect, rowRadius, withOpacity(blue, chosenRow));
+    else if (button.state.testFlag(QStyle::State_MouseOver))
+        paintRoundedRect(painter, button.rect, rowRadius,
+                         withOpacity(semanticColor(SemanticColor::primary), hoveredRow));
+
+    const QRect inside =
+        button.rect.adjusted(rowSidePadding, rowPadding, -rowSidePadding, -rowPadding);
+    const int side = iconSide(TypeStyle::title3);
+    QRect text = inside;
+    text.setWidth(inside.width() - side - rowMarkGap);
+    paintText(painter, button, QStyle::visualRect(button.direction, inside, text));
+    if (isChosen) {
+        const QRect mark = QStyle::alignedRect(
+            button.direction, Qt::AlignTrailing | Qt::AlignVCenter, QSize(side, side), inside);
+        paintIcon(painter, Icon::checkCircle, mark, blue);
+    }
+    if (button.state.testFlag(QStyle::State_HasFocus))
+        paintFocusRing(painter, button.rect, rowRadius);
+}
+
+}  // namespace marlevo
