@@ -7,6 +7,7 @@
 #include "ui/sidebar/SidebarView.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -54,7 +55,21 @@ struct SidebarSetting {
         qFatal("no control %s", qPrintable(name));
     }
 
-    void click(const QString& name) { QTest::mouseClick(&get(name), Qt::LeftButton); }
+    void click(const QString& name) {
+        QTest::mouseClick(&get(name), Qt::LeftButton);
+        showChanges();
+    }
+
+    /// Lets the list of layers show what has changed.
+    static void showChanges() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
+
+    /// Presses a key in the focused widget.
+    static void type(Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        showChanges();
+    }
+
+    static QString focused() { return QApplication::focusWidget()->accessibleName(); }
 
     /// Opens the list of layers and waits until it has come to rest.
     void openLayers() {

@@ -51,6 +51,7 @@ void ColorRow::addSwatches(QHBoxLayout& row) {
         swatches_.push_back(swatch);
         strip->addWidget(swatch);
     }
+    swatchFocus_.setMembers({swatches_.begin(), swatches_.end()});
     row.addLayout(strip);
 }
 

@@ -3,6 +3,7 @@
 #include "model/Follower.h"
 #include "ui/controls/ColorSwatch.h"
 #include "ui/controls/ColorWell.h"
+#include "ui/controls/FocusGroup.h"
 
 #include <vector>
 
@@ -32,6 +33,7 @@ private:
     DrawingDocument& document_;
     ColorWell well_;
     std::vector<ColorSwatch*> swatches_;
+    FocusGroup swatchFocus_;
     Follower colorFollower_;
     Follower swatchesFollower_;
 };

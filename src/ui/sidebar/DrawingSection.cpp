@@ -68,6 +68,8 @@ QWidget* DrawingSection::makeTools() {
                            makeButton(
                                secondary, Icon::eyedropper, names.eyeDropper,
                                [&d] { return d.isEyeDropper.get(); }, chooseEyeDropper)}));
+    const auto buttons = tools->findChildren<QAbstractButton*>();
+    toolFocus_.setMembers({buttons.begin(), buttons.end()});
     return tools;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Follower.h"
+#include "ui/controls/FocusGroup.h"
 #include "ui/controls/LabeledSlider.h"
 #include "ui/controls/ModeButton.h"
 #include "ui/sidebar/ColorRow.h"
@@ -29,6 +30,7 @@ private:
     ColorRow colors_;
     LabeledSlider size_;
     LabeledSlider opacity_;
+    FocusGroup toolFocus_;
     std::list<Follower> followers_;
 };
 

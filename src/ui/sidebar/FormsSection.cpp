@@ -23,6 +23,8 @@ FormsSection::FormsSection(DrawingDocument& document, QWidget* parent)
         new ModeButtonRow({makeButton(Icon::lineDiagonal, names.line, ShapeType::line),
                            makeButton(Icon::rectangle, names.rectangle, ShapeType::rect),
                            makeButton(Icon::circle, names.ellipse, ShapeType::ellipse)}));
+    const auto buttons = findChildren<QAbstractButton*>();
+    focus_.setMembers({buttons.begin(), buttons.end()});
 }
 
 ModeButton* FormsSection::makeButton(Icon icon, const QString& label, Stroke::ShapeType type) {

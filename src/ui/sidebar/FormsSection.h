@@ -2,6 +2,7 @@
 
 #include "model/Follower.h"
 #include "model/Stroke.h"
+#include "ui/controls/FocusGroup.h"
 #include "ui/controls/ModeButton.h"
 
 #include <list>
@@ -22,6 +23,7 @@ private:
     ModeButton* makeButton(Icon icon, const QString& label, Stroke::ShapeType type);
 
     DrawingDocument& document_;
+    FocusGroup focus_;
     std::list<Follower> followers_;
 };
 

@@ -61,6 +61,9 @@ void LayerRow::showLayer(const Layer& layer, CanvasSize canvas, bool isActive) {
 }
 
 QWidget* LayerRow::followInTabOrder(QWidget* previous) {
+    // The toolkit orders Tab stops only.
+    setFocusPolicy(Qt::TabFocus);
+    eye_.setFocusPolicy(Qt::TabFocus);
     if (previous) setTabOrder(previous, this);
     setTabOrder(this, &eye_);
     return &eye_;

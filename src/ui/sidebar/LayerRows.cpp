@@ -13,7 +13,7 @@ namespace {
 
 constexpr int spacing = 4;
 
-/// The widget outside `area` that the user tabs from into it; null when there is none.
+/// The last Tab stop before `area`; null when there is none.
 QWidget* stopBefore(const QWidget& area) {
     QWidget* before = area.previousInFocusChain();
     while (before != &area &&
@@ -62,20 +62,35 @@ void LayerRows::matchRows() {
             unused.erase(found);
         }
     }
+    const bool hadFocus = focusGroup_.hasFocus();
+    putRowsInOrder();
+    focusGroup_.setMembers({rows_.begin(), rows_.end()});
+    // A deleted row must not pass its focus on to the next widget.
+    if (hadFocus && !focusGroup_.hasFocus()) focusGroup_.moveFocusTo(activeRow());
     for (LayerRow* row : unused) {
-        // Later: the row's own button may have led here.
         row->hide();
         row->deleteLater();
     }
-    putRowsInOrder();
+}
+
+LayerRow& LayerRows::activeRow() const {
+    const std::int64_t below = std::ssize(rows_) - 1 - document_.activeLayerIndex;
+    return below >= 0 && below < std::ssize(rows_) ? *rows_[below] : *rows_.front();
+}
+
+void LayerRows::focusActiveRow() {
+    follower_.refresh();
+    if (!rows_.empty()) focusGroup_.moveFocusTo(activeRow());
 }
 
 LayerRow* LayerRows::makeRow(const Uuid& layerID) {
     auto* row = new LayerRow(document_.services(), images_, layerID, this);
-    connect(row, &LayerRow::chosen, this,
-            [this, row] { document_.activeLayerIndex = indexOf(*row); });
-    connect(row, &LayerRow::visibilityToggled, this,
-            [this, row] { document_.toggleLayerVisibility(indexOf(*row)); });
+    connect(row, &LayerRow::chosen, this, [this, row] {
+        if (const auto index = indexOf(*row)) document_.activeLayerIndex = *index;
+    });
+    connect(row, &LayerRow::visibilityToggled, this, [this, row] {
+        if (const auto index = indexOf(*row)) document_.toggleLayerVisibility(*index);
+    });
     return row;
 }
 
@@ -87,8 +102,12 @@ void LayerRows::putRowsInOrder() {
     }
 }
 
-std::int64_t LayerRows::indexOf(const LayerRow& row) const {
-    return rows_.end() - 1 - std::find(rows_.begin(), rows_.end(), &row);
+/// Absent when the layer is gone and the list does not show it yet.
+std::optional<std::int64_t> LayerRows::indexOf(const LayerRow& row) const {
+    const LayerList& layers = document_.layers;
+    const auto found = std::find_if(layers.begin(), layers.end(),
+                                    [&](const Layer& layer) { return layer.id == row.layerID(); });
+    return found != layers.end() ? std::optional(found - layers.begin()) : std::nullopt;
 }
 
 }  // namespace marlevo

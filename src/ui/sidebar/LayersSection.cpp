@@ -46,9 +46,14 @@ LayersSection::LayersSection(DrawingDocument& document, ImageCache& images, QWid
 void LayersSection::showButtons() {
     const std::int64_t active = document_.activeLayerIndex;
     const std::int64_t count = std::ssize(*document_.layers);
-    delete_.setEnabled(count > 1);
-    moveUp_.setEnabled(active < count - 1);
-    moveDown_.setEnabled(active > 0);
+    const auto setEnabled = [this](QWidget& button, bool isEnabled) {
+        // The toolkit would give the focus to the button beside it, which undoes what this one did.
+        if (!isEnabled && button.hasFocus()) rows_.focusActiveRow();
+        button.setEnabled(isEnabled);
+    };
+    setEnabled(delete_, count > 1);
+    setEnabled(moveUp_, active < count - 1);
+    setEnabled(moveDown_, active > 0);
 }
 
 }  // namespace marlevo

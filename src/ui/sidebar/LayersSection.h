@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Follower.h"
+#include "ui/LateFollower.h"
 #include "ui/controls/IconButton.h"
 #include "ui/sidebar/LayerRows.h"
 
@@ -26,7 +26,7 @@ private:
     IconButton delete_;
     IconButton moveUp_;
     IconButton moveDown_;
-    Follower buttonsFollower_;
+    LateFollower buttonsFollower_;
 };
 
 }  // namespace marlevo
