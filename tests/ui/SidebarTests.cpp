@@ -406,6 +406,7 @@ private Q_SLOTS:
         SidebarSetting s;
         QVERIFY(!s.get("Undo").isEnabled() && !s.get("Redo").isEnabled());
         s.document.addLayer();
+        s.showChanges();
         s.click("Undo");
         QVERIFY(!s.get("Undo").isEnabled() && s.get("Redo").isEnabled());
         s.click("Redo");

@@ -3,6 +3,7 @@
 #include "model/DrawingDocument.h"
 #include "ui/canvas/DisplaySize.h"
 #include "ui/controls/DropShadow.h"
+#include "ui/controls/LastInput.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -39,13 +40,18 @@ int start(int length, int room, const QScrollBar& bar) {
 }  // namespace
 
 CanvasScrollArea::CanvasScrollArea(DrawingDocument& document, ImageCache& images, QWidget* parent)
-    : QAbstractScrollArea(parent), document_(document), view_(document, images, viewport()),
+    : QAbstractScrollArea(parent), document_(document), focusRing_(this),
+      view_(document, images, viewport()),
       layoutFollower_(document.changeRegistry(), [this] { layOut(); }),
-      descriptionChanges_(document, view_), focusRing_(this) {
+      descriptionChanges_(document, view_) {
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::Window);
     viewport()->setAutoFillBackground(true);
     setAccessibleName(tr("Drawing area"));
+    view_.setFocusPolicy(Qt::StrongFocus);
+    view_.installEventFilter(this);
+    setFocusProxy(&view_);
+    LastInput::instance();
     focusRing_.setBackgroundRole(QPalette::Highlight);
     focusRing_.setAutoFillBackground(true);
     focusRing_.setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -70,18 +76,29 @@ void CanvasScrollArea::moveEvent(QMoveEvent* event) {
     layOut();
 }
 
-// Who clicks into the drawing sees where he is.
-void CanvasScrollArea::focusInEvent(QFocusEvent* event) {
-    QAbstractScrollArea::focusInEvent(event);
-    const bool isByKey =
-        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    focusRing_.setVisible(isByKey);
-    focusRing_.raise();
+bool CanvasScrollArea::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &view_) followFocus(*event);
+    return QAbstractScrollArea::eventFilter(watched, event);
 }
 
-void CanvasScrollArea::focusOutEvent(QFocusEvent* event) {
-    QAbstractScrollArea::focusOutEvent(event);
-    focusRing_.hide();
+void CanvasScrollArea::followFocus(const QEvent& event) {
+    if (event.type() == QEvent::FocusOut) focusRing_.hide();
+    if (event.type() == QEvent::KeyPress && LastInput::instance().wasKey()) showRing(true);
+    if (event.type() != QEvent::FocusIn) return;
+    switch (static_cast<const QFocusEvent&>(event).reason()) {
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        return showRing(isFocusVisible_);  // the focus was only lent
+    default:
+        return showRing(LastInput::instance().wasKey());
+    }
+}
+
+void CanvasScrollArea::showRing(bool isShown) {
+    isFocusVisible_ = isShown;
+    focusRing_.setVisible(isShown);
+    focusRing_.raise();
 }
 
 void CanvasScrollArea::scrollContentsBy(int, int) { layOut(); }

@@ -12,7 +12,8 @@ class DrawingDocument;
 class ImageCache;
 
 /// The canvas on its desk: scrolls in both directions, centres a canvas smaller than itself, and
-/// draws the canvas's shadow.
+/// draws the canvas's shadow. Its focus is the canvas's. A frame shows the focus while the keyboard
+/// is in use, as opposed to the pointer.
 class CanvasScrollArea final : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -33,19 +34,22 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void followFocus(const QEvent& event);
+    void showRing(bool isShown);
     void layOut();
     QPoint alignedToDevicePixels(QPoint viewportPosition) const;
 
     DrawingDocument& document_;
+    // Before the view, which loses the focus as it is deleted.
+    QWidget focusRing_;  ///< over the canvas, which fills the area when it is large
+    bool isFocusVisible_ = false;
     CanvasView view_;
     Follower layoutFollower_;
     CanvasDescriptionChanges descriptionChanges_;
-    QWidget focusRing_;  ///< over the canvas, which fills the area when it is large
 };
 
 }  // namespace marlevo

@@ -1,5 +1,6 @@
 #include "ui/controls/Popover.h"
 
+#include "ui/controls/LastInput.h"
 #include "ui/controls/SemanticColors.h"
 
 #include <QApplication>
@@ -52,7 +53,10 @@ void Popover::open() {
     place();
     show();
     raise();
-    setFocus(Qt::PopupFocusReason);
+    if (LastInput::instance().wasKey())
+        focusNextPrevChild(true);
+    else
+        setFocus(Qt::PopupFocusReason);
     window()->installEventFilter(this);
     qApp->installEventFilter(this);
 }
@@ -145,7 +149,7 @@ bool Popover::takePress(QPointerEvent& press) {
     return true;
 }
 
-// Round and round among the controls of the popover.
+// Round among the controls of the popover.
 bool Popover::focusNextPrevChild(bool next) {
     QList<QWidget*> stops;
     for (QWidget* child : findChildren<QWidget*>())

@@ -21,8 +21,7 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
       redo_(Icon::redoArrow, tr("Redo"), IconButton::Look::borderless),
       save_(Icon::documentPlus, tr("Save"), IconButton::Look::borderless),
       export_(Icon::trayArrowDown, tr("Export"), IconButton::Look::borderless),
-      undoFollower_(document.changeRegistry(), [this] { undo_.setEnabled(document_.canUndo()); }),
-      redoFollower_(document.changeRegistry(), [this] { redo_.setEnabled(document_.canRedo()); }) {
+      historyFollower_(document.changeRegistry(), [this] { showHistory(); }) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, verticalPadding, 0, verticalPadding);
     row->setSpacing(spacing);
@@ -36,6 +35,21 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
     connect(&redo_, &IconButton::clicked, this, [this] { document_.redo(); });
     connect(&save_, &IconButton::clicked, this, [this] { save(document_); });
     connect(&export_, &IconButton::clicked, this, &ActionRow::showExportPopover);
+}
+
+void ActionRow::showHistory() {
+    const bool canUndo = document_.canUndo();
+    const bool canRedo = document_.canRedo();
+    // A button that has done the last step gives the focus to its opposite, which can be pressed.
+    if (canUndo && redo_.hasFocus() && !canRedo) {
+        undo_.setEnabled(true);
+        undo_.setFocus();
+    } else if (canRedo && undo_.hasFocus() && !canUndo) {
+        redo_.setEnabled(true);
+        redo_.setFocus();
+    }
+    undo_.setEnabled(canUndo);
+    redo_.setEnabled(canRedo);
 }
 
 void ActionRow::showExportPopover() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Follower.h"
+#include "ui/LateFollower.h"
 #include "ui/controls/IconButton.h"
 #include "ui/sidebar/ExportPopover.h"
 
@@ -17,6 +17,7 @@ public:
     explicit ActionRow(DrawingDocument& document, QWidget* parent = nullptr);
 
 private:
+    void showHistory();
     void showExportPopover();
 
     DrawingDocument& document_;
@@ -25,8 +26,7 @@ private:
     IconButton save_;
     IconButton export_;
     QPointer<ExportPopover> exportPopover_;
-    Follower undoFollower_;
-    Follower redoFollower_;
+    LateFollower historyFollower_;
 };
 
 }  // namespace marlevo

@@ -96,6 +96,7 @@ void ContentView::layOut() {
     sidebar_.setMaximumWidth(SidebarView::greatestWidth);
     columns_.setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
 
+    setFocusProxy(&canvas_);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(&columns_);

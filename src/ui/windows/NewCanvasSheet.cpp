@@ -72,6 +72,8 @@ NewCanvasSheet::NewCanvasSheet(DrawingDocument& document, std::function<void()> 
     column->addWidget(new Separator);
     column->addLayout(makeFooter());
 
+    rowFocus_.setMembers({rows_.begin(), rows_.end()});
+    setFocusProxy(rows_.front());
     proposeDefaultSize();
     showState();
 }

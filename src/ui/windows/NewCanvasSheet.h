@@ -2,6 +2,7 @@
 
 #include "model/CanvasSize.h"
 #include "ui/controls/CheckBox.h"
+#include "ui/controls/FocusGroup.h"
 #include "ui/controls/TextLabel.h"
 
 #include <QLineEdit>
@@ -52,6 +53,7 @@ private:
     std::function<void()> dismiss_;
     std::optional<Uuid> selectedPresetID_;
     std::vector<PresetRow*> rows_;
+    FocusGroup rowFocus_;
     CheckBox useCustom_;
     QLineEdit customW_;
     QLineEdit customH_;
