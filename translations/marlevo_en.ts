@@ -552,8 +552,12 @@
         <translation>“%1” already exists. Do you want to replace it?</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Replace</translation>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
     </message>
 </context>
 <context>
@@ -677,16 +681,16 @@
         <translation>Your drawing will be lost if you don&apos;t save.</translation>
     </message>
     <message>
-        <source>Save</source>
-        <translation>Save</translation>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
     </message>
     <message>
-        <source>Don&apos;t Save</source>
-        <translation>Don&apos;t Save</translation>
+        <source>&amp;Don&apos;t Save</source>
+        <translation>&amp;Don&apos;t Save</translation>
     </message>
 </context>
 <context>

@@ -552,8 +552,12 @@
         <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Reemplazar</translation>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -677,16 +681,16 @@
         <translation>El dibujo se perderá si no lo guarda.</translation>
     </message>
     <message>
-        <source>Save</source>
-        <translation>Guardar</translation>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
-        <source>Don&apos;t Save</source>
-        <translation>No guardar</translation>
+        <source>&amp;Don&apos;t Save</source>
+        <translation>&amp;No guardar</translation>
     </message>
 </context>
 <context>

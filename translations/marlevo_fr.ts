@@ -552,8 +552,12 @@
         <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#x202f;?</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Remplacer</translation>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -677,16 +681,16 @@
         <translation>Votre dessin sera perdu si vous ne l’enregistrez pas.</translation>
     </message>
     <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>Don&apos;t Save</source>
-        <translation>Ne pas enregistrer</translation>
+        <source>&amp;Don&apos;t Save</source>
+        <translation>&amp;Ne pas enregistrer</translation>
     </message>
 </context>
 <context>

@@ -552,8 +552,12 @@
         <translation>「%1」はすでに存在します。置き換えますか？</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>置き換える</translation>
+        <source>&amp;Replace</source>
+        <translation>置き換える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -677,16 +681,16 @@
         <translation>保存しない場合、イラストは失われます。</translation>
     </message>
     <message>
-        <source>Save</source>
-        <translation>保存</translation>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
-        <source>Don&apos;t Save</source>
-        <translation>保存しない</translation>
+        <source>&amp;Don&apos;t Save</source>
+        <translation>保存しない(&amp;D)</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,15 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tests/ui/RunningApp.h"
 
+#include <QDialogButtonBox>
 #include <QImage>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QPushButton>
+
+#include <memory>
 
 using namespace marlevo;
 
@@ -14,6 +19,31 @@ QMessageBox* alertOf(QWidget& window) { return window.findChild<QMessageBox*>();
 
 void answer(QWidget& window, const QString& title) {
     button<QPushButton>(*alertOf(window), title).click();
+}
+
+/// A desktop with this order of buttons.
+class DesktopOrder : public QProxyStyle {
+public:
+    explicit DesktopOrder(QDialogButtonBox::ButtonLayout order)
+        : QProxyStyle(new MarlevoStyle), order_(order) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        return hint == SH_DialogButtonLayout
+                   ? int(order_)
+                   : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+private:
+    QDialogButtonBox::ButtonLayout order_;
+};
+
+/// Whether the button is on the right of "Cancel".
+bool isBehindCancel(QWidget& window, const QString& title) {
+    const auto left = [&](const QString& text) {
+        return button<QPushButton>(window, text).mapToGlobal(QPoint()).x();
+    };
+    return left(title) > left("Cancel");
 }
 
 }  // namespace
@@ -47,14 +77,41 @@ private Q_SLOTS:
         s.document.currentFileURL = "/tmp/saved.marlevo";
         drawStroke(s.document);
         s.document.toggleLayerVisibility(0);
+        QCoreApplication::processEvents();
         s.window.close();
         QMessageBox& alert = *alertOf(s.window);
         QCOMPARE(alert.text(), QString("Do you want to save your drawing?"));
         QCOMPARE(alert.informativeText(), QString("Your drawing will be lost if you don't save."));
         QCOMPARE(alert.icon(), QMessageBox::Warning);
         QCOMPARE(alert.windowModality(), Qt::ApplicationModal);
-        QCOMPARE(alert.defaultButton()->text(), QString("Save"));
+        QCOMPARE(alert.defaultButton()->text(), QString("&Save"));
         QVERIFY(s.window.isVisible());
+        QCOMPARE(alert.windowTitle(), QString("saved.marlevo"));
+        QVERIFY(alert.findChild<QLabel*>("qt_msgbox_label")->font().bold());
+        const QLabel& informative = *alert.findChild<QLabel*>("qt_msgbox_informativelabel");
+        QVERIFY(informative.width() >
+                informative.fontMetrics().horizontalAdvance(informative.text()));
+    }
+
+    void theButtonsHaveOneOrderAndLetters() {
+        for (const auto order : {QDialogButtonBox::WinLayout, QDialogButtonBox::GnomeLayout}) {
+            Setting s;
+            QApplication::setStyle(new DesktopOrder(order));
+            s.window.content().setShowNewCanvas(true);
+            QTRY_COMPARE(isBehindCancel(s.window, "Create Canvas"),
+                         order == QDialogButtonBox::GnomeLayout);
+            s.window.content().setShowNewCanvas(false);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            s.drawAndClose();
+            QTRY_COMPARE(isBehindCancel(*alertOf(s.window), "Save"),
+                         order == QDialogButtonBox::GnomeLayout);
+            RunningApp::activate(*alertOf(s.window));
+            QTest::keyClick(alertOf(s.window)->windowHandle(), Qt::Key_D, Qt::AltModifier);
+            QTRY_VERIFY(!s.open);
+        }
+        const std::unique_ptr<const QStyle> withoutDesktop = std::make_unique<MarlevoStyle>();
+        QCOMPARE(withoutDesktop->styleHint(QStyle::SH_DialogButtonLayout),
+                 int(QDialogButtonBox::GnomeLayout));
     }
 
     void cancelAndDismissalKeepTheWindowAndAskAgain() {

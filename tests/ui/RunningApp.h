@@ -61,10 +61,11 @@ Control& control(QWidget& window, const QString& name) {
     qFatal("no control %s", qPrintable(name));
 }
 
+/// The button with this text, in which the mark of a letter does not count.
 template <typename Button>
 Button& button(QWidget& window, const QString& text) {
     for (auto* candidate : window.findChildren<Button*>())
-        if (candidate->text() == text) return *candidate;
+        if (candidate->text().remove('&') == text) return *candidate;
     qFatal("no button %s", qPrintable(text));
 }
 

@@ -64,9 +64,8 @@ void SavePanel::askToReplace(const std::filesystem::path& file) {
         QMessageBox::Warning, windowTitle(),
         tr("“%1” already exists. Do you want to replace it?").arg(shownText(file.filename())),
         QMessageBox::NoButton, this);
-    QPushButton* const replace = question->addButton(tr("Replace"), QMessageBox::AcceptRole);
-    question->addButton(QMessageBox::Cancel);
-    question->setDefaultButton(QMessageBox::Cancel);
+    QPushButton* const replace = question->addButton(tr("&Replace"), QMessageBox::AcceptRole);
+    question->setDefaultButton(question->addButton(tr("&Cancel"), QMessageBox::RejectRole));
     question->setAttribute(Qt::WA_DeleteOnClose);
     connect(question, &QMessageBox::finished, this, [this, question, replace] {
         if (question->clickedButton() == replace) finish();

@@ -10,6 +10,7 @@
 #include "ui/controls/Switch.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
@@ -151,7 +152,11 @@ int MarlevoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 int MarlevoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-    return QProxyStyle::styleHint(hint, option, widget, returned);
+    const int value = QProxyStyle::styleHint(hint, option, widget, returned);
+    // The toolkit's value on a desktop without an order of its own.
+    if (hint == SH_DialogButtonLayout && value == QDialogButtonBox::WinLayout)
+        return QDialogButtonBox::GnomeLayout;
+    return value;
 }
 
 QIcon MarlevoStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,

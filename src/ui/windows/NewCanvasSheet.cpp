@@ -9,6 +9,7 @@
 #include "ui/windows/CNumber.h"
 #include "ui/windows/PresetRow.h"
 
+#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScrollArea>
@@ -174,13 +175,17 @@ QLayout* NewCanvasSheet::makeFooter() {
     create_.setDefault(true);
     connect(&create_, &QPushButton::clicked, this, &NewCanvasSheet::createCanvas);
 
+    // In the desktop's order.
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(&create_, QDialogButtonBox::AcceptRole);
+    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+
     auto* footer = new QHBoxLayout;
     footer->setContentsMargins(padding, padding, padding, padding);
     footer->setSpacing(itemSpacing);
     footer->addWidget(&preview_);
     footer->addStretch(1);
-    footer->addWidget(cancel);
-    footer->addWidget(&create_);
+    footer->addWidget(buttons);
     return footer;
 }
 

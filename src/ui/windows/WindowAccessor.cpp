@@ -6,10 +6,32 @@
 #include "ui/canvas/StatusBar.h"
 
 #include <QEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace marlevo {
+
+namespace {
+
+/// Sets the message in bold and gives the informative text the width of its sentences. The toolkit
+/// shows both alike and breaks the second one before its last words.
+void setUpTexts(QMessageBox& alert) {
+    auto& message = *alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    QFont bold = message.font();
+    bold.setBold(true);
+    message.setFont(bold);
+
+    auto& informative = *alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+    const int greatest = alert.screen()->availableSize().width() / 2;
+    informative.setMinimumWidth(
+        std::min(informative.fontMetrics().horizontalAdvance(informative.text()) + 1, greatest));
+}
+
+}  // namespace
 
 WindowAccessor::Coordinator::Coordinator(DrawingDocument& document, QObject* parent)
     : QObject(parent), document_(document) {}
@@ -38,12 +60,14 @@ bool WindowAccessor::Coordinator::windowShouldClose(QWidget& window) {
 void WindowAccessor::Coordinator::ask(QWidget& window) {
     alert_ = new QMessageBox(&window);
     alert_->setAttribute(Qt::WA_DeleteOnClose);
+    alert_->setWindowTitle(window.windowTitle());
     alert_->setIcon(QMessageBox::Warning);
     alert_->setText(tr("Do you want to save your drawing?"));
     alert_->setInformativeText(tr("Your drawing will be lost if you don't save."));
-    QPushButton* const save = alert_->addButton(tr("Save"), QMessageBox::AcceptRole);
-    QPushButton* const cancel = alert_->addButton(tr("Cancel"), QMessageBox::RejectRole);
-    QPushButton* const discard = alert_->addButton(tr("Don't Save"), QMessageBox::DestructiveRole);
+    setUpTexts(*alert_);
+    QPushButton* const save = alert_->addButton(tr("&Save"), QMessageBox::AcceptRole);
+    QPushButton* const cancel = alert_->addButton(tr("&Cancel"), QMessageBox::RejectRole);
+    QPushButton* const discard = alert_->addButton(tr("&Don't Save"), QMessageBox::DestructiveRole);
     alert_->setDefaultButton(save);
     alert_->setEscapeButton(cancel);
 

@@ -18,7 +18,7 @@ public:
 };
 
 /// The close guard of one window: asks before a drawing with strokes is closed, whether or not it
-/// was saved, since nobody keeps account of that.
+/// was saved: the document has no modified state.
 class WindowAccessor::Coordinator final : public QObject {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ public:
     /// Once true, the window closes without a question.
     bool shouldSkipClose() const { return shouldSkipClose_; }
 
-    /// Whether the window may close now. If not, the user has been asked; the answer closes the
+    /// Returns whether the window may close now. If not, a question is shown; its answer closes the
     /// window later, through a panel for its picture or at once, or keeps it.
     bool windowShouldClose(QWidget& window);
 
