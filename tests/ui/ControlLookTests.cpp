@@ -1,8 +1,11 @@
+#include "tests/ui/MarlevoLook.h"
 #include "tests/ui/Pointer.h"
 #include "ui/controls/CheckBox.h"
+#include "ui/controls/ColorSwatch.h"
 #include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/ControlPainting.h"
-#include "ui/controls/MarlevoStyle.h"
+#include "ui/controls/IconButton.h"
+#include "ui/controls/ModeButton.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/Switch.h"
 #include "ui/windows/PresetRow.h"
@@ -72,12 +75,45 @@ std::function<QWidget*()> preset(bool isChosen) {
         return row;
     };
 }
+std::function<QWidget*()> tool(ModeButton::Kind kind, bool isActive) {
+    return [kind, isActive] {
+        auto* made = new ModeButton(kind, Icon::grid, "Label");
+        made->setActive(isActive);
+        return made;
+    };
+}
+std::function<QWidget*()> icon(ToolButton::Look look) {
+    return [look] { return new IconButton(Icon::grid, "Name", look); };
+}
+std::function<QWidget*()> swatch(ColorSwatch::Selection selection) {
+    return [selection] {
+        auto* made = new ColorSwatch("Black", [] { return black; });
+        made->setSelection(selection);
+        return made;
+    };
+}
 
 const std::vector<Case>& cases() {
     using enum State;
     const auto box = [](bool isChecked) { return button<CheckBox>(isChecked); };
     const auto toggle = [](bool isChecked) { return button<Switch>(isChecked); };
+    using enum ModeButton::Kind;
+    using enum ToolButton::Look;
+    using enum ColorSwatch::Selection;
+    const Shade blackPaint = shade(QColor(Qt::black));
     static const std::vector<Case> all{
+        {"tool", tool(primary, false), rest, {{0, 0, gray(0.41)}, {5, -6, gray(0.06)}}},
+        {"tool", tool(primary, false), focused, {{0, 0, blue()}, {5, -6, gray(0.06)}}},
+        {"primary tool in use", tool(primary, true), rest, {{0, 0, blue()}, {5, -6, blue()}}},
+        {"tool in use", tool(secondary, true), rest, {{0, 0, blue()}, {5, -6, blue(0.15)}}},
+        {"icon", icon(borderless), hover, {{2, 0, gray(0.12)}}},
+        {"icon", icon(borderless), pressed, {{2, 0, gray(0.25)}}},
+        {"framed icon", icon(bordered), rest, {{2, 0, gray(0.06)}}},
+        {"framed icon", icon(bordered), disabled, {{2, 0, gray(0.06)}}},
+        {"framed icon", icon(bordered), focused, {{0, 0, blue()}, {3, 0, gray(0.06)}}},
+        {"swatch", swatch(none), rest, {{8, -5, blackPaint}, {8, 0, blackPaint}}},
+        {"swatch", swatch(none), disabled, {{8, 0, blackPaint}}},
+        {"swatch in use", swatch(active), rest, {{8, -7, blue()}, {8, 0, blackPaint}}},
         {"check box",
          box(false),
          rest,
@@ -125,9 +161,9 @@ int difference(const QColor& a, const QColor& b) {
 class ControlLookTests : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase() { QApplication::setStyle(new MarlevoStyle); }
+    MarlevoLook look_;
 
+private Q_SLOTS:
     void aControlLooksAsItsStateSays_data() {
         QTest::addColumn<std::size_t>("index");
         QTest::addColumn<bool>("isDark");
