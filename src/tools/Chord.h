@@ -6,8 +6,8 @@
 
 namespace marlevo {
 
-/// The straight line through both ends of a stretch of path, which measures how far points stray
-/// from it. When the ends coincide it measures the distance to them instead.
+/// The straight line through both ends of a stretch of path, to measure the distance of points from
+/// it. When the ends coincide, the distance from the ends counts instead.
 ///
 /// `deviation` is cheap and exact and orders points as their distance does, and strictly so, while
 /// no two coordinates of a path differ by more than `exactExtent`: products of such differences

@@ -107,7 +107,7 @@ void joinRows(const RowRuns& above, const RowRuns& row, RunSets& sets) {
     }
 }
 
-/// Removes every run whose set is not `wanted`. Meets the runs in the order of their numbers.
+/// Removes every run whose set is not `wanted`. Visits the runs in the order of their numbers.
 void keepSet(Region& region, RunSets& sets, RunSets::Number wanted) {
     RunSets::Number number = 0;
     for (int y = region.height() - 1; y >= 0; --y) {
@@ -134,7 +134,7 @@ Region floodFill(const RasterImage& image, GridPoint seed, int tolerance) {
     RowRuns above;
     RowRuns current;
 
-    // From the top down, in the order of the picture's memory.
+    // From top to bottom, which is the order of the picture's memory.
     for (int y = height - 1; y >= 0; --y) {
         const auto imageRow = static_cast<std::size_t>(height - 1 - y);
         const std::span<Region::Word> row = region.row(y);

@@ -6,7 +6,7 @@
 
 namespace marlevo {
 
-/// The largest difference in each byte of a pixel for the fill tool to take it for the same colour.
+/// The largest difference, in each byte of a pixel, that the fill tool treats as the same colour.
 inline constexpr int fillTolerance = 35;
 
 /// The cells that are joined to `seed` through the sides of cells (never through a corner alone)

@@ -19,7 +19,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 constexpr std::size_t pixelsPerWord = 64;
 constexpr std::size_t bytesPerWord = pixelsPerWord * 4;
 
-/// At most 64 pixels, one after the other.
+/// At most 64 pixels, without vectors.
 std::uint64_t matchPixels(std::span<const std::uint8_t> pixels, const ColorRange& range) {
     std::uint64_t matches = 0;
     for (std::size_t at = 0; at < pixels.size(); at += 4) {
@@ -61,7 +61,7 @@ std::size_t matchWholeWords(std::span<const std::uint8_t> pixels, const ColorRan
             const auto nearest = hn::Min(hn::Max(bytes, lowest), highest);
             const auto isInside =
                 hn::Eq(hn::BitCast(pixelTag, nearest), hn::BitCast(pixelTag, bytes));
-            // At least eight bytes must be writable. Reading back no more than was written keeps
+            // The buffer needs eight writable bytes. Reading no more bytes than were written keeps
             // the bits in a register.
             std::array<std::uint8_t, 8> laneBytes{};
             hn::StoreMaskBits(pixelTag, isInside, laneBytes.data());

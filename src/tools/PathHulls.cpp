@@ -13,14 +13,14 @@ constexpr std::size_t blockSize = 32;
 
 bool isWestOf(GridPoint a, GridPoint b) { return a.x < b.x; }
 
-/// More than zero when the way from a over b to c turns left.
+/// Greater than zero when the path from a over b to c turns left.
 std::int64_t turn(GridPoint a, GridPoint b, GridPoint c) {
     return (std::int64_t{b.x} - a.x) * (std::int64_t{c.y} - a.y) -
            (std::int64_t{b.y} - a.y) * (std::int64_t{c.x} - a.x);
 }
 
-/// The corner that lies farthest in the direction (x, y), where the side bulges towards it: along
-/// the side the points first rise in that direction and then fall.
+/// The corner farthest in the direction (x, y) of a side that is convex towards it: along the side
+/// the points first rise in that direction and then fall.
 GridPoint extremeCorner(std::span<const GridPoint> side, double x, double y) {
     std::size_t low = 0;
     std::size_t high = side.size() - 1;
@@ -37,10 +37,10 @@ GridPoint extremeCorner(std::span<const GridPoint> side, double x, double y) {
     return side[low];
 }
 
-/// The earliest of the farthest points looked at so far.
+/// The farthest point so far, the earliest of several.
 struct Candidate {
     double deviation = -1;
-    /// That of the point, or of the hull in which it lies.
+    /// The deviation of the point, or the largest deviation of the hull that contains it.
     std::size_t index = 0;
     std::optional<std::size_t> hullLevel{};
 };

@@ -10,10 +10,10 @@
 namespace marlevo {
 
 /// The convex hulls of a path's blocks of 32 points, of the pairs of blocks, of the pairs of pairs
-/// and so on. They find the point of any stretch that strays farthest from a chord in O(log² n)
+/// and so on. They find the point of any stretch that is farthest from a chord in O(log² n)
 /// steps: a stretch is made of O(log n) hulls and less than two blocks, and on a hull that point is
-/// a corner, found by binary search. (Where the chord's ends coincide all corners of those hulls
-/// are looked at; hulls of points on a grid have few.)
+/// a corner, found by binary search. (Where the chord's ends coincide, all corners of those hulls
+/// are compared; hulls of points on a grid have few.)
 ///
 /// Building takes O(n log n) steps. No two coordinates may differ by more than Chord::exactExtent.
 /// The path is not copied and must outlive the hulls.
@@ -33,7 +33,7 @@ private:
     struct Level {
         std::vector<GridPoint> corners;
         /// Where each side begins in `corners`: lower and upper side of the first hull, of the
-        /// second hull and so on; at last the end.
+        /// second hull and so on; the last element is the end.
         std::vector<std::size_t> starts{0};
 
         std::size_t hullCount() const { return starts.size() / 2; }

@@ -13,8 +13,8 @@ struct PixelAddress {
     int row;
 };
 
-/// The pixel that a canvas point lies in: coordinates truncated toward zero, so that −0.5 still
-/// means the first column. Nothing outside the picture.
+/// The pixel at a canvas point: coordinates are truncated toward zero, so that −0.5 is still in the
+/// first column. Absent outside the picture.
 inline std::optional<PixelAddress> pixelAddress(Point p, const RasterImage& image) {
     if (!(p.x > -1 && p.y > -1 && p.x < image.width() && p.y < image.height())) return std::nullopt;
     return PixelAddress{static_cast<int>(p.x), static_cast<int>(p.y)};

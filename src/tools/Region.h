@@ -47,8 +47,8 @@ public:
     /// Absent when the set is empty; takes one pass over the bits.
     std::optional<Bounds> bounds() const;
 
-    /// The cells of row `y`, 0 ≤ y < height: column x is bit x % 64 of word x / 64. Whoever writes
-    /// leaves the bits from `width` on zero.
+    /// The cells of row `y`, 0 ≤ y < height: column x is bit x % 64 of word x / 64. The
+    /// bits from `width` on must stay zero.
     std::span<Word> row(int y) { return {words_.data() + rowStart(y), rowWords_}; }
     std::span<const Word> row(int y) const { return {words_.data() + rowStart(y), rowWords_}; }
 
@@ -74,7 +74,8 @@ public:
     }
 
 private:
-    /// One empty word parts the rows: the eastern border of one and the western border of the next.
+    /// One empty word separates two rows: the eastern border of one and the western border of the
+    /// next.
     std::size_t rowStart(int y) const {
         return 1 + static_cast<std::size_t>(y + 1) * (rowWords_ + 1);
     }

@@ -23,9 +23,9 @@ bool isExact(std::span<const GridPoint> points) {
            double{0} + max.y - min.y <= Chord::exactExtent;
 }
 
-/// Leaves out the points that are reached and left by equal steps. None of them can be kept: along
-/// a straight run the distance to a line or point is convex, so it is largest at one of the run's
-/// ends, and where it is constant the beginning comes first.
+/// Leaves out the points whose step before and step after are equal. The algorithm keeps none of
+/// them: along a straight run the distance to a line or point is convex, so it is largest at one of
+/// the run's ends, and where it is constant, the beginning is the earliest point.
 std::vector<GridPoint> withoutStraightRuns(std::span<const GridPoint> points) {
     std::vector<GridPoint> corners{points.front()};
     for (std::size_t i = 1; i + 1 < points.size(); ++i) {
@@ -40,7 +40,7 @@ std::vector<GridPoint> withoutStraightRuns(std::span<const GridPoint> points) {
     return corners;
 }
 
-/// As PathHulls::farthest, one point after the other, and also where deviations are rounded.
+/// Like PathHulls::farthest, but compares every point, and so allows rounded deviations.
 std::size_t farthestByScan(std::span<const GridPoint> path, std::size_t begin, std::size_t end,
                            const Chord& chord) {
     std::size_t farthest = begin;
@@ -55,7 +55,7 @@ std::size_t farthestByScan(std::span<const GridPoint> path, std::size_t begin, s
     return farthest;
 }
 
-/// `findFarthest(begin, end, chord)` tells the inner point at which to split.
+/// `findFarthest(begin, end, chord)` returns the inner point at which to split.
 template <class FindFarthest>
 std::vector<GridPoint> simplify(std::span<const GridPoint> path, double epsilon,
                                 FindFarthest findFarthest) {

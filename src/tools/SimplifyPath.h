@@ -14,7 +14,7 @@ namespace marlevo {
 /// A stretch between two kept points is split at the inner point farthest from the infinite line
 /// through them (from the points themselves where they coincide), the earliest of several, until
 /// none is farther than `epsilon`, which is at least 0. The first and the last point always stay.
-/// Fewer than three points come back unchanged. Distances are compared as the doubles
+/// Fewer than three points are returned unchanged. Distances are compared as the doubles
 /// |dy · px − dx · py| / √(dx² + dy²) and √(px² + py²).
 ///
 /// There is no recursion, and, for paths that extend over at most Chord::exactExtent, no quadratic

@@ -26,7 +26,8 @@ constexpr unsigned opposite(unsigned direction) {
 /// See Region::neighbourhood.
 constexpr unsigned neighbourhoodCount = 512;
 
-/// For each direction back to the previous cell and each neighbourhood, where the trace goes on.
+/// The direction of the next step, for each direction back to the previous cell and each
+/// neighbourhood.
 using DirectionTable = std::array<std::array<std::uint8_t, neighbourhoodCount>, directionCount>;
 
 constexpr DirectionTable makeDirectionTable() {
@@ -64,7 +65,7 @@ std::optional<GridPoint> startCell(const Region& region) {
     return start;
 }
 
-/// Walks along the outline and calls `visit` with each cell and with whether the walk changes its
+/// Traces the outline and calls `visit` with each cell and with whether the trace changes its
 /// direction there. Returns the number of cells.
 template <class Visitor>
 std::size_t walkOutline(const Region& region, Visitor visit) {
@@ -86,8 +87,8 @@ std::size_t walkOutline(const Region& region, Visitor visit) {
         visit(cell, next != direction);
         ++count;
         if (next == noDirection || count >= mostCells) break;
-        // A branch, not a look-up for every step: while the outline runs straight, the processor
-        // goes ahead without waiting for the cells.
+        // A branch instead of a look-up for every step: while the outline is straight, branch
+        // prediction saves the wait for the cells.
         if (next != direction) {
             direction = next;
             nextDirections = nextDirection[opposite(direction)].data();

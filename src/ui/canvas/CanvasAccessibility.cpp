@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A drag of strokes changes the layers with every move of the pointer.
+// Moving a stroke changes the layers with every event of the pointer.
 constexpr auto delay = 200ms;
 
 /// Several tools can be chosen at once: the eraser's key leaves the others as they are.
@@ -70,7 +70,7 @@ QAccessibleInterface* makeCanvasInterface(const QString& className, QObject* obj
     return nullptr;
 }
 
-/// Depends on what the description says without putting it together.
+/// Reads the properties that the description depends on, without composing the text.
 void touchDescription(const DrawingDocument& document) {
     const auto touch = [](const auto&... properties) { ((void)properties.get(), ...); };
     touch(document.canvasSize, document.layers, document.isEraser, document.isFillTool,

@@ -31,7 +31,7 @@ void setUpScrollBar(QScrollBar& bar, int content, int room) {
     bar.setSingleStep(scrollStep);
 }
 
-/// Where `length` starts: centred when there is room, else as far as the bar says.
+/// The start of `length`: centred if there is room, else at the scroll bar's position.
 int start(int length, int room, const QScrollBar& bar) {
     const int content = length + 2 * CanvasScrollArea::margin;
     return content <= room ? (room - length) / 2 : CanvasScrollArea::margin - bar.value();
@@ -106,7 +106,7 @@ void CanvasScrollArea::scrollContentsBy(int, int) { layOut(); }
 void CanvasScrollArea::layOut() {
     const QSize canvas = wholePoints(displaySize(document_.canvasSize, document_.zoom));
     const QSize content = canvas + QSize(2 * margin, 2 * margin);
-    // A bar that is shown must not be what makes it needed.
+    // The room that a bar takes must not be the only reason to show the bar.
     const QSize most = maximumViewportSize();
     const bool fits = content.width() <= most.width() && content.height() <= most.height();
     // Each range may show or hide a bar, which changes the viewport.
@@ -124,9 +124,9 @@ void CanvasScrollArea::layOut() {
     viewport()->update();
 }
 
-/// At a fractional scale factor only every second or fourth point lies on a device pixel. The
-/// canvas goes to such a point, up to three further left or up, so that it stays sharp and the
-/// pointer hits the pixel it shows.
+/// At a fractional scale factor only every second or fourth point is on a device pixel. The canvas
+/// is placed at such a point, up to three points further left or up, so that the picture is sharp
+/// and the pointer reaches the pixel under it.
 QPoint CanvasScrollArea::alignedToDevicePixels(QPoint viewportPosition) const {
     const double ratio = devicePixelRatioF();
     const QPoint inWindow = viewport()->mapTo(window(), viewportPosition);

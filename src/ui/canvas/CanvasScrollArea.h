@@ -18,8 +18,8 @@ class CanvasScrollArea final : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
-    /// Room around the canvas, in view points. Less than what fitting the canvas to the window
-    /// leaves beside it, so that a canvas that was fitted needs no scrolling.
+    /// Room around the canvas, in view points. Smaller than the room that fittingZoom() leaves
+    /// beside the canvas, so that a fitted canvas needs no scrolling.
     static constexpr int margin = 12;
 
     /// The document and the cache must outlive the area.
@@ -27,7 +27,7 @@ public:
 
     CanvasView& view() { return view_; }
 
-    /// With the whole canvas in sight.
+    /// The size that shows the whole canvas.
     QSize sizeHint() const override;
 
 protected:
@@ -45,7 +45,7 @@ private:
 
     DrawingDocument& document_;
     // Before the view, which loses the focus as it is deleted.
-    QWidget focusRing_;  ///< over the canvas, which fills the area when it is large
+    QWidget focusRing_;  ///< above the canvas, because a large canvas covers the area
     bool isFocusVisible_ = false;
     CanvasView view_;
     Follower layoutFollower_;

@@ -44,7 +44,7 @@ CanvasView::CanvasView(DrawingDocument& document, ImageCache& images, QWidget* p
       pointerShape_(document.changeRegistry(), [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
     setAcceptDrops(true);
-    setMouseTracking(true);  // a move with the button up tells that a release was lost
+    setMouseTracking(true);  // a move with the button up shows that a release was lost
     setAccessibleName(tr("Canvas"));
     updateColors();
     connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
@@ -96,13 +96,7 @@ void CanvasView::updateOverlay() {
 void CanvasView::updateDevicePixels(const QRectF& area) {
     const double ratio = devicePixelRatioF();
     const QRectF seen = area & QRectF(QPointF(0, 0), QSizeF(size()) * ratio);
-    if (seen.isEmpty()) return;
-    const bool isFractional = ratio != std::floor(ratio);
-    // The canvas is drawn at a whole device pixel, up to half a pixel beside its corner.
-    const double margin = isFractional ? 1 : 0;
-    update(QRectF((seen.x() - margin) / ratio, (seen.y() - margin) / ratio,
-                  (seen.width() + 2 * margin) / ratio, (seen.height() + 2 * margin) / ratio)
-               .toAlignedRect());
+    if (!seen.isEmpty()) update(touchedPoints(seen, ratio));
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {

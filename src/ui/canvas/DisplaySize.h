@@ -6,8 +6,8 @@
 
 namespace marlevo {
 
-/// How large a canvas is shown at a zoom, in view points. Sides that are no number or below 0 count
-/// as 0; sides beyond what a widget can measure are cut there.
+/// The size of a canvas on screen at a zoom, in view points. Sides that are NaN or below 0 count as
+/// 0; sides are limited to the largest size of a widget.
 QSizeF displaySize(CanvasSize canvas, double zoom);
 
 }  // namespace marlevo

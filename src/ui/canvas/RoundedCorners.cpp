@@ -10,7 +10,7 @@ namespace marlevo {
 
 namespace {
 
-/// What a corner's square has outside the circle; `inward` points to the circle's centre.
+/// The part of a corner's square outside the circle; `inward` points to the circle's centre.
 QPainterPath outsideOfCorner(QPointF corner, QPointF inward, double radius) {
     QPainterPath square;
     square.addRect(QRectF(corner, corner + inward * radius).normalized());
@@ -26,7 +26,7 @@ void clipToRoundedRect(QImage& image, QPoint imageOrigin, QSizeF size, double ra
     const double width = size.width();
     const double height = size.height();
     const QRectF area(imageOrigin, image.size());
-    // Most of what is painted lies well inside.
+    // Most painted areas do not touch the edge.
     if (QRectF(QPointF(0, r), QPointF(width, height - r)).contains(area) ||
         QRectF(QPointF(r, 0), QPointF(width - r, height)).contains(area))
         return;
@@ -38,7 +38,7 @@ void clipToRoundedRect(QImage& image, QPoint imageOrigin, QSizeF size, double ra
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
 
-    // The pixels at the right and bottom edge that the rectangle covers only in part.
+    // The rectangle covers the pixels at its right and bottom edge only in part.
     if (area.right() > width)
         painter.drawRect(QRectF(QPointF(width, area.top()), area.bottomRight()));
     if (area.bottom() > height)

@@ -88,7 +88,7 @@ void StatusBar::showDocument() {
     if (layout() != nullptr) shortenLabels();
 }
 
-/// Where room is missing, the name of the layer, which stands in the sidebar too, gives way first
+/// Without enough room, the name of the layer is shortened first, because the sidebar shows it too,
 /// and the zoom last.
 void StatusBar::shortenLabels() {
     const std::array labels{&activeLayer_, &strokeCount_, &canvasSize_, &zoomText_};

@@ -4,7 +4,7 @@
 
 namespace marlevo {
 
-/// Shows everywhere that the program works, as long as it lives.
+/// Shows the wait pointer over all windows of the program during its lifetime.
 class WaitPointer {
 public:
     WaitPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }

@@ -15,9 +15,9 @@ double zoomedIn(double zoom);
 /// One step further away, not below `minZoom`.
 double zoomedOut(double zoom);
 
-/// The zoom at which the whole canvas is in sight in a window whose content has this size, in view
-/// points; it is not limited to the range. What the window shows beside the canvas counts with
-/// fixed measures, whatever it really takes.
+/// The zoom at which the whole canvas fits a window with content of this size, in view points; not
+/// limited to the range. Fixed measures represent the sidebar and the status bar, whatever their
+/// real sizes.
 double fittingZoom(CanvasSize canvas, QSizeF content);
 
 }  // namespace marlevo
