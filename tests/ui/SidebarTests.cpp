@@ -315,6 +315,25 @@ private Q_SLOTS:
         QCOMPARE(s.document.activeLayerIndex.get(), 2);
     }
 
+    void aHueChosenFromBlackIsTakenAtFullValue() {
+        SidebarSetting s;
+        s.click("Color");
+        QWidget* hues = nullptr;
+        for (QWidget* const part : s.window.findChild<QColorDialog*>()->findChildren<QWidget*>())
+            if (part->metaObject()->indexOfSignal("newCol(int,int)") >= 0) hues = part;
+        QVERIFY(hues);
+        const auto chosenAt = [&](int left) {
+            QTest::mouseClick(hues, Qt::LeftButton, {}, {left, 10});
+            return toQColor(s.document.selectedColor);
+        };
+        const QColor first = chosenAt(hues->width() / 3);
+        QCOMPARE(first.value(), 255);
+        QVERIFY(first.saturation() > 200);
+        // A value that was chosen stays.
+        s.document.selectedColor = Color{0.5, 0, 0, 1};
+        QVERIFY(std::abs(chosenAt(hues->width() / 2).value() - 128) <= 1);
+    }
+
     void thumbnailsAreRenderedWhenTheyAreSeen() {
         SidebarSetting s;
         QCOMPARE(s.backgroundQueue.size(), std::size_t{0});

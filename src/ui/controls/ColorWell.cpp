@@ -36,13 +36,18 @@ ColorWell::ColorWell(const QString& name, Opacity opacity, int width, QWidget* p
     : ToolButton(Look::custom, name, parent), opacity_(opacity), width_(width) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &ColorWell::clicked, this, &ColorWell::openPanel);
+    describeColor();
+}
+
+void ColorWell::describeColor() {
+    const auto format = color_.alpha < 1 ? QColor::HexArgb : QColor::HexRgb;
+    setAccessibleDescription(toQColor(color_).name(format));
 }
 
 void ColorWell::showColor(const Color& color) {
     if (color == color_) return;
     color_ = color;
-    setAccessibleDescription(
-        toQColor(color).name(color.alpha < 1 ? QColor::HexArgb : QColor::HexRgb));
+    describeColor();
     update();
     if (panel_ && toColor(panel_->currentColor()) != color) {
         const QSignalBlocker quiet(panel_);
@@ -93,7 +98,20 @@ void ColorWell::openPanel() {
     panel_->setOption(QColorDialog::NoButtons);
     panel_->setOption(QColorDialog::ShowAlphaChannel, opacity_ == Opacity::choosable);
     connect(panel_, &QColorDialog::currentColorChanged, this, &ColorWell::choose);
+    // The panel's field of hues is a private class of the toolkit, known by its signal.
+    constexpr const char* hueChosen = "newCol(int,int)";
+    for (const QWidget* const part : panel_->findChildren<QWidget*>())
+        if (part->metaObject()->indexOfSignal(hueChosen) >= 0)
+            connect(part, SIGNAL(newCol(int, int)), this, SLOT(takeHue(int, int)));
     panel_->show();
+}
+
+/// In the panel every hue of the value 0 is black: the first hue chosen from there is taken at full
+/// value.
+void ColorWell::takeHue(int hue, int saturation) {
+    const QColor shown = panel_->currentColor();
+    if (shown.value() == 0)
+        panel_->setCurrentColor(QColor::fromHsv(hue, saturation, 255, shown.alpha()));
 }
 
 void ColorWell::choose(const QColor& color) {

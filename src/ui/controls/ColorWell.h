@@ -36,7 +36,12 @@ protected:
 private:
     void openPanel();
     void choose(const QColor& color);
+    void describeColor();
 
+private Q_SLOTS:
+    void takeHue(int hue, int saturation);
+
+private:
     Opacity opacity_;
     int width_;
     Color color_;
