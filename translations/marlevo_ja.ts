@@ -332,13 +332,6 @@
     </message>
 </context>
 <context>
-    <name>marlevo::LayerThumbnailView</name>
-    <message>
-        <source>Thumbnail: %1</source>
-        <translation>サムネイル: %1</translation>
-    </message>
-</context>
-<context>
     <name>marlevo::LayersSection</name>
     <message>
         <source>Add layer</source>

@@ -105,8 +105,8 @@ private Q_SLOTS:
         s.click(name);
         auto* accessible = QAccessible::queryAccessibleInterface(&s.get(name));
         accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(accessible->role(), QAccessible::Button);
-        QVERIFY(accessible->state().pressed);
+        QCOMPARE(accessible->role(), QAccessible::RadioButton);
+        QVERIFY(accessible->state().checked);
         QCOMPARE(activeOf<ModeButton>(s), QStringList{name});
         QCOMPARE(s.window.focusWidget(), s.field);
     }
@@ -338,7 +338,7 @@ private Q_SLOTS:
         SidebarSetting s;
         QCOMPARE(s.backgroundQueue.size(), std::size_t{0});
         s.openLayers();
-        auto& thumbnail = s.get<LayerThumbnailView>("Thumbnail: Background");
+        auto& thumbnail = s.get<LayerThumbnailView>("Background");
         const QPoint middle(22, 16);
         QVERIFY(pixel(thumbnail, middle) != QColor(Qt::white));
         const auto render = [&] {

@@ -2,6 +2,7 @@
 
 #include "model/DrawingDocument.h"
 #include "tools/ToolChoice.h"
+#include "ui/canvas/CanvasScrollArea.h"
 #include "ui/canvas/CanvasTexts.h"
 #include "ui/canvas/CanvasView.h"
 #include "ui/canvas/StatusBar.h"
@@ -67,6 +68,8 @@ QAccessibleInterface* makeCanvasInterface(const QString& className, QObject* obj
     if (auto* view = accessibleAs<CanvasView>(className, object)) return new AccessibleCanvas(view);
     if (auto* bar = accessibleAs<StatusBar>(className, object))
         return new QAccessibleWidget(bar, QAccessible::StatusBar);
+    if (auto* area = accessibleAs<CanvasScrollArea>(className, object))
+        return new QAccessibleWidget(area, QAccessible::Pane);
     return nullptr;
 }
 

@@ -10,9 +10,9 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// Presents status bars and canvas views to assistive technology. A canvas is described by its
-/// size, the chosen tools and the number of strokes at the time of the question. Must be called
-/// before the first of them is shown; further calls do nothing.
+/// Presents drawing areas, status bars and canvas views to assistive technology. A canvas is
+/// described by its size, the chosen tools and the number of strokes at the time of the question.
+/// Must be called before the first of them is shown; further calls do nothing.
 void installCanvasAccessibility();
 
 /// Notifies assistive technology, if any is active, that the description of a canvas may have

@@ -1,5 +1,6 @@
 #include "ui/controls/ChoiceRow.h"
 
+#include "ui/controls/ControlAccessibility.h"
 #include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/TypeScale.h"
 
@@ -8,6 +9,7 @@
 namespace marlevo {
 
 ChoiceRow::ChoiceRow(const QString& text, QWidget* parent) : QRadioButton(text, parent) {
+    installControlAccessibility();
     // The owner may show that no row is chosen, which an exclusive group cannot.
     setAutoExclusive(false);
     // A click leaves the keys where they are.

@@ -1,8 +1,11 @@
 #include "ui/controls/ControlAccessibility.h"
 
 #include "ui/controls/ChoiceButton.h"
+#include "ui/controls/ChoiceRow.h"
 #include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/DisclosureButton.h"
+#include "ui/controls/IconButton.h"
+#include "ui/controls/Popover.h"
 
 namespace marlevo {
 
@@ -55,20 +58,41 @@ private:
     DisclosureButton& button_;
 };
 
-/// A toggle button: checked and pressed while its choice is active.
+/// One of several choices.
 class AccessibleChoice final : public AccessibleButton {
 public:
-    explicit AccessibleChoice(ChoiceButton* button) : AccessibleButton(button), button_(*button) {}
+    explicit AccessibleChoice(QAbstractButton* button)
+        : AccessibleButton(button, QAccessible::RadioButton), button_(*button) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const QString text = AccessibleButton::text(kind);
+        return text.isEmpty() && kind == QAccessible::Name ? button_.text() : text;
+    }
 
     QAccessible::State state() const override {
         QAccessible::State state = AccessibleButton::state();
         state.checkable = true;
-        state.checked = state.pressed = button_.isActive();
+        state.checked = button_.isChecked();
         return state;
     }
 
 private:
-    ChoiceButton& button_;
+    QAbstractButton& button_;
+};
+
+class AccessibleIconButton final : public AccessibleButton {
+public:
+    explicit AccessibleIconButton(IconButton* button)
+        : AccessibleButton(button), button_(*button) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = AccessibleButton::state();
+        state.hasPopup = button_.opensPopover();
+        return state;
+    }
+
+private:
+    IconButton& button_;
 };
 
 QAccessibleInterface* makeControlInterface(const QString& className, QObject* object) {
@@ -79,6 +103,11 @@ QAccessibleInterface* makeControlInterface(const QString& className, QObject* ob
         return new AccessibleDisclosure(button);
     if (auto* button = accessibleAs<ChoiceButton>(className, object))
         return new AccessibleChoice(button);
+    if (auto* row = accessibleAs<ChoiceRow>(className, object)) return new AccessibleChoice(row);
+    if (auto* button = accessibleAs<IconButton>(className, object))
+        return new AccessibleIconButton(button);
+    if (auto* popover = accessibleAs<Popover>(className, object))
+        return new QAccessibleWidget(popover, QAccessible::Dialog);
     return nullptr;
 }
 

@@ -12,6 +12,13 @@ class IconButton final : public ToolButton {
 public:
     /// `name` is the accessible name and the tooltip.
     IconButton(Icon icon, const QString& name, Look look, QWidget* parent = nullptr);
+
+    /// For assistive technology; false at first.
+    bool opensPopover() const { return opensPopover_; }
+    void setOpensPopover(bool opensPopover) { opensPopover_ = opensPopover; }
+
+private:
+    bool opensPopover_ = false;
 };
 
 }  // namespace marlevo

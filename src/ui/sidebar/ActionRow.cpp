@@ -22,6 +22,7 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
       save_(Icon::documentPlus, tr("Save"), IconButton::Look::borderless),
       export_(Icon::trayArrowDown, tr("Export"), IconButton::Look::borderless),
       historyFollower_(document.changeRegistry(), [this] { showHistory(); }) {
+    export_.setOpensPopover(true);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, verticalPadding, 0, verticalPadding);
     row->setSpacing(spacing);

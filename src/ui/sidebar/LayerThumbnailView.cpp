@@ -29,7 +29,7 @@ void LayerThumbnailView::showLayer(const Layer& layer, CanvasSize canvas, bool i
     layer_ = layer;
     canvas_ = canvas;
     isActive_ = isActive;
-    setAccessibleName(tr("Thumbnail: %1").arg(QString::fromStdString(layer.name)));
+    setAccessibleName(QString::fromStdString(layer.name));
     if (isVisible()) thumbnail_.show(layer, canvas);
     update();
 }

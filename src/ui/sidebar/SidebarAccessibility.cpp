@@ -2,6 +2,7 @@
 
 #include "ui/controls/ControlAccessibility.h"
 #include "ui/sidebar/LayerRows.h"
+#include "ui/sidebar/SidebarView.h"
 
 #include <algorithm>
 
@@ -67,6 +68,8 @@ QAccessibleInterface* makeSidebarInterface(const QString& className, QObject* ob
         return new AccessibleLayerList(rows);
     if (auto* thumbnail = accessibleAs<LayerThumbnailView>(className, object))
         return new QAccessibleWidget(thumbnail, QAccessible::Graphic);
+    if (auto* sidebar = accessibleAs<SidebarView>(className, object))
+        return new QAccessibleWidget(sidebar, QAccessible::Pane);
     return nullptr;
 }
 

@@ -9,6 +9,7 @@
 #include "ui/sidebar/FormsSection.h"
 #include "ui/sidebar/LayerCount.h"
 #include "ui/sidebar/LayersSection.h"
+#include "ui/sidebar/SidebarAccessibility.h"
 #include "ui/sidebar/ViewSection.h"
 
 #include <QEvent>
@@ -30,6 +31,7 @@ constexpr int separatorPadding = 2;
 
 SidebarView::SidebarView(DrawingDocument& document, ImageCache& images, QWidget* parent)
     : QScrollArea(parent), column_(new QWidget) {
+    installSidebarAccessibility();
     setFrameShape(NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

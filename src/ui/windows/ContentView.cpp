@@ -92,6 +92,9 @@ void ContentView::layOut() {
     columns_.setHandleWidth(1);
     columns_.addWidget(&sidebar_);
     columns_.addWidget(drawing);
+    // The order for assistive technology; the splitter would leave the first at the end.
+    drawing->raise();
+    columns_.handle(1)->raise();
     columns_.setStretchFactor(1, 1);
     sidebar_.setMaximumWidth(SidebarView::greatestWidth);
     columns_.setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
