@@ -113,7 +113,7 @@ int main() {
     const std::vector<Stroke> strokes = drawing();
     DrawingDocument document;
     document.ensureLayers();
-    document.layers.modify([&](LayerList& layers) { layers[0].strokes = StrokeList(strokes); });
+    document.layers.modifyAndPublish([&](LayerList& layers) { layers[0].strokes = StrokeList(strokes); });
 
     std::printf("%d strokes of %d points as one PDF page, processor time and size\n", strokesOnPage,
                 pointsPerStroke);

@@ -87,7 +87,7 @@ struct SharingDocument {
 struct LayeredDocument : SharingDocument {
     LayeredDocument() {
         for (int i = 0; i < 200; ++i)
-            doc.layers.modify([](LayerList& all) { all.push_back(Layer("")); });
+            doc.layers.modifyAndPublish([](LayerList& all) { all.push_back(Layer("")); });
     }
 };
 

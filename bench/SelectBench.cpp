@@ -43,7 +43,7 @@ double microseconds(int times, Work work) {
 void measure(int count) {
     DrawingDocument document;
     document.ensureLayers();
-    document.layers.modify(
+    document.layers.modifyAndPublish(
         [&](LayerList& layers) { layers[0].strokes = StrokeList(randomStrokes(count)); });
 
     std::mt19937 random(2);

@@ -5,18 +5,19 @@
 
 namespace marlevo {
 
-/// A rectangle in single precision that holds what it was made from, for quick searches.
+/// A rectangle in single precision for fast searches: rounded outwards, so that it contains the
+/// rectangle it was made from. Without arguments it touches nothing.
 struct Box {
     float minX = StrokeSummary::infinity;
     float minY = StrokeSummary::infinity;
     float maxX = -StrokeSummary::infinity;
     float maxY = -StrokeSummary::infinity;
 
-    /// The area grown by a margin and by the doubt that rounding leaves. One that is not a number
-    /// touches every other box.
+    /// The area grown by a margin and by the possible rounding error. Touches every other box if a
+    /// coordinate is NaN.
     static Box around(const Rect& area, double margin);
 
-    /// All that the strokes paint, anti-aliasing aside; nothing touches it when they have no
+    /// The area that the strokes paint, without anti-aliasing. Touches nothing if they have no
     /// points.
     static Box paintedBy(const StrokeSummary& strokes);
 

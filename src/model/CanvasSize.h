@@ -7,7 +7,7 @@
 
 namespace marlevo {
 
-/// The extent of a picture in canvas pixels. A file may bring any value, also 0, negative or huge.
+/// The extent of a picture in canvas pixels. A file may contain any value: 0, negative or huge.
 struct CanvasSize {
     struct Preset;
 

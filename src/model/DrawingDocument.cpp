@@ -28,7 +28,7 @@ const Layer* DrawingDocument::activeLayer() const {
 }
 
 bool DrawingDocument::isDrawingMode() const {
-    // Short-circuit on purpose: only the flags examined count as read.
+    // Short-circuit on purpose: a reader depends only on the flags that were evaluated.
     return !*isEraser && !*isFillTool && !*isShapeTool && !*isEyeDropper && !*isSelectTool;
 }
 

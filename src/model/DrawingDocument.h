@@ -21,11 +21,10 @@ class ImageCache;
 /// Everything that one window shows and edits: the picture, the stroke in progress, the tool
 /// settings, the selection, the view, the file and the history.
 ///
-/// Used on the user-interface thread only. Operations never report errors: an invalid index, an
-/// absent selection or an empty history changes nothing. Each property publishes its own changes to
-/// the readers that read it (Property.h).
-/// A reader that is told in the middle of an operation must not change `layers`: operations do not
-/// look at them again after each step.
+/// Used on the user-interface thread only. Operations report no errors: an invalid index, an absent
+/// selection or an empty history changes nothing. Each property publishes its own changes to the
+/// readers that have read it (Property.h). Operations publish in the middle; a reader must not
+/// change `layers` then, because operations do not read them again after each step.
 ///
 /// The class holds stored state, its observation, the layers and the history. Everything else that
 /// is done to a document is a free function, declared in the folder that defines it.
@@ -41,7 +40,7 @@ public:
     DrawingDocument& operator=(const DrawingDocument&) = delete;
 
 private:
-    // First, since every property holds on to it.
+    // Declared first: the properties keep a pointer to it.
     ChangeRegistry changeRegistry_;
 
 public:
@@ -66,17 +65,18 @@ public:
     Property<CanvasSize, P::canvasSize> canvasSize;
     Property<double, P::zoom> zoom;
     Property<bool, P::showGrid> showGrid;
-    Property<ExportFormat, P::exportFormat> exportFormat;
-    Property<bool, P::showExportPopover> showExportPopover;
+    Property<ExportFormat, P::exportFormat> exportFormat;    ///< no operation reads it
+    Property<bool, P::showExportPopover> showExportPopover;  ///< no operation reads it
     Property<std::optional<std::filesystem::path>, P::currentFileURL> currentFileURL;
 
 private:
     Property<std::vector<Snapshot>, P::undoStack, Publishing::always> undoStack;
     Property<std::vector<Snapshot>, P::redoStack, Publishing::always> redoStack;
+    /// Emptied by changes; no operation reads it. The sidebar renders its thumbnails itself.
     Property<std::unordered_map<Uuid, RasterImage>, P::layerThumbnails> layerThumbnails;
 
 public:
-    /// To make a Reader of this document's properties.
+    /// For readers of this document's properties.
     ChangeRegistry& changeRegistry() { return changeRegistry_; }
     const Services& services() const { return services_; }
 
@@ -92,7 +92,7 @@ public:
     /// True when no tool flag is set: the brush draws.
     bool isDrawingMode() const;
 
-    /// Makes sure that there is a layer.
+    /// Adds a layer, "Background", if there is none.
     void ensureLayers();
 
     void addLayer();
@@ -104,7 +104,8 @@ public:
     void clearSelection();
 
     // ---- History (model/History.cpp) ------------------------------------------------------------
-    /// Puts the layers on the undo stack and empties the redo stack; to be called before a change.
+    /// Pushes the layers on the undo stack and empties the redo stack. To be called before a
+    /// change.
     void saveState();
     void undo();
     void redo();
@@ -113,7 +114,7 @@ public:
     /// progress.
     void startNewHistory();
 
-    /// Readings of the history's stacks, which count as reading the stack.
+    /// A reader of one of them depends on the stack.
     bool canUndo() const { return !undoStack->empty(); }
     bool canRedo() const { return !redoStack->empty(); }
 

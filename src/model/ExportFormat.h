@@ -5,14 +5,14 @@
 
 namespace marlevo {
 
-/// The forms in which a picture leaves the program.
+/// The file formats that a picture is exported in.
 enum class ExportFormat : unsigned char { png, jpeg, tiff, bmp, pdf };
 
 inline constexpr std::array allExportFormats{ExportFormat::png, ExportFormat::jpeg,
                                              ExportFormat::tiff, ExportFormat::bmp,
                                              ExportFormat::pdf};
 
-/// The format's name as shown and as its identity: "PNG", "JPEG", "TIFF", "BMP", "PDF".
+/// The format's name, which is shown and identifies it: "PNG", "JPEG", "TIFF", "BMP", "PDF".
 constexpr std::string_view rawValue(ExportFormat format) {
     switch (format) {
     case ExportFormat::png:

@@ -5,7 +5,7 @@
 namespace marlevo {
 
 void DrawingDocument::saveState() {
-    undoStack.modify([&](std::vector<Snapshot>& stack) { stack.push_back(*layers); });
+    undoStack.modifyAndPublish([&](std::vector<Snapshot>& stack) { stack.push_back(*layers); });
     redoStack = std::vector<Snapshot>();
     layerThumbnails = {};
 }
@@ -24,9 +24,9 @@ void DrawingDocument::redo() { stepHistory(redoStack, undoStack); }
 template <typename Source, typename Target>
 void DrawingDocument::stepHistory(Source& source, Target& target) {
     if (source->empty()) return;
-    target.modify([&](std::vector<Snapshot>& stack) { stack.push_back(*layers); });
+    target.modifyAndPublish([&](std::vector<Snapshot>& stack) { stack.push_back(*layers); });
     Snapshot restored;
-    source.modify([&](std::vector<Snapshot>& stack) {
+    source.modifyAndPublish([&](std::vector<Snapshot>& stack) {
         restored = std::move(stack.back());
         stack.pop_back();
     });

@@ -11,9 +11,9 @@
 
 namespace marlevo {
 
-/// The layers of a picture; index 0 lies lowest and is drawn first. A sequence with value semantics
-/// whose copies share every layer that did not change, so that a step of the history costs one
-/// pointer a layer: each fill makes a layer, so there may be hundreds.
+/// The layers of a picture; index 0 is the lowest and drawn first. A sequence with value semantics
+/// whose copies share every unchanged layer, so that a step of the history costs one pointer per
+/// layer. There may be hundreds, because each fill adds one.
 ///
 /// Reading through a const list, or through its iterators, never unshares. Indices must be valid;
 /// references to layers are valid until the list changes.
@@ -40,7 +40,7 @@ public:
     std::reverse_iterator<Iterator> rbegin() const;
     std::reverse_iterator<Iterator> rend() const;
 
-    /// For changing the layer: it becomes this list's own.
+    /// For changes: a shared layer is copied first.
     Layer& operator[](std::size_t index) {
         IntrusivePtr<Entry>& entry = layers_[index];
         if (!entry.isUnique()) entry = IntrusivePtr<Entry>::make(*entry);
@@ -63,10 +63,10 @@ private:
     std::vector<IntrusivePtr<Entry>> layers_;
 };
 
-/// Goes through a list in order; a change of the list invalidates it.
+/// Visits a list in both directions. A change of the list invalidates it.
 class LayerList::Iterator {
 public:
-    using iterator_category = std::random_access_iterator_tag;
+    using iterator_category = std::bidirectional_iterator_tag;
     using value_type = Layer;
     using difference_type = std::ptrdiff_t;
     using pointer = const Layer*;
@@ -76,21 +76,10 @@ public:
 
     const Layer& operator*() const { return (*entry_)->layer; }
     const Layer* operator->() const { return &**this; }
-    const Layer& operator[](difference_type n) const { return entry_[n]->layer; }
-    Iterator& operator++() { return *this += 1; }
-    Iterator& operator--() { return *this -= 1; }
+    Iterator& operator++() { return ++entry_, *this; }
+    Iterator& operator--() { return --entry_, *this; }
     Iterator operator++(int) { return Iterator(entry_++); }
     Iterator operator--(int) { return Iterator(entry_--); }
-    Iterator& operator+=(difference_type n) { return entry_ += n, *this; }
-    Iterator& operator-=(difference_type n) { return entry_ -= n, *this; }
-
-    friend Iterator operator+(Iterator at, difference_type n) { return at += n; }
-    friend Iterator operator+(difference_type n, Iterator at) { return at += n; }
-    friend Iterator operator-(Iterator at, difference_type n) { return at -= n; }
-    friend difference_type operator-(const Iterator& a, const Iterator& b) {
-        return a.entry_ - b.entry_;
-    }
-    friend auto operator<=>(const Iterator&, const Iterator&) = default;
     friend bool operator==(const Iterator&, const Iterator&) = default;
 
 private:
@@ -110,9 +99,9 @@ inline std::reverse_iterator<LayerList::Iterator> LayerList::rbegin() const {
 inline std::reverse_iterator<LayerList::Iterator> LayerList::rend() const {
     return std::reverse_iterator(begin());
 }
-static_assert(std::random_access_iterator<LayerList::Iterator>);
+static_assert(std::bidirectional_iterator<LayerList::Iterator>);
 
-/// True when a layer has the index, which may come from anywhere and also be negative.
+/// True if a layer has the index. Any number is allowed, also a negative one.
 inline bool isValidIndex(std::int64_t index, const LayerList& layers) {
     return index >= 0 && index < std::ssize(layers);
 }

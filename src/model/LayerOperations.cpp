@@ -11,14 +11,14 @@ namespace marlevo {
 void DrawingDocument::addLayer() {
     saveState();
     Layer layer("Layer " + std::to_string(layers->size() + 1));
-    layers.modify([&](LayerList& all) { all.push_back(std::move(layer)); });
+    layers.modifyAndPublish([&](LayerList& all) { all.push_back(std::move(layer)); });
     activeLayerIndex = std::ssize(*layers) - 1;
 }
 
 void DrawingDocument::deleteLayer(std::int64_t at) {
     if (layers->size() < 2 || !isValidIndex(at, *layers)) return;
     saveState();
-    layers.modify([&](LayerList& all) { all.erase(at); });
+    layers.modifyAndPublish([&](LayerList& all) { all.erase(at); });
     clampActiveLayerIndex();
 }
 
@@ -26,14 +26,14 @@ void DrawingDocument::moveLayer(std::int64_t from, std::int64_t to) {
     if (!isValidIndex(from, *layers) || !isValidIndex(to, *layers)) return;
     saveState();
     Layer layer = (*layers)[from];
-    layers.modify([&](LayerList& all) { all.erase(from); });
-    layers.modify([&](LayerList& all) { all.insert(to, std::move(layer)); });
+    layers.modifyAndPublish([&](LayerList& all) { all.erase(from); });
+    layers.modifyAndPublish([&](LayerList& all) { all.insert(to, std::move(layer)); });
     activeLayerIndex = to;
 }
 
 void DrawingDocument::toggleLayerVisibility(std::int64_t index) {
     if (!isValidIndex(index, *layers)) return;
-    layers.modify([&](LayerList& all) { all[index].isVisible = !all[index].isVisible; });
+    layers.modifyAndPublish([&](LayerList& all) { all[index].isVisible = !all[index].isVisible; });
 }
 
 void DrawingDocument::clearActiveLayer() {
@@ -41,7 +41,7 @@ void DrawingDocument::clearActiveLayer() {
     if (!active || active->strokes.isEmpty()) return;
     saveState();
     const std::int64_t index = *activeLayerIndex;
-    layers.modify([&](LayerList& all) { all[index].strokes.clear(); });
+    layers.modifyAndPublish([&](LayerList& all) { all[index].strokes.clear(); });
     clearSelection();
 }
 
@@ -50,7 +50,7 @@ void DrawingDocument::clearAll() {
     if (std::ranges::all_of(*layers, isEmpty)) return;
     saveState();
     for (std::size_t index = 0; index < layers->size(); ++index)
-        layers.modify([&](LayerList& all) { all[index].strokes.clear(); });
+        layers.modifyAndPublish([&](LayerList& all) { all[index].strokes.clear(); });
     clearSelection();
 }
 

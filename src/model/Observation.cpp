@@ -4,7 +4,7 @@
 
 namespace marlevo {
 
-/// Where a publish stands in the list of readers.
+/// The position of a publish in the list of readers.
 struct ChangeRegistry::Cursor {
     Reader* next;
     Cursor* outer;
@@ -16,13 +16,13 @@ ChangeRegistry::~ChangeRegistry() {
 }
 
 void ChangeRegistry::publish(DocumentProperty property) {
-    // Readers come at the front, behind every cursor, so a publish never meets one that is newer.
+    // New readers are added at the front. A cursor moves to the end, so it never reaches them.
     Cursor cursor{first_, cursors_};
     cursors_ = &cursor;
     while (Reader* reader = cursor.next) {
         cursor.next = reader->next_;
         if (!(reader->dependencies_ & dependencyBit(property))) continue;
-        // The callback may end its reader and must survive that.
+        // Shared, because the callback may destroy its reader.
         const std::shared_ptr<const Reader::Callback> onChange = reader->onChange_;
         (*onChange)(property);
     }
@@ -44,13 +44,14 @@ Reader::~Reader() {
     if (next_) next_->previous_ = previous_;
 }
 
-Reader::RenderScope::RenderScope(Reader& reader) : registry_(reader.registry_), outer_(nullptr) {
+Reader::ObservingScope::ObservingScope(Reader& reader)
+    : registry_(reader.registry_), outer_(nullptr) {
     reader.dependencies_ = 0;
-    if (registry_) outer_ = std::exchange(registry_->rendering_, &reader);
+    if (registry_) outer_ = std::exchange(registry_->observing_, &reader);
 }
 
-Reader::RenderScope::~RenderScope() {
-    if (registry_) registry_->rendering_ = outer_;
+Reader::ObservingScope::~ObservingScope() {
+    if (registry_) registry_->observing_ = outer_;
 }
 
 }  // namespace marlevo

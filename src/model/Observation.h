@@ -43,12 +43,12 @@ constexpr std::uint32_t dependencyBit(DocumentProperty property) {
 
 class Reader;
 
-/// Knows which reader depends on which property and tells readers of changes.
+/// Records which reader depends on which property, and calls the readers after changes.
 ///
-/// Single-threaded: everything happens on the thread of the document. Publishing is synchronous and
-/// allocates nothing. While being told, a reader may read, change properties, register anew, vanish
-/// or make others vanish; a reader that vanished is not told, one that came during a publish is
-/// told from the next one on.
+/// Used on the document's thread only. Publishing is synchronous and allocates nothing. During its
+/// call a reader may read and change properties, observe again, and create and destroy readers. A
+/// destroyed reader is not called. A reader created during a publish is called from the next
+/// publish on.
 class ChangeRegistry {
 public:
     ChangeRegistry() = default;
@@ -56,10 +56,10 @@ public:
     ChangeRegistry(const ChangeRegistry&) = delete;
     ChangeRegistry& operator=(const ChangeRegistry&) = delete;
 
-    /// Makes the reader that is rendering now, if any, depend on the property.
+    /// Makes the reader that observes now, if any, depend on the property.
     void noteRead(DocumentProperty property) const;
 
-    /// Tells every reader that depends on the property.
+    /// Calls every reader that depends on the property.
     void publish(DocumentProperty property);
 
 private:
@@ -68,11 +68,11 @@ private:
 
     Reader* first_ = nullptr;
     Cursor* cursors_ = nullptr;            ///< publishes in progress, innermost first
-    mutable Reader* rendering_ = nullptr;  ///< who the reads of this moment belong to
+    mutable Reader* observing_ = nullptr;  ///< the one for which reads are recorded now
 };
 
-/// Somebody who shows parts of a document and wants to know when they change. RAII: its
-/// registration ends with it; it may also outlive the registry, and then hears nothing more.
+/// Observes the properties that were read during the last call of observe(). Unregisters itself
+/// when destroyed. May outlive the registry and is then not called any more.
 class Reader {
 public:
     using Callback = std::function<void(DocumentProperty)>;
@@ -82,23 +82,23 @@ public:
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
 
-    /// Runs `render`; from now on this reader depends on exactly the properties read meanwhile.
-    /// Nested calls of other readers keep their reads to themselves.
-    template <typename Render>
-    decltype(auto) observe(Render&& render) {
-        const RenderScope scope(*this);
-        return render();
+    /// Runs `read`. From then on this reader depends on the properties that were read meanwhile,
+    /// and on no others. Reads inside a nested call of another reader belong to that reader only.
+    template <typename Read>
+    decltype(auto) observe(Read&& read) {
+        const ObservingScope scope(*this);
+        return read();
     }
 
 private:
     friend class ChangeRegistry;
 
-    class RenderScope {
+    class ObservingScope {
     public:
-        explicit RenderScope(Reader& reader);
-        ~RenderScope();
-        RenderScope(const RenderScope&) = delete;
-        RenderScope& operator=(const RenderScope&) = delete;
+        explicit ObservingScope(Reader& reader);
+        ~ObservingScope();
+        ObservingScope(const ObservingScope&) = delete;
+        ObservingScope& operator=(const ObservingScope&) = delete;
 
     private:
         ChangeRegistry* registry_;
@@ -113,7 +113,7 @@ private:
 };
 
 inline void ChangeRegistry::noteRead(DocumentProperty property) const {
-    if (rendering_) rendering_->dependencies_ |= dependencyBit(property);
+    if (observing_) observing_->dependencies_ |= dependencyBit(property);
 }
 
 }  // namespace marlevo

@@ -7,7 +7,7 @@ namespace marlevo {
 
 namespace {
 
-// A NaN sticks: a box that forgot it would claim to hold a point that it does not.
+// Once NaN, the box stays NaN: it does not contain the point that made it so.
 void stretch(double& least, double& greatest, double value) {
     if (std::isnan(value)) least = greatest = value;
     if (value < least) least = value;
@@ -46,7 +46,7 @@ void PointList::append(Point point) {
 }
 
 void PointList::shrinkToFit() {
-    // A copy has no spare room. Other owners keep the block they have.
+    // A copied vector has no spare capacity. Other owners keep their block.
     if (block_ && block_->points.capacity() > block_->points.size())
         block_ = IntrusivePtr<Block>::make(*block_);
 }

@@ -33,8 +33,8 @@ public:
     /// Frees memory kept ready for further points.
     void shrinkToFit();
 
-    /// The smallest rectangle that holds every point, at no cost; all zero without points. A side
-    /// is NaN when a coordinate along it is.
+    /// The smallest rectangle that holds every point, in constant time; all zero without points. A
+    /// side is NaN if a coordinate along it is.
     Rect bounds() const;
 
     /// True when both share one block: a cheap "known equal".

@@ -6,14 +6,14 @@
 
 namespace marlevo {
 
-/// When assigning a property tells its readers.
+/// When assigning a property publishes to its readers.
 enum class Publishing : unsigned char {
     onDifference,  ///< only when the new value differs from the old one
     always,
 };
 
-/// One stored property of a document: reading it while a reader renders makes that reader depend on
-/// it; assigning it publishes, synchronously, after the value is stored.
+/// One stored property of a document. Reading it while a reader observes makes that reader depend
+/// on it; assigning it publishes, synchronously, after the value is stored.
 template <typename T, DocumentProperty id, Publishing publishing = Publishing::onDifference>
 class Property {
 public:
@@ -42,9 +42,9 @@ public:
         return *this;
     }
 
-    /// Changes the value in place, then publishes without comparing.
+    /// Changes the value in place, then publishes, also if the value is as before.
     template <typename Change>
-    void modify(Change&& change) {
+    void modifyAndPublish(Change&& change) {
         std::forward<Change>(change)(value_);
         registry_->publish(id);
     }

@@ -10,7 +10,7 @@
 
 namespace marlevo {
 
-/// One mark on a layer. Has no identity: it is addressed by its layer and its index there.
+/// One mark on a layer. Has no identity: its layer and its index there address it.
 /// A copy shares the points.
 struct Stroke {
     enum class ShapeType : unsigned char { freehand, line, rect, ellipse };

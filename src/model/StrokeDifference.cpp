@@ -5,9 +5,9 @@
 #include <span>
 
 // A stroke or node that two versions share is the same object in both, and no operation changes the
-// order of those that stay. So it is enough to compare sets of objects, level by level from the
-// root: what both sides have at a level is dropped with all that is below it, the rest is replaced
-// by its children.
+// order of the remaining ones. So it is enough to compare sets of objects, level by level from the
+// root: nodes of both sides are dropped with all that is below them, the others are replaced by
+// their children.
 
 namespace marlevo {
 
@@ -16,8 +16,8 @@ namespace {
 using stroke_tree::Node;
 using stroke_tree::Record;
 
-/// A leaf's strokes as one version knows them: versions may share an open leaf and differ in how
-/// much of it is theirs.
+/// The strokes of a leaf that belong to one version: versions may share an open leaf and have
+/// different numbers of its strokes.
 struct Run {
     explicit Run(std::span<const IntrusivePtr<Record>> records)
         : first(records.data()), size(records.size()) {}

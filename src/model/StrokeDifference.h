@@ -13,9 +13,9 @@ struct StrokeDifference {
     std::vector<const Stroke*> removed;  ///< only in `before`
     std::vector<const Stroke*> added;    ///< only in `after`
 
-    /// Takes time in proportion to what the lists do not share, wherever that lies; a stroke that
-    /// both hold is never reported, also when an erase has shifted it. Strokes are compared by
-    /// identity: two equal ones that were added separately differ.
+    /// Takes time proportional to what the lists do not share. A stroke in both is never reported,
+    /// even at another index. Strokes are compared by identity: two equal ones that were added
+    /// separately differ.
     static StrokeDifference between(const StrokeList& before, const StrokeList& after);
 };
 

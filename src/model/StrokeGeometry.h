@@ -9,8 +9,8 @@
 namespace marlevo {
 
 /// Adds the freehand curve of at least two points to the path: quadratic curves that end at the
-/// midpoints of neighbouring points and bend towards the points, then a straight piece to the last
-/// one. `place` maps each canvas point into the path's frame; midpoints are taken before it.
+/// midpoints of neighbouring points and have the points as controls, then a straight line to the
+/// last point. `place` maps canvas points into the path's frame, after the midpoints are computed.
 template <typename Place>
 void addFreehandCurve(Path& path, std::span<const Point> points, Place place) {
     path.reserve(points.size() + 1);

@@ -14,14 +14,14 @@
 
 namespace marlevo {
 
-/// The strokes of a layer: a sequence with value semantics whose copies share all that did not
-/// change, so that a copy costs two pointers and a changed copy a path of nodes.
+/// The strokes of a layer: a sequence with value semantics whose copies share all that is
+/// unchanged. A copy costs two pointers, a changed copy one path of nodes.
 ///
 /// A tree of reference-counted nodes, 32 wide, whose leaves hold the strokes by pointer, and an
-/// open leaf at the end that is not yet in the tree. Nodes are changed in place when this list is
-/// their only owner. Appending to the open leaf takes constant time even though older copies share
-/// it: each copy knows how many of the leaf's strokes are its own. Other changes, and finding a
-/// stroke by its index, take time logarithmic in the size.
+/// open leaf after them that is not yet in the tree. Nodes are changed in place if this list is
+/// their only owner. Appending to the open leaf takes constant time although older copies share it:
+/// each copy stores how many of the leaf's strokes are its own. Other changes, and finding a stroke
+/// by its index, take time logarithmic in the size.
 ///
 /// One list belongs to one thread at a time; copies may be used and changed on different threads.
 /// Indices must be valid. References to strokes are valid until their list changes.
@@ -40,7 +40,7 @@ public:
     Iterator begin() const;
     Iterator end() const;
 
-    /// Also gives back the memory that the stroke's points keep ready for more.
+    /// Also frees the spare capacity of the stroke's points.
     void append(Stroke stroke);
     void erase(std::size_t at);
     void replace(std::size_t at, Stroke stroke);
@@ -54,12 +54,13 @@ public:
         replace(at, std::move(stroke));
     }
 
-    /// What all strokes add up to.
+    /// Of all strokes.
     StrokeSummary summary() const;
 
     /// Calls `visitor(index, stroke, its box)` in order for each stroke that paints something, or
-    /// has a point, within `margin` of the area, and perhaps for one that only nearly does. Stops
-    /// when the visitor answers false; false if it did. Does not itself look into the strokes.
+    /// has a point, within `margin` of the area. May also call it for a stroke slightly further
+    /// away. Stops, and returns false, when the visitor returns false. Reads boxes only, so the
+    /// strokes themselves are not loaded into the processor's cache.
     template <typename Visitor>
     bool visitNear(const Rect& area, double margin, Visitor&& visitor) const {
         const stroke_tree::Search search(area, margin);
@@ -90,7 +91,7 @@ private:
     std::uint32_t tailSize_ = 0;  ///< less than a full leaf
 };
 
-/// Goes through a list in order; a change of the list invalidates it.
+/// Visits a list in order. A change of the list invalidates it.
 class StrokeList::Iterator {
 public:
     using iterator_category = std::forward_iterator_tag;

@@ -40,7 +40,7 @@ bool StrokeSummary::reaches(const Rect& area, double margin) const {
     const double largest =
         std::max({std::abs(minX), std::abs(minY), std::abs(maxX), std::abs(maxY), margin});
     const double near = margin + 16 * std::numeric_limits<double>::epsilon() * largest;
-    // Said in the negative, so that an area which is not a number is reached.
+    // Negated comparisons, so that NaN counts as reached.
     return !(area.maxX() < minX - near || area.minX() > maxX + near || area.maxY() < minY - near ||
              area.minY() > maxY + near);
 }

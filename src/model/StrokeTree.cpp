@@ -6,8 +6,8 @@ namespace marlevo::stroke_tree {
 
 namespace {
 
-/// Makes this owner the only one of the node, by a copy if need be. With every node above owned
-/// likewise, the node may then be changed.
+/// Makes this owner the only one of the node, by a copy if it is shared. The node may then be
+/// changed, provided that every node above it was made unique in the same way.
 template <typename NodeType>
 NodeType& own(IntrusivePtr<Node>& node) {
     if (!node.isUnique()) node = IntrusivePtr<NodeType>::make(static_cast<const NodeType&>(*node));
@@ -83,7 +83,7 @@ Leaf::Leaf(const Leaf& other, std::size_t size) : Node(0), filled(size) {
 }
 
 bool Leaf::appendAfter(std::size_t known, const IntrusivePtr<Record>& record) {
-    // Two versions on two threads may both want the slot.
+    // Two versions on two threads may append at the same time: one of them gets the slot.
     if (known == fanOut || !filled.compare_exchange_strong(known, known + 1)) return false;
     slots[known] = record;
     boxes.set(known, Box::paintedBy(StrokeSummary::of(record->stroke)));

@@ -11,11 +11,11 @@
 #include <cstdint>
 #include <span>
 
-/// The nodes that StrokeList is made of; of no use to anybody else.
+/// The nodes of StrokeList, for its use only.
 ///
-/// All leaves lie at the same depth. Nodes are only ever made by appending, which fills them, and
-/// thinned by erasing, which removes those that become empty and leaves the others where they are:
-/// what one erase touches is one path, and every other node stays shared.
+/// All leaves are at the same depth. Appending creates nodes and fills them. Erasing removes nodes
+/// that become empty and does not move strokes between nodes: it changes one path, and every other
+/// node stays shared.
 namespace marlevo::stroke_tree {
 
 inline constexpr std::size_t fanOut = 32;
@@ -36,8 +36,8 @@ struct Node : RefCounted {
     StrokeSummary summary;       ///< of all strokes below
 };
 
-/// Where each stroke of a leaf paints. Side by side, so that a search goes through little memory,
-/// looks at several strokes at a time and touches none but those it finds.
+/// The areas that the strokes of a leaf paint, as a structure of arrays: a search reads little
+/// memory, tests several strokes at a time, and loads only the strokes it finds.
 struct LeafBoxes {
     std::array<float, fanOut> minX{};
     std::array<float, fanOut> maxX{};
@@ -62,7 +62,8 @@ struct LeafBoxes {
         return (isBeside(at, area) | isAboveOrBelow(at, area)) == 0;
     }
 
-    /// May be true for none. Most searches are for little, and this looks at half of the memory.
+    /// Conservative: may return true when no box touches. Tests x only, which halves the memory
+    /// read.
     bool mayTouch(const Box& area) const {
         std::int32_t any = 0;
         for (std::size_t i = 0; i < fanOut; ++i)
@@ -71,8 +72,8 @@ struct LeafBoxes {
     }
 
 private:
-    // Said in the negative, so that an area which is not a number is touched; in whole numbers and
-    // without branches, for the compiler to look at four strokes at once.
+    // Negated comparisons, so that NaN counts as touching. Integers without branches, so that the
+    // compiler vectorises the loop.
     std::int32_t isBeside(std::size_t at, const Box& area) const {
         return (minX[at] > area.maxX ? 1 : 0) | (maxX[at] < area.minX ? 1 : 0);
     }
@@ -81,9 +82,9 @@ private:
     }
 };
 
-/// Up to `fanOut` strokes. While it is the open end of a list it may be shared by versions of that
-/// list which know different numbers of its strokes; its summary is then not yet used. A slot that
-/// one version has filled is never written again, so the others need not know.
+/// Up to `fanOut` strokes. As the open leaf of a list, versions of that list that have different
+/// numbers of its strokes may share it; its summary is then unused. A slot that one version has
+/// filled is never written again, so that the others do not notice.
 struct Leaf : Node {
     Leaf() : Node(0) {}
     Leaf(const Leaf& other) : Leaf(other, other.filled) { summary = other.summary; }
@@ -93,14 +94,15 @@ struct Leaf : Node {
 
     std::span<const IntrusivePtr<Record>> records() const { return {slots.data(), filled}; }
 
-    /// Puts the record behind the first `known` ones unless the slot is taken or there is none.
+    /// Puts the record after the first `known` ones and returns true, unless that slot is taken or
+    /// the leaf is full.
     bool appendAfter(std::size_t known, const IntrusivePtr<Record>& record);
     void replace(std::size_t at, Stroke stroke);
     void erase(std::size_t at);
     void truncate(std::size_t size);
     void summarise();
 
-    /// Asks the memory for what a search looks at first.
+    /// Prefetches what a search reads first.
     void prefetch() const {
         constexpr std::size_t cacheLine = 64;
         const auto* const bytes = reinterpret_cast<const std::byte*>(&boxes);
@@ -145,7 +147,7 @@ void erase(IntrusivePtr<Node>& root, std::size_t index);
 
 void replace(IntrusivePtr<Node>& root, std::size_t index, Stroke stroke);
 
-/// What StrokeList::visitNear() looks for.
+/// The area that StrokeList::visitNear() searches.
 struct Search {
     Search(const Rect& wanted, double within)
         : area(wanted), margin(within), box(Box::around(wanted, within)) {}
@@ -159,8 +161,9 @@ struct Search {
     Box box;
 };
 
-/// Shows `visitor` those of the first `size` strokes of a leaf that are found, in order; `index` is
-/// that of the first one. Ends early, with false, when the visitor answers false.
+/// Calls `visitor` with those of the first `size` strokes of a leaf that are found, in order.
+/// `index` is the first stroke's index in the list. Stops, and returns false, when the visitor
+/// returns false.
 template <typename Visitor>
 bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Search& search,
            Visitor& visitor) {
@@ -171,10 +174,10 @@ bool visit(const Leaf& leaf, std::size_t size, std::size_t index, const Search& 
     return true;
 }
 
-/// How many leaves a search asks the memory for before it gets there; measured.
+/// The number of leaves that a search prefetches ahead (measured).
 inline constexpr std::size_t leavesAhead = 4;
 
-/// The same for all strokes below a node; whole subtrees are left out by their summary.
+/// The same for all strokes below a node. Skips whole subtrees by their summaries.
 template <typename Visitor>
 bool visit(const Node& node, std::size_t index, const Search& search, Visitor& visitor) {
     if (node.isLeaf()) {

@@ -25,10 +25,10 @@ bool paintsSomething(const Layer& layer) {
     return layer.isVisible && (layer.imageData || !layer.strokes.isEmpty());
 }
 
-/// The layer with the picture's topmost stroke or image; the end when nothing is painted.
-LayerList::Iterator topmostPainted(const LayerList& layers) {
+/// The layer with the picture's topmost stroke or image; null when nothing is painted.
+const Layer* topmostPainted(const LayerList& layers) {
     const auto top = std::find_if(layers.rbegin(), layers.rend(), paintsSomething);
-    return top == layers.rend() ? layers.end() : top.base() - 1;
+    return top == layers.rend() ? nullptr : &*top;
 }
 
 /// True if `after` consists of the strokes of `before` and then those of `added`, at least one.
@@ -41,7 +41,7 @@ bool wereAppended(const std::vector<const Stroke*>& added, const StrokeList& bef
 class Comparison {
 public:
     Comparison(const LayerList& after, double scale, PictureDifference& difference)
-        : top_(topmostPainted(after)), end_(after.end()), scale_(scale), difference_(difference) {}
+        : top_(topmostPainted(after)), scale_(scale), difference_(difference) {}
 
     /// What must be repainted when `before` becomes `after` in the same place of the stack.
     void compare(const Layer& before, const Layer& after) {
@@ -66,8 +66,7 @@ public:
 private:
     void compareStrokes(const Layer& before, const Layer& after) {
         auto strokes = StrokeDifference::between(before.strokes, after.strokes);
-        const bool isOnTop = top_ != end_ && &after == &*top_;
-        if (isOnTop && strokes.removed.empty() && !strokes.added.empty() &&
+        if (&after == top_ && strokes.removed.empty() && !strokes.added.empty() &&
             strokes.added.size() <= maxDrawnOver &&
             wereAppended(strokes.added, before.strokes, after.strokes)) {
             difference_.drawnOver = std::move(strokes.added);
@@ -83,8 +82,7 @@ private:
         difference_.damage.push_back(deviceBounds(stroke, scale_));
     }
 
-    LayerList::Iterator top_;
-    LayerList::Iterator end_;
+    const Layer* top_;
     double scale_;
     PictureDifference& difference_;
 };
@@ -95,28 +93,26 @@ PictureDifference PictureDifference::between(const LayerList& before, const Laye
                                              double scale) {
     PictureDifference difference;
     Comparison comparison(after, scale, difference);
-    const auto sameLayer = [](const Layer& a, const Layer& b) { return a.id == b.id; };
     // Both stacks begin and end with the same layers. Between them, layers were added, removed or
     // moved.
-    const auto head =
-        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), sameLayer).first -
-        before.begin();
-    const auto tail = std::mismatch(before.rbegin(), before.rend() - head, after.rbegin(),
-                                    after.rend() - head, sameLayer)
-                          .first -
-                      before.rbegin();
-    const auto firstOfTail = std::ssize(before) - tail;
-    const auto newFirstOfTail = std::ssize(after) - tail;
+    const std::size_t shorter = std::min(before.size(), after.size());
+    std::size_t head = 0;
+    while (head < shorter && before[head].id == after[head].id)
+        ++head;
+    std::size_t tail = 0;
+    while (tail < shorter - head &&
+           before[before.size() - 1 - tail].id == after[after.size() - 1 - tail].id)
+        ++tail;
     static const Layer none("");
 
-    for (std::ptrdiff_t i = 0; i < head; ++i)
+    for (std::size_t i = 0; i < head; ++i)
         comparison.compare(before[i], after[i]);
-    for (std::ptrdiff_t i = head; i < firstOfTail; ++i)
+    for (std::size_t i = head; i < before.size() - tail; ++i)
         comparison.compare(before[i], none);
-    for (std::ptrdiff_t i = head; i < newFirstOfTail; ++i)
+    for (std::size_t i = head; i < after.size() - tail; ++i)
         comparison.compare(none, after[i]);
-    for (std::ptrdiff_t i = 0; i < tail; ++i)
-        comparison.compare(before[firstOfTail + i], after[newFirstOfTail + i]);
+    for (std::size_t i = tail; i > 0; --i)
+        comparison.compare(before[before.size() - i], after[after.size() - i]);
     return difference;
 }
 

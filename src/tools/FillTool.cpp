@@ -47,7 +47,7 @@ void performFill(DrawingDocument& document, Point at) {
     document.saveState();
     auto& layers = document.layers;
     Layer layer("Fill " + std::to_string(layers->size()));
-    layers.modify([&](LayerList& all) { all.push_back(std::move(layer)); });
+    layers.modifyAndPublish([&](LayerList& all) { all.push_back(std::move(layer)); });
     document.activeLayerIndex = static_cast<std::int64_t>(layers->size()) - 1;
 
     Stroke shape{canvasPoints(shapeOf(region), image->height()),
@@ -57,7 +57,7 @@ void performFill(DrawingDocument& document, Point at) {
                  false,
                  true,
                  Stroke::ShapeType::freehand};
-    layers.modify([&](LayerList& all) { all.back().strokes.append(std::move(shape)); });
+    layers.modifyAndPublish([&](LayerList& all) { all.back().strokes.append(std::move(shape)); });
 }
 
 }  // namespace marlevo

@@ -4,6 +4,7 @@
 #include "tools/HitTest.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace marlevo {
@@ -26,11 +27,10 @@ std::optional<StrokePlace> selectedPlace(const DrawingDocument& document) {
     const std::optional<std::int64_t>& strokeIndex = document.selectedStrokeIndex;
     if (!layerID || !strokeIndex || *strokeIndex < 0) return std::nullopt;
     const LayerList& all = document.layers;
-    const auto layer = std::find_if(all.begin(), all.end(),
-                                    [&](const Layer& each) { return each.id == *layerID; });
+    const auto layer = std::ranges::find(all, *layerID, &Layer::id);
     const auto index = static_cast<std::size_t>(*strokeIndex);
     if (layer == all.end() || index >= layer->strokes.size()) return std::nullopt;
-    return StrokePlace{static_cast<std::size_t>(layer - all.begin()), index};
+    return StrokePlace{static_cast<std::size_t>(std::distance(all.begin(), layer)), index};
 }
 
 const Stroke& strokeAt(const LayerList& layers, const StrokePlace& place) {
@@ -86,7 +86,7 @@ void updateSelectDrag(DrawingDocument& document, Size translation) {
     }
     Stroke stroke = selected;
     stroke.points = PointList(std::move(moved));
-    document.layers.modify([&](LayerList& all) {
+    document.layers.modifyAndPublish([&](LayerList& all) {
         all[place->layer].strokes.replace(place->stroke, std::move(stroke));
     });
 }
@@ -100,7 +100,8 @@ void deleteSelectedStroke(DrawingDocument& document) {
     const auto place = selectedPlace(document);
     if (!place) return;
     document.saveState();
-    document.layers.modify([&](LayerList& all) { all[place->layer].strokes.erase(place->stroke); });
+    document.layers.modifyAndPublish(
+        [&](LayerList& all) { all[place->layer].strokes.erase(place->stroke); });
     // The index first, unlike clearSelection(): the order in which the properties publish is fixed.
     document.selectedStrokeIndex = std::nullopt;
     document.selectedLayerID = std::nullopt;

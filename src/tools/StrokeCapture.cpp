@@ -43,13 +43,13 @@ void addPointToStroke(DrawingDocument& document, Point point) {
         current = std::move(stroke);
         return;
     }
-    current.modify([&](std::optional<Stroke>& stroke) { stroke->points.append(point); });
+    current.modifyAndPublish([&](std::optional<Stroke>& stroke) { stroke->points.append(point); });
 }
 
 void endStroke(DrawingDocument& document) {
     const auto& current = document.currentStroke;
     if (*current && (*current)->points.size() >= 2 && document.activeLayer()) {
-        document.layers.modify(
+        document.layers.modifyAndPublish(
             [&](LayerList& all) { all[*document.activeLayerIndex].strokes.append(**current); });
     }
     document.currentStroke = std::nullopt;

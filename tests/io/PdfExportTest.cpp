@@ -37,11 +37,12 @@ protected:
     }
 
     void add(Stroke stroke) {
-        document.layers.modify([&](LayerList& layers) { layers.back().strokes.append(stroke); });
+        document.layers.modifyAndPublish(
+            [&](LayerList& layers) { layers.back().strokes.append(stroke); });
     }
 
     void addImage(std::vector<std::uint8_t> file, double opacity = 1) {
-        document.layers.modify([&](LayerList& layers) {
+        document.layers.modifyAndPublish([&](LayerList& layers) {
             layers.push_back(Layer("Image"));
             layers.back().imageData.emplace(std::move(file));
             layers.back().opacity = opacity;
@@ -182,7 +183,7 @@ TEST_P(PdfInReaders, PhotosAreTurnedUpright) {
     addImage(jpegWithOrientation(1), 0.75);
     for (std::uint8_t orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(int{orientation});
-        document.layers.modify([&](LayerList& layers) {
+        document.layers.modifyAndPublish([&](LayerList& layers) {
             layers.back().imageData.emplace(jpegWithOrientation(orientation));
         });
         codec.jpegPixels = turned(orientation);

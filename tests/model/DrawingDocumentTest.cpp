@@ -38,7 +38,7 @@ protected:
     void draw(std::int64_t layer) {
         Stroke stroke;
         stroke.points = {{0, 0}, {1, 1}};
-        doc.layers.modify([&](LayerList& all) { all[layer].strokes.append(stroke); });
+        doc.layers.modifyAndPublish([&](LayerList& all) { all[layer].strokes.append(stroke); });
         told.clear();
     }
     std::size_t strokes(std::size_t layer) const { return (*doc.layers)[layer].strokes.size(); }
@@ -140,7 +140,7 @@ TEST_F(LayerOperations, HidingTakesNoSnapshotButUndoRestoresVisibility) {
 }
 
 TEST_F(LayerOperations, ClearingNeedsStrokesAndKeepsTheImage) {
-    doc.layers.modify([](LayerList& all) { all[0].imageData = Bytes({1, 2}); });
+    doc.layers.modifyAndPublish([](LayerList& all) { all[0].imageData = Bytes({1, 2}); });
     select();
     doc.clearActiveLayer();
     doc.clearAll();

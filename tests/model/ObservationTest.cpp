@@ -53,7 +53,7 @@ TEST(Observation, PublishesDifferencesOnlyWhereThereIsEquality) {
     listener.told.clear();
     doc.layers = *doc.layers;
     doc.currentStroke = std::nullopt;
-    doc.layers.modify([](LayerList&) {});
+    doc.layers.modifyAndPublish([](LayerList&) {});
     EXPECT_THAT(listener.told, ElementsAre(P::layers, P::currentStroke, P::layers));
 }
 

@@ -28,7 +28,7 @@ protected:
     }
 
     static void draw(DrawingDocument& on, Point at, std::size_t layer = 0) {
-        on.layers.modify([&](LayerList& layers) {
+        on.layers.modifyAndPublish([&](LayerList& layers) {
             layers[layer].strokes.append(makeStroke({at, {at.x + 200, at.y}}, 60));
         });
     }
@@ -77,19 +77,21 @@ TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
     EXPECT_EQ(rendersAfter([] {}), 0);
     EXPECT_EQ(rendersAfter([&] { document.toggleLayerVisibility(0); }), 0);
     EXPECT_EQ(rendersAfter([&] {
-                  document.layers.modify([](LayerList& layers) { layers[0].name = "Sky"; });
+                  document.layers.modifyAndPublish(
+                      [](LayerList& layers) { layers[0].name = "Sky"; });
               }),
               0);
     EXPECT_EQ(rendersAfter([&] { draw(document, {0, 0}); }), 1);
     EXPECT_EQ(rendersAfter([&] { document.canvasSize = CanvasSize{300, 300}; }), 1);
     const auto setImage = [&] {
-        document.layers.modify([](LayerList& layers) {
+        document.layers.modifyAndPublish([](LayerList& layers) {
             layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 1, 255, 0, 0, 0});
         });
     };
     EXPECT_EQ(rendersAfter(setImage), 1);
     EXPECT_EQ(rendersAfter([&] {
-                  document.layers.modify([](LayerList& layers) { layers[0].opacity = 0.5; });
+                  document.layers.modifyAndPublish(
+                      [](LayerList& layers) { layers[0].opacity = 0.5; });
               }),
               1);
     EXPECT_EQ(*thumbnail.cgImage(), renderSingleLayer(document, layer(), {88, 64}));

@@ -29,7 +29,8 @@ protected:
     }
 
     void add(Stroke stroke, std::size_t layer = 0) {
-        document.layers.modify([&](LayerList& layers) { layers[layer].strokes.append(stroke); });
+        document.layers.modifyAndPublish(
+            [&](LayerList& layers) { layers[layer].strokes.append(stroke); });
     }
 
     /// An image layer of `width` × `height` pixels, the upper half in one colour, the lower in
@@ -43,7 +44,7 @@ protected:
                 file.insert(file.end(), pixel.begin(), pixel.end());
             }
         }
-        document.layers.modify([&](LayerList& layers) {
+        document.layers.modifyAndPublish([&](LayerList& layers) {
             layers.push_back(Layer("Image"));
             layers.back().imageData.emplace(std::move(file));
             layers.back().opacity = opacity;
@@ -155,7 +156,7 @@ TEST_F(RasterCompositing, LayerOpacityFadesTheImageButNoStroke) {
 }
 
 TEST_F(RasterCompositing, UndecodableImagesAreSkippedButNotTheirStrokes) {
-    document.layers.modify([](LayerList& layers) {
+    document.layers.modifyAndPublish([](LayerList& layers) {
         layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 2, 3});
     });
     add(makeStroke({{10, 40}, {90, 40}}));

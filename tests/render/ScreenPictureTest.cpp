@@ -58,7 +58,7 @@ private:
 };
 
 void extendCurrentStroke(DrawingDocument& document, Point to) {
-    document.currentStroke.modify([&](std::optional<Stroke>& stroke) {
+    document.currentStroke.modifyAndPublish([&](std::optional<Stroke>& stroke) {
         if (stroke->shapeType == Stroke::ShapeType::freehand)
             stroke->points.append(to);
         else
@@ -69,7 +69,7 @@ void extendCurrentStroke(DrawingDocument& document, Point to) {
 /// Publishes a state in which the stroke exists twice, as ending a stroke with the pointer does.
 void endCurrentStroke(DrawingDocument& document) {
     if (document.currentStroke.get()->points.size() >= 2 && document.activeLayer()) {
-        document.layers.modify([&](LayerList& all) {
+        document.layers.modifyAndPublish([&](LayerList& all) {
             all[*document.activeLayerIndex].strokes.append(*document.currentStroke.get());
         });
     }
@@ -148,7 +148,7 @@ private:
             makeStroke(PointList(std::move(points)), below(40), Stroke::allShapeTypes[below(4)]);
         stroke.opacity = 0.6;
         stroke.isFill = below(4) == 0;
-        document.layers.modify([&](LayerList& all) {
+        document.layers.modifyAndPublish([&](LayerList& all) {
             StrokeList& strokes = all[layer].strokes;
             const int at = below(static_cast<int>(strokes.size()) + 3);
             if (at >= static_cast<int>(strokes.size()))

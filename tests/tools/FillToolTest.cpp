@@ -42,7 +42,7 @@ TEST_F(FillTool, CoversAnEmptyCanvasByOneShapeOnALayerOfItsOwn) {
 }
 
 TEST_F(FillTool, StaysInsideAClosedOutline) {
-    document.layers.modify([](LayerList& layers) {
+    document.layers.modifyAndPublish([](LayerList& layers) {
         layers[0].strokes.append(makeStroke({{100, 100}, {300, 250}}, 4, Stroke::ShapeType::rect));
     });
     document.addLayer();
@@ -89,7 +89,7 @@ TEST(EyeDropper, PicksWhatAnExportShowsAndTurnsItselfOff) {
     Stroke stroke = makeStroke({{10, 10}, {90, 10}}, 12);
     stroke.color = {1, 0, 0, 1};
     stroke.opacity = 0.5;
-    document.layers.modify([&](LayerList& layers) { layers[0].strokes.append(stroke); });
+    document.layers.modifyAndPublish([&](LayerList& layers) { layers[0].strokes.append(stroke); });
     document.backgroundIsTransparent = true;
     pickColor(document, {50.9, 10.2});
     EXPECT_NEAR(document.selectedColor->red, 0.5, 0.01);

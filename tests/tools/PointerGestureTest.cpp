@@ -71,7 +71,7 @@ struct Hand {
         document.canvasSize = {100, 100};
         document.backgroundColor = Color{1, 0, 0, 1};
         document.ensureLayers();
-        document.layers.modify([](LayerList& all) {
+        document.layers.modifyAndPublish([](LayerList& all) {
             for (const double at : {15.0, 60.0})
                 all[0].strokes.append(
                     makeStroke({{at, at}, {at + 10, at + 10}}, 3, Stroke::ShapeType::rect));
@@ -207,7 +207,7 @@ TEST(PointerGesture, EndsAMoveWithWhatItMovesAndLeavesTheNextStrokeAlone) {
         {"another layer", [](Hand& h) { h.document.addLayer(); }},
         {"the next stroke in its place",
          [](Hand& h) {
-             h.document.layers.modify([](LayerList& all) { all[0].strokes.erase(0); });
+             h.document.layers.modifyAndPublish([](LayerList& all) { all[0].strokes.erase(0); });
          }},
         {"another picture", [](Hand& h) { h.document.layers = LayerList{Layer("Other")}; }},
     };

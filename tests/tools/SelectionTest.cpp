@@ -21,7 +21,8 @@ protected:
     Selection() { document.ensureLayers(); }
 
     void add(Stroke stroke, std::size_t layer = 0) {
-        document.layers.modify([&](LayerList& all) { all[layer].strokes.append(stroke); });
+        document.layers.modifyAndPublish(
+            [&](LayerList& all) { all[layer].strokes.append(stroke); });
     }
 
     std::optional<Place> selected() const {

@@ -105,9 +105,9 @@ void LayerRows::putRowsInOrder() {
 /// Absent when the layer is gone and the list does not show it yet.
 std::optional<std::int64_t> LayerRows::indexOf(const LayerRow& row) const {
     const LayerList& layers = document_.layers;
-    const auto found = std::find_if(layers.begin(), layers.end(),
-                                    [&](const Layer& layer) { return layer.id == row.layerID(); });
-    return found != layers.end() ? std::optional(found - layers.begin()) : std::nullopt;
+    const auto found = std::ranges::find(layers, row.layerID(), &Layer::id);
+    if (found == layers.end()) return std::nullopt;
+    return std::distance(layers.begin(), found);
 }
 
 }  // namespace marlevo
