@@ -5,20 +5,14 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
 
 namespace marlevo {
 namespace {
-
-class CountingCodec : public FakeImageCodec {
-public:
-    std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {
-        ++decoded;
-        return FakeImageCodec::decode(file);
-    }
-
-    mutable std::atomic<int> decoded = 0;
-};
 
 Layer imageLayer(std::uint8_t shade) {
     Layer layer("Image");
@@ -27,7 +21,7 @@ Layer imageLayer(std::uint8_t shade) {
 }
 
 TEST(ImageCache, DecodesAheadWhatIsSeenAndEachFileOnce) {
-    const CountingCodec codec;
+    const CountingImageCodec codec;
     ImageCache images(&codec);
     LayerList layers;
     for (std::uint8_t shade = 0; shade < 7; ++shade)
@@ -57,6 +51,63 @@ TEST(ImageCache, DecodesAheadWhatIsSeenAndEachFileOnce) {
     EXPECT_FALSE(images.known(*layers[0].imageData));
     EXPECT_TRUE(images.known(*layers[1].imageData));
     EXPECT_EQ(ImageCache(nullptr).image(*layers[1].imageData), std::nullopt);
+}
+
+constexpr std::size_t bytesOfImage = 4;
+
+TEST(ImageCache, KeepsWhatWasUsedLastWithinItsBound) {
+    const CountingImageCodec codec;
+    ImageCache images(&codec, 2 * bytesOfImage);
+    const Bytes first = *imageLayer(1).imageData;
+    const Bytes second = *imageLayer(2).imageData;
+    const Bytes third = *imageLayer(3).imageData;
+    images.image(first);
+    images.image(second);
+    images.image(first);
+    images.image(third);
+    EXPECT_TRUE(images.known(first));
+    EXPECT_FALSE(images.known(second));
+    EXPECT_TRUE(images.known(third));
+    EXPECT_EQ(codec.decoded, 3);
+
+    ImageCache tooSmall(&codec, bytesOfImage - 1);
+    EXPECT_TRUE(tooSmall.image(first));
+    EXPECT_TRUE(tooSmall.image(first));
+    EXPECT_EQ(codec.decoded, 5);
+}
+
+TEST(ImageCache, DecodesNoMoreAheadThanItKeeps) {
+    const CountingImageCodec codec;
+    const std::size_t batch = std::max(std::thread::hardware_concurrency(), 1U);
+    ImageCache images(&codec, 2 * batch * bytesOfImage + 1);
+    LayerList layers;
+    for (std::size_t i = 0; i < 5 * batch; ++i)
+        layers.push_back(imageLayer(static_cast<std::uint8_t>(i)));
+    images.decodeAhead(layers);
+    EXPECT_EQ(codec.decoded, static_cast<int>(2 * batch));
+    for (std::size_t i = 0; i < layers.size(); ++i)
+        EXPECT_EQ(images.known(*std::as_const(layers)[i].imageData).has_value(), i < 2 * batch);
+}
+
+TEST(ImageCache, DecodesOnSeveralThreadsAtOnce) {
+    if (std::thread::hardware_concurrency() < 2) GTEST_SKIP() << "one core";
+    /// Each call waits until another one has begun on another thread.
+    struct WaitingCodec : FakeImageCodec {
+        std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {
+            std::unique_lock lock(mutex);
+            ++begun;
+            changed.notify_all();
+            if (!changed.wait_for(lock, std::chrono::seconds(20), [&] { return begun >= 2; }))
+                ADD_FAILURE() << "no second thread";
+            return FakeImageCodec::decode(file);
+        }
+        mutable std::mutex mutex;
+        mutable std::condition_variable changed;
+        mutable int begun = 0;
+    };
+    const WaitingCodec codec;
+    ImageCache(&codec).decodeAhead({imageLayer(1), imageLayer(2)});
+    EXPECT_EQ(codec.begun, 2);
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <atomic>
+#include <cmath>
 #include <limits>
 #include <random>
 #include <thread>
@@ -347,6 +350,83 @@ TEST(StrokeList, CopiesLiveOnOtherThreadsWhileTheListChanges) {
             reader.join();
     }
     EXPECT_EQ(list.size(), 2000u + 20 * 14);
+}
+
+TEST(StrokeList, CopiesThatShareAnOpenLeafAppendOnTwoThreadsAtOnce) {
+    RandomEdits edits(9);
+    std::vector<std::array<Twin, 2>> pairs(4000);
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        Twin shared;
+        for (std::size_t n = 0; n < i % 31; ++n)
+            shared.append(edits.stroke());
+        pairs[i] = {shared, shared};
+    }
+    const std::array added{edits.stroke(), edits.stroke()};
+    std::vector<std::atomic<int>> arrived(pairs.size());
+    const auto appendToEach = [&](std::size_t thread) {
+        for (std::size_t i = 0; i < pairs.size(); ++i) {
+            // Spins at first, so that both append within nanoseconds where cores are free.
+            ++arrived[i];
+            for (int spins = 0; arrived[i] < 2; ++spins)
+                if (spins > 2000) std::this_thread::yield();
+            pairs[i][thread].append(added[thread]);
+        }
+    };
+    std::thread other(appendToEach, 1);
+    appendToEach(0);
+    other.join();
+    for (const auto& pair : pairs)
+        for (const Twin& copy : pair)
+            copy.check();
+}
+
+TEST(StrokeTree, LosesHeightWithItsStrokes) {
+    using namespace stroke_tree;
+    IntrusivePtr<Node> root;
+    for (std::size_t i = 0; i < fanOut * fanOut; ++i) {
+        auto leaf = IntrusivePtr<Leaf>::make();
+        leaf->appendAfter(0, IntrusivePtr<Record>::make(Stroke{}));
+        leaf->summarise();
+        appendLeaf(root, std::move(leaf));
+    }
+    const auto eraseDownTo = [&](std::size_t count) {
+        while (root->summary.count > count)
+            erase(root, 0);
+    };
+    EXPECT_EQ(root->height, 2);
+    eraseDownTo(fanOut + 1);
+    EXPECT_EQ(root->height, 2);
+    eraseDownTo(fanOut);
+    EXPECT_EQ(root->height, 1);
+    eraseDownTo(1);
+    EXPECT_EQ(root->height, 0);
+}
+
+TEST(StrokeSummary, ReachesWhatTouchesByRoundingAlone) {
+    std::mt19937 random(10);
+    std::uniform_real_distribution<double> anywhere(-3000, 3000);
+    std::uniform_real_distribution<double> margins(0, 100);
+    int touching = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const Point at{anywhere(random), anywhere(random)};
+        const double margin = margins(random);
+        Stroke stroke;
+        stroke.points = {at};
+        const StrokeSummary summary = StrokeSummary::of(stroke);
+        // The next coordinate beyond the margin. Some tests add the margin to it, which rounds.
+        const double left = std::nextafter(at.x - margin, -1e9);
+        const double below = std::nextafter(at.y + margin, 1e9);
+        if (left + margin >= at.x) {
+            ++touching;
+            EXPECT_TRUE(summary.reaches({{left, at.y}, {}}, margin)) << i;
+        }
+        if (below - margin <= at.y) {
+            ++touching;
+            EXPECT_TRUE(summary.reaches({{at.x, below}, {}}, margin)) << i;
+        }
+        EXPECT_FALSE(summary.reaches({{at.x - margin - 1e-6, at.y}, {}}, margin)) << i;
+    }
+    EXPECT_GT(touching, 1000);
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ protected:
         }
     }
 
-    FakeImageCodec codec;
+    CountingImageCodec codec;
     ManualMainQueue mainQueue;
     ManualBackgroundQueue backgroundQueue;
     ImageCache images{&codec};
@@ -120,6 +120,16 @@ TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
     gone.reset();
     mainQueue.run();
     EXPECT_EQ(changes, 0);
+
+    document.layers.modifyAndPublish([](LayerList& layers) {
+        layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 1, 255, 0, 0, 0});
+    });
+    gone = std::make_unique<LayerThumbnail>(document.services(), images, [this] { ++changes; });
+    gone->show(layer(), document.canvasSize);
+    gone.reset();
+    backgroundQueue.run();
+    EXPECT_EQ(codec.decoded, 0) << "nothing is rendered for a thumbnail that is gone";
+    EXPECT_FALSE(mainQueue.run());
 }
 
 TEST_F(LayerThumbnailTest, CanvasesOfNoExtentAreRenderedOnce) {

@@ -3,10 +3,13 @@
 #include "model/DrawingDocument.h"
 #include "model/ImageCache.h"
 #include "render/RasterCompositing.h"
+#include "tests/support/FakeImageCodec.h"
 #include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <new>
 #include <random>
 #include <vector>
 
@@ -179,7 +182,7 @@ TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
     }
 }
 
-TEST(ScreenPicture, PaintingOnlyWhatIsSaidToHaveChangedShowsThePicture) {
+TEST(ScreenPicture, RepaintingTheDamageShowsThePicture) {
     RandomEditor editor(12);
     const IntRect area{0, 0, 700, 500};
     View view(area);
@@ -198,7 +201,7 @@ TEST(ScreenPicture, PaintingOnlyWhatIsSaidToHaveChangedShowsThePicture) {
     }
 }
 
-TEST(ScreenPicture, SaysThatLittleChangedWhenLittleDid) {
+TEST(ScreenPicture, DamageIsSmallAfterASmallChange) {
     DrawingDocument document;
     document.canvasSize = CanvasSize{2000, 1000};
     document.ensureLayers();
@@ -230,6 +233,75 @@ TEST(ScreenPicture, SaysThatLittleChangedWhenLittleDid) {
     EXPECT_EQ(changedPixels(), 0);
     document.undo();
     EXPECT_GT(changedPixels(), 0);
+}
+
+TEST(ScreenPicture, KeepsNoMoreTilesThanItsBoundBesidesTheVisibleOnes) {
+    Scene scene{{{Layer("Layer")}, {2048, 1024}, white}, false, 1, nullptr};
+    constexpr std::size_t tileBytes = std::size_t{512} * 512 * 4;
+    ScreenPicture picture(noImages, 8 * tileBytes);
+    const IntRect all{0, 0, 2048, 1024};
+    paint(picture, scene, all);
+    picture.evictTiles({});
+    EXPECT_EQ(picture.cachedBytes(), 8 * tileBytes) << "within the bound nothing is dropped";
+
+    scene.scale = 0.5;
+    paint(picture, scene, {0, 0, 1024, 512});
+    EXPECT_TRUE(picture.hasTilesToEvict());
+    picture.evictTiles({0, 0, 10, 10});
+    EXPECT_EQ(picture.cachedBytes(), 2 * tileBytes) << "those of the other scale are dropped";
+
+    ScreenPicture small(noImages, tileBytes);
+    scene.scale = 1;
+    paint(small, scene, all);
+    small.evictTiles({500, 100, 600, 200});
+    EXPECT_EQ(small.cachedBytes(), 2 * tileBytes) << "the visible tiles stay";
+    ScreenPicture fresh(noImages);
+    EXPECT_EQ(paint(small, scene, all), paint(fresh, scene, all));
+}
+
+TEST(ScreenPicture, APaintThatFailsLeavesNoHalfPaintedTile) {
+    /// The first call decodes ahead, before the repaint. The second one is in the middle of it: the
+    /// ground is painted, the layers are not.
+    struct FailingCodec : FakeImageCodec {
+        std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {
+            if (--callsUntilFailure == 0) throw std::bad_alloc();
+            return FakeImageCodec::decode(file);
+        }
+        mutable std::atomic<int> callsUntilFailure = 0;
+    };
+    const FailingCodec codec;
+    // Keeps no image, so that the repaint decodes it again.
+    ImageCache images(&codec, 0);
+    Layer layer("Image");
+    layer.imageData = Bytes({1, 1, 255, 9, 8, 7});
+    layer.strokes.append(makeStroke({{10, 10}, {90, 90}}, 9));
+    const Scene scene{{{layer}, {100, 100}, white}, true, 1, nullptr};
+    const IntRect area{0, 0, 100, 100};
+    ScreenPicture fresh(images);
+    const auto expected = paint(fresh, scene, area);
+
+    for (const int failingCall : {1, 2}) {
+        ScreenPicture picture(images);
+        codec.callsUntilFailure = failingCall;
+        EXPECT_THROW(paint(picture, scene, area), std::bad_alloc);
+        EXPECT_EQ(paint(picture, scene, area), expected) << failingCall;
+    }
+}
+
+TEST(ScreenPicture, RepaintsALayerWhoseImageFades) {
+    const FakeImageCodec codec;
+    ImageCache images(&codec);
+    Layer layer("Image");
+    layer.imageData = Bytes({1, 1, 255, 9, 8, 7});
+    Scene scene{{{layer}, {100, 100}, white}, false, 1, nullptr};
+    const IntRect area{0, 0, 100, 100};
+    ScreenPicture kept(images);
+    const auto opaque = paint(kept, scene, area);
+    scene.picture.layers.back().opacity = 0.5;
+    const auto faded = paint(kept, scene, area);
+    ScreenPicture fresh(images);
+    EXPECT_EQ(faded, paint(fresh, scene, area));
+    EXPECT_NE(faded, opaque);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "platform/ImageCodec.h"
 
-#include <cstring>
+#include <atomic>
 
 namespace marlevo {
 
@@ -25,6 +25,17 @@ public:
         file.insert(file.end(), image.bytes().begin(), image.bytes().end());
         return file;
     }
+};
+
+/// Counts its calls, which may be on any thread.
+class CountingImageCodec : public FakeImageCodec {
+public:
+    std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {
+        ++decoded;
+        return FakeImageCodec::decode(file);
+    }
+
+    mutable std::atomic<int> decoded = 0;
 };
 
 }  // namespace marlevo

@@ -7,8 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 #include <utility>
+#include <vector>
 
 namespace marlevo {
 namespace {
@@ -57,6 +59,12 @@ TEST_F(Selection, FindsFreehandStrokesByTheirInfiniteLinesWithinTheGrownBox) {
     EXPECT_FALSE(hits({50, 6}));
     document.zoom = 0.5;
     EXPECT_TRUE(hits({50, 19}));
+}
+
+TEST_F(Selection, FindsAStrokeWhosePointsCoincide) {
+    add(makeStroke({{50, 50}, {50, 50}}));
+    EXPECT_TRUE(hits({56, 57}));
+    EXPECT_FALSE(hits({58, 58}));  // in the grown box, further away than the tolerance
 }
 
 TEST_F(Selection, FindsShapesAnywhereInTheirBoxWhoseFarEdgesAreOut) {
@@ -161,10 +169,44 @@ TEST_F(Selection, StaleSelectionsAreNone) {
     EXPECT_FALSE(document.canUndo());
     EXPECT_TRUE(document.canRedo());
     EXPECT_TRUE(document.selectedStrokeIndex->has_value()) << "only a new hit test replaces it";
+}
 
-    document.redo();
-    document.selectedStrokeIndex = -1;
-    EXPECT_FALSE(selectedStrokeBoundingRect(document));
+TEST_F(Selection, AnIndexWithoutAStrokeIsNoSelectionInAnyOperation) {
+    add(makeStroke({{0, 0}, {100, 0}}));
+    const StrokeList before = document.layers->front().strokes;
+    const std::vector<void (*)(DrawingDocument&)> operations{beginSelectDrag,
+                                                             [](DrawingDocument& d) {
+                                                                 updateSelectDrag(d, {5, 5});
+                                                             },
+                                                             deleteSelectedStroke};
+    for (const std::int64_t index :
+         {std::int64_t{-1}, std::int64_t{1}, std::numeric_limits<std::int64_t>::min(),
+          std::numeric_limits<std::int64_t>::max()}) {
+        for (const bool isMoving : {false, true}) {
+            for (const auto& operation : operations) {
+                document.selectedLayerID = document.layers->front().id;
+                document.selectedStrokeIndex = index;
+                if (isMoving) document.selectionDragStartPositions = before[0].points;
+                EXPECT_FALSE(selectedStrokeBoundingRect(document));
+                operation(document);
+                EXPECT_TRUE(document.layers->front().strokes.sharesWith(before)) << index;
+                EXPECT_FALSE(document.canUndo()) << index;
+                EXPECT_EQ(document.selectionDragStartPositions->has_value(), isMoving) << index;
+                endSelectDrag(document);
+            }
+        }
+    }
+}
+
+TEST_F(Selection, AStrokeWithOtherPointsByNowIsNotMoved) {
+    add(makeStroke({{0, 0}, {100, 0}}));
+    selectStroke(document, {50, 0});
+    beginSelectDrag(document);
+    const PointList longer{{0, 0}, {100, 0}, {200, 0}};
+    document.layers.modifyAndPublish(
+        [&](LayerList& all) { all[0].strokes.replace(0, makeStroke(longer)); });
+    updateSelectDrag(document, {5, 5});
+    EXPECT_EQ(stroke(0).points, longer);
 }
 
 }  // namespace
