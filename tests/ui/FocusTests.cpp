@@ -64,6 +64,18 @@ private Q_SLOTS:
         QVERIFY(isFramed(s.window));
     }
 
+    void tabGoesRoundTheWholeWindow() {
+        RunningApp s;
+        s.window.canvasView().setFocus();
+        QStringList reached;
+        do {
+            type(s.window, Qt::Key_Tab);
+            reached << focused();
+        } while (QApplication::focusWidget() != &s.window.canvasView() && reached.size() < 50);
+        for (const char* name : {"Save", "Color", "Size", "Draw", "Grid", "Layers", "Zoom"})
+            QVERIFY2(reached.contains(name), name);
+    }
+
     void whatIsOpenedOrUsedUpByAKeyKeepsTheKeyboard() {
         RunningApp s;
         control<QAbstractButton>(s.window, "Export").setFocus();

@@ -4,6 +4,7 @@
 #include "ui/windows/NewCanvasSheet.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QMainWindow>
 #include <QVBoxLayout>
 
@@ -65,6 +66,9 @@ void ContentView::fitToWindow() {
     document_.zoom = std::max(minZoom, document_.zoom.get());
 }
 
+// Not by a focus proxy, which takes all widgets before the canvas out of the chain of Tab.
+void ContentView::focusInEvent(QFocusEvent* event) { canvas_.setFocus(event->reason()); }
+
 void ContentView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (!keyMonitor_) firstShown();
@@ -99,7 +103,6 @@ void ContentView::layOut() {
     sidebar_.setMaximumWidth(SidebarView::greatestWidth);
     columns_.setSizes({sidebar_.sizeHint().width(), drawing->sizeHint().width()});
 
-    setFocusProxy(&canvas_);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(&columns_);

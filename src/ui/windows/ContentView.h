@@ -52,6 +52,8 @@ Q_SIGNALS:
     void showNewCanvasChanged(bool isShown);
 
 protected:
+    /// Passes the focus on to the canvas.
+    void focusInEvent(QFocusEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
