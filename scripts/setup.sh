@@ -3,7 +3,7 @@
 # For Debian 12 or newer and Ubuntu 24.04. Quick if no package is missing.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev libcairo2-dev pkg-config libxcb1-dev qt6-base-dev qt6-svg-dev
+build=(g++ cmake ninja-build libhwy-dev libsimdjson-dev libqpdf-dev libdeflate-dev pkg-config libxcb1-dev qt6-base-dev qt6-svg-dev
        qt6-image-formats-plugins qt6-tools-dev qt6-l10n-tools qt6-translations-l10n)
 virtual_display=(xvfb openbox xdotool xauth fonts-dejavu-core)
 
@@ -14,7 +14,7 @@ for purpose in "${@:-build}"; do
         run)   wanted+=("${build[@]}")
                [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
         test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev poppler-utils mupdf-tools ghostscript "${virtual_display[@]}") ;;
-        bench) wanted+=("${build[@]}" libbenchmark-dev libxcb-xtest0-dev python3 "${virtual_display[@]}") ;;
+        bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev libxcb-xtest0-dev python3 "${virtual_display[@]}") ;;
         package) wanted+=(dpkg-dev desktop-file-utils appstream lintian) ;;
         pictures) wanted+=("${virtual_display[@]}") ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;

@@ -36,7 +36,7 @@ constexpr std::string_view exifSignature{"Exif\0\0", 6};
 constexpr std::string_view profileSignature{"ICC_PROFILE\0", 12};
 constexpr std::string_view adobeSignature{"Adobe", 5};
 
-/// The orientation that Exif data, a small TIFF file, names; 1 when it names none.
+/// The orientation in Exif data, which are a small TIFF file; 1 if there is none.
 int orientationIn(const ByteReader& exif) {
     const bool isLittle = exif.hasText(0, "II");
     if (!isLittle && !exif.hasText(0, "MM")) return 1;
@@ -55,7 +55,7 @@ int orientationIn(const ByteReader& exif) {
     return 1;
 }
 
-/// Goes through the segments of a file, gathering what tells whether it can be kept.
+/// Reads the segments of a file and decides whether the file is embeddable.
 class Scanner {
 public:
     explicit Scanner(std::span<const std::uint8_t> file) : file_(file) {}
@@ -76,7 +76,8 @@ public:
     }
 
 private:
-    /// The code of the marker at `at`, which is moved behind it; nothing where there is none.
+    /// The code of the marker at `at`, which then is the position behind it; nothing if there is
+    /// none.
     std::optional<std::uint8_t> nextMarker(std::size_t& at) const {
         if (file_.byte(at) != 0xFF) return std::nullopt;
         while (file_.byte(at) == 0xFF)
@@ -94,7 +95,7 @@ private:
         }
     }
 
-    /// False when the segment shows that the file cannot be kept.
+    /// False if the segment shows that the file is not embeddable.
     bool take(std::uint8_t marker, const ByteReader& segment) {
         switch (marker) {
         case dht:
@@ -123,7 +124,7 @@ private:
         height_ = frame.half(1);
         width_ = frame.half(3);
         isGray_ = components == 1;
-        // Components that call themselves R, G and B are taken for that by image programs only.
+        // Only image programs take components named R, G and B for these colours.
         const bool namesRed = frame.byte(6) == 'R';
         return width_ > 0 && height_ > 0 && !namesRed;
     }
@@ -147,7 +148,7 @@ private:
     std::optional<EmbeddableJpeg> result() const {
         const bool isPlain = isGray_ ? !hasProfile_ : !hasOtherColors_;
         if (width_ == 0 || !isPlain) return std::nullopt;
-        return EmbeddableJpeg{width_, height_, orientation_};
+        return EmbeddableJpeg{width_, height_, isGray_, orientation_};
     }
 
     ByteReader file_;

@@ -13,7 +13,8 @@ void addImageLayer(DrawingDocument& document, std::vector<std::uint8_t> file) {
     document.saveState();
     Layer layer("Image");
     layer.imageData.emplace(std::move(file));
-    document.layers.modifyAndPublish([&](LayerList& layers) { layers.push_back(std::move(layer)); });
+    document.layers.modifyAndPublish(
+        [&](LayerList& layers) { layers.push_back(std::move(layer)); });
     document.activeLayerIndex = static_cast<std::int64_t>(document.layers->size()) - 1;
 }
 

@@ -2,33 +2,33 @@
 
 #include "graphics/GraphicsContext.h"
 #include "graphics/Size.h"
-
-#include <cairo.h>
+#include "io/PdfContent.h"
+#include "io/PdfFile.h"
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <vector>
 
 namespace marlevo {
 
-/// Draws on the one page of a PDF file, one unit a point, by cairo's PDF surface.
+/// Draws on the one page of a PDF file, one unit a point.
 ///
 /// Strokes and fills stay paths, each one painting operation: readers blend it as a whole, so a
-/// translucent stroke is not darker where it crosses itself. Coordinates are kept to 1/256 of a
-/// point. Paths that reach far beyond the page become straight segments (PdfPath.h).
+/// translucent stroke is not darker where it crosses itself. Coordinates are kept to 1/1000 of a
+/// point. Paths that reach far beyond the page become straight segments (PdfPath.h). Each operation
+/// may throw std::exception, for want of memory for example; the page is incomplete then.
 class PdfContext final : public GraphicsContext {
 public:
-    /// The sides of a page, in points: less than the least cannot be told from nothing in three
-    /// decimals, and paths beyond the most do not fit cairo's coordinates. Some readers refuse
-    /// pages of more than 14,400 points (200 inches), most do not.
+    /// The sides of a page, in points: less than the least is 0 in three decimals; readers that
+    /// count in 32 bits do not hold more than the most. Some readers refuse pages of more than
+    /// 14,400 points (200 inches), most do not.
     static constexpr double minSide = 0.001;
-    static constexpr double maxSide = 524288;
+    static constexpr double maxSide = 1e9;
 
     /// Whether a page can have the size.
     static bool isPageSize(Size size);
 
-    /// The media box is exactly `page`, which must be a page size.
+    /// The media box is `page`, which must be a page size, to four decimals.
     explicit PdfContext(Size page);
     PdfContext(const PdfContext&) = delete;
     PdfContext& operator=(const PdfContext&) = delete;
@@ -48,34 +48,35 @@ public:
     void drawImageFile(std::span<const std::uint8_t> file, const RasterImage& decoded,
                        const Rect& rect) override;
 
-    /// The file, or nothing when it did not come about, for want of memory say. Nothing can be
-    /// drawn any more.
-    std::optional<std::vector<std::uint8_t>> finish();
+    /// The file. Nothing can be drawn any more.
+    std::vector<std::uint8_t> finish();
 
 private:
-    struct Release {
-        void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-        void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
+    struct Rgb {
+        double red, green, blue;
+        friend bool operator==(const Rgb&, const Rgb&) = default;
     };
-    using Surface = std::unique_ptr<cairo_surface_t, Release>;
 
+    /// What the page's own q and Q save and restore, and `alpha` with it.
     struct State {
         double alpha = 1;
         bool isDegenerate = false;  ///< the frame has no area: nothing can be seen
+        double opacity = 1;
+        double lineWidth = 1;
+        Rgb strokeColor{0, 0, 0};
+        Rgb fillColor{0, 0, 0};
     };
 
     double farthest(double lineWidth) const;
-    bool selectColor(const Color& color);
-    void drawSurface(Surface image, const Rect& rect, int orientation);
+    bool selectOpacity(double alpha);
+    void selectColor(Rgb& current, const Color& color, std::string_view name);
+    void paintImage(const std::string& name, const Rect& rect, int orientation);
 
     Size page_;
-    std::vector<std::uint8_t> file_;
+    PdfFile file_;
+    PdfContent content_;
     State state_;
     std::vector<State> saved_;
-    std::vector<Surface> images_;  ///< kept alive, or cairo would copy their pixels
-    bool lacksImage_ = false;      ///< there was no memory for its pixels
-    Surface surface_;
-    std::unique_ptr<cairo_t, Release> cairo_;
 };
 
 }  // namespace marlevo

@@ -11,7 +11,7 @@ namespace {
 
 class PathWriter {
 public:
-    PathWriter(cairo_t* cairo, PathUse use) : cairo_(cairo), use_(use) {}
+    PathWriter(PdfContent& content, PathUse use) : content_(content), use_(use) {}
 
     void add(const Path::Element& element) {
         switch (element.kind) {
@@ -33,34 +33,39 @@ public:
 
     void move(Point to) {
         current_ = to;
-        cairo_move_to(cairo_, to.x, to.y);
+        hasCurrent_ = true;
+        isMovePending_ = true;
     }
 
     void line(Point to) {
-        begin(to);
-        cairo_line_to(cairo_, to.x, to.y);
+        beginSegment(to);
+        content_.add({to.x, to.y}, "l");
         current_ = to;
-        hasSegments_ = true;
     }
 
-    void close() { cairo_close_path(cairo_); }
+    void close() { content_.add("h"); }
 
     bool hasSegments() const { return hasSegments_; }
 
 private:
-    /// A path that does not begin with a move begins where its first segment says.
-    void begin(Point otherwise) {
-        if (!cairo_has_current_point(cairo_)) move(otherwise);
-    }
-
-    void curve(Point control1, Point control2, Point to) {
-        cairo_curve_to(cairo_, control1.x, control1.y, control2.x, control2.y, to.x, to.y);
-        current_ = to;
+    /// Writes the move before the first segment of a sub-path: a move alone paints nothing. A path
+    /// that does not begin with a move begins at its first segment's first point.
+    void beginSegment(Point firstPoint) {
+        if (!hasCurrent_) move(firstPoint);
+        if (isMovePending_) content_.add({current_.x, current_.y}, "m");
+        isMovePending_ = false;
         hasSegments_ = true;
     }
 
+    void curve(Point control1, Point control2, Point to) {
+        content_.add({control1.x, control1.y, control2.x, control2.y, to.x, to.y}, "c");
+        current_ = to;
+    }
+
     void quadCurve(Point control, Point to) {
-        begin(control);
+        beginSegment(control);
+        // The first piece of a freehand curve is straight.
+        if (control == current_) return line(to);
         const auto towardsControl = [&](Point p) {
             return Point{p.x + (control.x - p.x) * 2 / 3, p.y + (control.y - p.y) * 2 / 3};
         };
@@ -72,8 +77,7 @@ private:
             move(rect.origin);
             if (use_ == PathUse::stroke) line({rect.maxX(), rect.maxY()});
         } else if (kind == Path::Kind::rect) {
-            cairo_rectangle(cairo_, rect.origin.x, rect.origin.y, rect.size.width,
-                            rect.size.height);
+            content_.add({rect.origin.x, rect.origin.y, rect.size.width, rect.size.height}, "re");
             hasSegments_ = true;
         } else {
             ellipse(rect);
@@ -90,6 +94,7 @@ private:
             return Point{center.x + x * radius.x, center.y + y * radius.y};
         };
         move(at(1, 0));
+        beginSegment(at(1, 0));
         curve(at(1, kappa), at(kappa, 1), at(0, 1));
         curve(at(-kappa, 1), at(-1, kappa), at(-1, 0));
         curve(at(-1, -kappa), at(-kappa, -1), at(0, -1));
@@ -97,9 +102,11 @@ private:
         close();
     }
 
-    cairo_t* cairo_;
+    PdfContent& content_;
     PathUse use_;
-    Point current_;  ///< the exact one: cairo's is rounded
+    Point current_;  ///< exact; the operators are rounded
+    bool hasCurrent_ = false;
+    bool isMovePending_ = false;  ///< `current_` is the start of a sub-path not yet written
     bool hasSegments_ = false;
 };
 
@@ -126,9 +133,8 @@ void addFlattened(PathWriter& writer, const Path& path, PathUse use, double fart
 
 }  // namespace
 
-bool setPdfPath(cairo_t* cairo, const Path& path, PathUse use, double farthest) {
-    cairo_new_path(cairo);
-    PathWriter writer(cairo, use);
+bool addPdfPath(PdfContent& content, const Path& path, PathUse use, double farthest) {
+    PathWriter writer(content, use);
     const auto& elements = path.elements();
     const auto isInRange = [farthest](Point p) {
         return std::abs(p.x) <= farthest && std::abs(p.y) <= farthest;

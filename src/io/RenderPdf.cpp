@@ -11,12 +11,16 @@ std::optional<std::vector<std::uint8_t>> renderPDFData(const DrawingDocument& do
     const Picture picture = pictureOf(document);
     const Size page{picture.canvasSize.width, picture.canvasSize.height};
     if (!PdfContext::isPageSize(page)) return std::nullopt;
-    PdfContext context(page);
-    if (!document.backgroundIsTransparent) context.fillRect({{0, 0}, page}, picture.background);
-    BorrowedImages images(document);
-    drawLayers(context, picture.layers, picture.canvasSize, page.height,
-               [&](const Bytes& file) { return images.cache().image(file); });
-    return context.finish();
+    try {
+        PdfContext context(page);
+        if (!document.backgroundIsTransparent) context.fillRect({{0, 0}, page}, picture.background);
+        BorrowedImages images(document);
+        drawLayers(context, picture.layers, picture.canvasSize, page.height,
+                   [&](const Bytes& file) { return images.cache().image(file); });
+        return context.finish();
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
 }
 
 }  // namespace marlevo

@@ -1,3 +1,4 @@
+#include "io/FixedDecimal.h"
 #include "io/RenderPdf.h"
 #include "model/DrawingDocument.h"
 #include "render/RasterCompositing.h"
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <random>
 #include <string>
 
 namespace marlevo {
@@ -19,7 +21,7 @@ namespace {
 
 using Type = Stroke::ShapeType;
 
-/// Knows the one JPEG file of the tests by its size and gives it as the raster it was told.
+/// Recognises the one JPEG file of the tests by its size and decodes it to `jpegPixels`.
 class KnownJpegCodec : public FakeImageCodec {
 public:
     std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const override {
@@ -106,7 +108,7 @@ protected:
         if (!isInstalled(GetParam())) GTEST_SKIP() << GetParam().program << " is not installed";
     }
 
-    /// How far the page is from the raster, in levels of 255.
+    /// The mean difference of the page from the raster, in levels of 255.
     double difference() {
         const auto page = showPage(GetParam(), renderPDFData(document).value());
         const auto raster = renderCGImage(document);
@@ -206,6 +208,25 @@ TEST_P(PdfInReaders, ValuesNoPageKnowsLookLikeTheRaster) {
     EXPECT_LT(difference(), 1.5);
 }
 
+TEST_P(PdfInReaders, ALineMayCrossFromOneStreamToTheNext) {
+    // A spiral whose text is longer than one stream.
+    std::vector<Point> points;
+    for (int i = 0; i < 40000; ++i) {
+        const double turn = i * 5e-4;
+        points.push_back({100 + 4 * turn * std::cos(turn), 60 + 2 * turn * std::sin(turn)});
+    }
+    document.layers.modifyAndPublish([&](LayerList& layers) {
+        Stroke spiral = makeStroke({}, 4);
+        spiral.points = PointList(std::move(points));
+        layers.back().strokes.append(spiral);
+    });
+    const std::string page = text();
+    const std::size_t first = page.find("/FlateDecode");
+    ASSERT_NE(page.find("/FlateDecode", first + 1), std::string::npos);
+    // Readers differ in the edges of such short segments.
+    EXPECT_LT(difference(), 4);
+}
+
 TEST_F(PdfExport, TheMediaBoxIsTheCanvasWithItsFractions) {
     EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [ 0 0 200 120 ]"));
     document.canvasSize = CanvasSize{800.7, 600.2};
@@ -241,6 +262,28 @@ TEST_F(PdfExport, PhotosKeepTheirBytesUnlessTheirPixelsAreOthers) {
     codec.jpegPixels.reset();
     addImage(file);
     EXPECT_THAT(text(), testing::Not(testing::HasSubstr("/Image")));
+}
+
+TEST_F(PdfExport, NumbersAreDecimalsThatEveryReaderTakes) {
+    const auto fixed = [](double number) {
+        char digits[maxFixedLength];
+        return std::string(digits, writeFixed<3>(number, digits));
+    };
+    EXPECT_EQ(fixed(0), "0");
+    EXPECT_EQ(fixed(-0.0004), "0");
+    EXPECT_EQ(fixed(7.2e-05), "0");
+    EXPECT_EQ(fixed(-0.0625), "-0.063");
+    EXPECT_EQ(fixed(1000.05), "1000.05");
+    EXPECT_EQ(fixed(0.9996), "1");
+    EXPECT_EQ(fixed(4e9), "4000000000");
+    std::mt19937_64 random(1);
+    std::uniform_real_distribution<double> exponent(-6, 12);
+    for (int i = 0; i < 10000; ++i) {
+        const double number = std::pow(10, exponent(random)) * (i % 2 == 0 ? 1 : -1);
+        const std::string text = fixed(number);
+        EXPECT_NEAR(std::stod(text), number, 0.0005 + std::abs(number) * 1e-15) << text;
+        EXPECT_EQ(text.find_first_not_of("-0123456789."), std::string::npos) << text;
+    }
 }
 
 TEST_F(PdfExport, HiddenLayersAndSinglePointsAreLeftOut) {
