@@ -1,4 +1,5 @@
 #include "ui/controls/DistributeWidth.h"
+#include "ui/controls/ModeButtonRow.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TextLabel.h"
 
@@ -72,6 +73,20 @@ private Q_SLOTS:
         QCOMPARE(std::accumulate(tight.begin(), tight.end(), 0), 101);
         QVERIFY(tight[1] > tight[0] && tight[0] >= 25);
         QCOMPARE(shares({10, 20}, -5), (std::vector{0, 0}));
+    }
+
+    void aRowOfButtonsGivesUpItsPaddingBeforeALabel() {
+        std::vector<ModeButton*> buttons;
+        for (const char* const label : {"Line", "Rectangle", "Ellipse"})
+            buttons.push_back(new ModeButton(ModeButton::Kind::secondary, Icon::circle, label));
+        ModeButtonRow row(buttons);
+        int width = row.sizeHint().width();
+        for (const ModeButton* button : buttons)
+            width += button->tightWidth() - button->sizeHint().width();
+        row.resize(width, 30);
+        row.grab();
+        for (const ModeButton* button : buttons)
+            QCOMPARE(button->width(), button->tightWidth());
     }
 
     void aLabelIsShortenedOnlyWhenItDoesNotFit() {

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QTranslator>
 
 using namespace marlevo;
@@ -81,9 +82,31 @@ private Q_SLOTS:
         QCOMPARE(fitted({1e6, 1e6}), minZoom);
         const double height = s.window.height() - s.window.menuBar()->height();
         QCOMPARE(fitted({10, 2000}), (height - 60) / 2000);
-        // What fits is in sight without scrolling.
-        const auto& area = *s.window.findChild<CanvasScrollArea*>();
-        QVERIFY(!area.verticalScrollBar()->isVisible());
+    }
+
+    void whatWasFittedIsInSightWithoutScrolling() {
+        const QFont before = QApplication::font();
+        QFont large = before;
+        large.setPointSize(20);
+        for (const QFont& font : {before, large}) {
+            QApplication::setFont(font);
+            RunningApp s;
+            auto& columns = *s.window.findChild<QSplitter*>();
+            QCOMPARE(columns.sizes().first(), SidebarView::idealWidth);
+            const auto& area = *s.window.findChild<CanvasScrollArea*>();
+            for (const int sidebar : {220, 237, 252}) {
+                columns.setSizes({sidebar, columns.width() - sidebar});
+                for (const CanvasSize canvas :
+                     {CanvasSize{1920, 1080}, {2480, 350}, {777, 333}, {600, 3000}}) {
+                    s.document.canvasSize = canvas;
+                    button<SmallButton>(s.window, "Fit").click();
+                    QTRY_VERIFY(!area.horizontalScrollBar()->isVisible());
+                    QTRY_VERIFY(!area.verticalScrollBar()->isVisible());
+                    QVERIFY(area.viewport()->rect().contains(s.window.canvasView().geometry()));
+                }
+            }
+        }
+        QApplication::setFont(before);
     }
 };
 

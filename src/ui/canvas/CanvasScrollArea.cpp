@@ -21,20 +21,28 @@ constexpr int ringWidth = 2;
 
 static_assert(DropShadow::reach <= CanvasScrollArea::margin);
 
-QSize wholePoints(QSizeF size) {
-    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+// Of a point. A length that is larger by an error of calculation only is not rounded up.
+constexpr double tolerance = 1e-6;
+
+int wholePoints(double length) { return static_cast<int>(std::ceil(length - tolerance)); }
+
+QSize wholePoints(QSizeF size) { return {wholePoints(size.width()), wholePoints(size.height())}; }
+
+/// What there is to scroll for a canvas of this length. The margins count only where the canvas
+/// itself does not fit.
+int contentLength(int length, int room) {
+    return length <= room ? length : length + 2 * CanvasScrollArea::margin;
 }
 
-void setUpScrollBar(QScrollBar& bar, int content, int room) {
-    bar.setRange(0, std::max(0, content - room));
+void setUpScrollBar(QScrollBar& bar, int length, int room) {
+    bar.setRange(0, std::max(0, contentLength(length, room) - room));
     bar.setPageStep(room);
     bar.setSingleStep(scrollStep);
 }
 
 /// The start of `length`: centred if there is room, else at the scroll bar's position.
 int start(int length, int room, const QScrollBar& bar) {
-    const int content = length + 2 * CanvasScrollArea::margin;
-    return content <= room ? (room - length) / 2 : CanvasScrollArea::margin - bar.value();
+    return length <= room ? (room - length) / 2 : CanvasScrollArea::margin - bar.value();
 }
 
 }  // namespace
@@ -105,14 +113,13 @@ void CanvasScrollArea::scrollContentsBy(int, int) { layOut(); }
 
 void CanvasScrollArea::layOut() {
     const QSize canvas = wholePoints(displaySize(document_.canvasSize, document_.zoom));
-    const QSize content = canvas + QSize(2 * margin, 2 * margin);
     // The room that a bar takes must not be the only reason to show the bar.
     const QSize most = maximumViewportSize();
-    const bool fits = content.width() <= most.width() && content.height() <= most.height();
+    const bool fits = canvas.width() <= most.width() && canvas.height() <= most.height();
     // Each range may show or hide a bar, which changes the viewport.
-    setUpScrollBar(*horizontalScrollBar(), content.width(),
+    setUpScrollBar(*horizontalScrollBar(), canvas.width(),
                    (fits ? most : viewport()->size()).width());
-    setUpScrollBar(*verticalScrollBar(), content.height(),
+    setUpScrollBar(*verticalScrollBar(), canvas.height(),
                    (fits ? most : viewport()->size()).height());
 
     const QSize room = viewport()->size();
@@ -126,13 +133,17 @@ void CanvasScrollArea::layOut() {
 
 /// At a fractional scale factor only every second or fourth point is on a device pixel. The canvas
 /// is placed at such a point, up to three points further left or up, so that the picture is sharp
-/// and the pointer reaches the pixel under it.
+/// and the pointer reaches the pixel under it. A canvas that fits is placed further right or down
+/// where it would be cut.
 QPoint CanvasScrollArea::alignedToDevicePixels(QPoint viewportPosition) const {
     const double ratio = devicePixelRatioF();
     const QPoint inWindow = viewport()->mapTo(window(), viewportPosition);
     for (int step = 1; step <= 4; ++step) {
         if (step * ratio != std::floor(step * ratio)) continue;
-        return viewportPosition - QPoint(inWindow.x() % step, inWindow.y() % step);
+        QPoint aligned = viewportPosition - QPoint(inWindow.x() % step, inWindow.y() % step);
+        if (viewportPosition.x() >= 0 && aligned.x() < 0) aligned.rx() += step;
+        if (viewportPosition.y() >= 0 && aligned.y() < 0) aligned.ry() += step;
+        return aligned;
     }
     return viewportPosition;
 }

@@ -18,8 +18,8 @@ class CanvasScrollArea final : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
-    /// Room around the canvas, in view points. Smaller than the room that fittingZoom() leaves
-    /// beside the canvas, so that a fitted canvas needs no scrolling.
+    /// Room around the canvas, in view points. It gives way where the canvas fits without it, so
+    /// that a canvas that was fitted to the window needs no scrolling.
     static constexpr int margin = 12;
 
     /// The document and the cache must outlive the area.

@@ -43,6 +43,8 @@ QSize ModeButton::minimumSizeHint() const {
     return {widthAround(std::min(labelWidth(), fewLetters), leastSidePadding), sizeHint().height()};
 }
 
+int ModeButton::tightWidth() const { return widthAround(labelWidth(), leastSidePadding); }
+
 int ModeButton::roomForLabel() const { return width() - widthAround(0, leastSidePadding); }
 
 void ModeButton::initStyleOption(QStyleOptionToolButton* option) const {

@@ -24,6 +24,9 @@ public:
     /// The label shortened to a few letters, in narrower padding.
     QSize minimumSizeHint() const override;
 
+    /// The width of the whole label in the narrower padding.
+    int tightWidth() const;
+
 protected:
     void initStyleOption(QStyleOptionToolButton* option) const override;
 

@@ -36,10 +36,12 @@ QSize ModeButtonRow::sizeHint() const { return total(&ModeButton::sizeHint); }
 QSize ModeButtonRow::minimumSizeHint() const { return total(&ModeButton::minimumSizeHint); }
 
 void ModeButtonRow::layOut() {
+    const int gaps = spacing * (int(buttons_.size()) - 1);
+    // The padding gives way before a label is shortened.
+    const bool isTight = sizeHint().width() > width();
     std::vector<int> needs;
     for (const ModeButton* button : buttons_)
-        needs.push_back(button->sizeHint().width());
-    const int gaps = spacing * (int(buttons_.size()) - 1);
+        needs.push_back(isTight ? button->tightWidth() : button->sizeHint().width());
     const std::vector<int> shares = distributeWidth(needs, width() - gaps);
     int left = 0;
     for (std::size_t i = 0; i < buttons_.size(); ++i) {

@@ -44,10 +44,13 @@ ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
 
 void ColorRow::addSwatches(QHBoxLayout& row) {
     auto* strip = new QHBoxLayout;
-    strip->setSpacing(swatchSpacing);
+    strip->setSpacing(0);
     for (const QuickColor& quick : quickColors()) {
         auto* swatch = new ColorSwatch(quick.name, quick.color);
         connect(swatch, &ColorSwatch::chosen, this, [this, swatch] { choose(swatch->color()); });
+        // The gaps give way in a narrow sidebar.
+        if (!swatches_.empty())
+            strip->addSpacerItem(new QSpacerItem(swatchSpacing, 0, QSizePolicy::Maximum));
         swatches_.push_back(swatch);
         strip->addWidget(swatch);
     }

@@ -34,7 +34,6 @@ SidebarView::SidebarView(DrawingDocument& document, ImageCache& images, QWidget*
     installSidebarAccessibility();
     setFrameShape(NoFrame);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setAutoFillBackground(true);
     setAccessibleName(tr("Sidebar"));
@@ -66,15 +65,11 @@ void SidebarView::addSections(DrawingDocument& document, ImageCache& images) {
     column->addStretch(1);
 }
 
-QSize SidebarView::sizeHint() const {
-    const QSize content = column_->sizeHint();
-    return {std::clamp(std::max(content.width(), idealWidth), leastWidth, greatestWidth),
-            content.height()};
-}
+QSize SidebarView::sizeHint() const { return {idealWidth, column_->sizeHint().height()}; }
 
 QSize SidebarView::minimumSizeHint() const {
     const int content = column_->minimumSizeHint().width();
-    return {std::clamp(content, leastWidth, greatestWidth), 0};
+    return {std::clamp(content, leastWidth, idealWidth), 0};
 }
 
 void SidebarView::updateColors() { setPalette(semanticPalette(SemanticColor::controlBackground)); }

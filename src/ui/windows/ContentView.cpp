@@ -93,7 +93,8 @@ void ContentView::layOut() {
     column->addWidget(&statusBar_);
 
     columns_.setChildrenCollapsible(false);
-    columns_.setHandleWidth(1);
+    // The handle takes no room from the canvas; the toolkit gives it a few points to be seized at.
+    columns_.setHandleWidth(0);
     columns_.addWidget(&sidebar_);
     columns_.addWidget(drawing);
     // The order for assistive technology; the splitter would leave the first at the end.
@@ -106,11 +107,6 @@ void ContentView::layOut() {
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(&columns_);
-}
-
-// The splitter leaves its own handle out.
-QSize ContentView::sizeHint() const {
-    return QWidget::sizeHint() + QSize(columns_.handleWidth(), 0);
 }
 
 }  // namespace marlevo

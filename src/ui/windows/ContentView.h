@@ -45,9 +45,6 @@ public:
     /// limits; without an active window nothing happens.
     void fitToWindow();
 
-    /// Such that the canvas is seen without scrolling.
-    QSize sizeHint() const override;
-
 Q_SIGNALS:
     void showNewCanvasChanged(bool isShown);
 
