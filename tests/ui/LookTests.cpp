@@ -4,7 +4,10 @@
 #include "ui/controls/TextLabel.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QTest>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include <cmath>
 #include <numeric>
@@ -105,6 +108,23 @@ private Q_SLOTS:
         label.resize(label.width() / 2, label.height());
         QVERIFY(inkRight() < label.width());
         QVERIFY(label.minimumSizeHint().width() < label.width());
+    }
+
+    void aTooltipShowsATextAsItIs() {
+        for (const QString name : {"<h1>Sky", "Sky & sea", "&lt;", "5 < 6 &amp; 7"}) {
+            TextLabel label(name, {TypeStyle::callout});
+            label.resize(3, 20);
+            label.show();
+            QHelpEvent help(QEvent::ToolTip, {}, QPoint(50, 50));
+            QApplication::sendEvent(&label, &help);
+            const QString shown = QToolTip::text();
+            QTextDocument read;
+            if (Qt::mightBeRichText(shown))
+                read.setHtml(shown);
+            else
+                read.setPlainText(shown);
+            QCOMPARE(read.toPlainText().replace(QChar::Nbsp, ' '), name);
+        }
     }
 
     void textFollowsTheDesktopsFont() {

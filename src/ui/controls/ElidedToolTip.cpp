@@ -1,6 +1,7 @@
 #include "ui/controls/ElidedToolTip.h"
 
 #include <QHelpEvent>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
 
@@ -18,7 +19,9 @@ bool ElidedToolTip::eventFilter(QObject* watched, QEvent* event) {
         return QObject::eventFilter(watched, event);
     const QString text = elidedText_();
     if (text.isEmpty()) return false;
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text, &widget_);
+    // A tooltip has no format of plain text; a text that looks like HTML is escaped.
+    const QString shown = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shown, &widget_);
     return true;
 }
 
