@@ -16,7 +16,7 @@ namespace {
 using testing::ElementsAre;
 using P = DocumentProperty;
 
-/// Remembers what it is told.
+/// Records the properties that its reader is called with.
 class Listener {
 public:
     explicit Listener(ChangeRegistry& registry)
@@ -114,7 +114,7 @@ TEST(Observation, ReadersMayVanishComeAndRegisterAnewWhileTold) {
         readers[i] = std::make_unique<Reader>(registry, [&, i](P) {
             told.push_back(i);
             if (i != 3) return;
-            // It and its neighbours on both sides go while it is told; another one comes.
+            // During its call it and both neighbours are destroyed, and another reader is created.
             readers[2].reset();
             readers[4].reset();
             readers[3].reset();

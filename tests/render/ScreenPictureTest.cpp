@@ -170,7 +170,7 @@ TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
     RandomEditor editor(11);
     ScreenPicture kept(noImages);
     for (int step = 0; step < 260; ++step) {
-        // Towards the end the view goes to and fro, while the picture changes now and then.
+        // Towards the end the scale changes at each step, and the picture at some steps.
         const bool isZooming = step >= 140;
         if (!isZooming || editor.below(4) == 0) editor.change();
         const double scale = isZooming ? 0.5 + 0.5 * editor.below(3) : 1;

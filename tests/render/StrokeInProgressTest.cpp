@@ -47,7 +47,7 @@ Picture drawnWhole(const Stroke& stroke, double scale) {
     return picture;
 }
 
-/// A pointer that turns, hesitates, jitters, goes back on its way and jumps.
+/// Positions of a pointer that turns, rests, jitters, reverses and jumps.
 class Pointer {
 public:
     explicit Pointer(unsigned seed) : random_(seed) {}

@@ -52,8 +52,8 @@ struct Picture {
     std::vector<std::uint8_t> bytes;
 };
 
-/// Checks that drawing the strokes in sight of each part gives the picture of drawing all strokes
-/// as they come; gives how many were drawn.
+/// Checks that drawing the visible strokes of each part gives the same picture as drawing all
+/// strokes from the lowest to the topmost. Returns the number of drawn strokes.
 std::size_t drawInParts(const Layer& layer, double scale, const std::vector<IntRect>& parts) {
     IntRect whole;
     for (const IntRect& part : parts)
