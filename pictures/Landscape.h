@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/ui/Pointer.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 
 #include <vector>

@@ -7,6 +7,7 @@
 #include "platform/qt/QtImageCodec.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtStrings.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 #include "ui/windows/Translations.h"

@@ -3,6 +3,7 @@
 #include "tools/Selection.h"
 #include "tools/StrokeCapture.h"
 #include "ui/controls/Colors.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 

@@ -1,4 +1,5 @@
 #include "tests/ui/Pointer.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 

@@ -2,6 +2,7 @@
 #include "ui/windows/SettingsWindow.h"
 
 #include <QLineEdit>
+#include <QMenuBar>
 
 using namespace marlevo;
 

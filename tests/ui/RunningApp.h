@@ -4,6 +4,7 @@
 #include "tests/support/FakeServices.h"
 #include "tests/ui/MarlevoLook.h"
 #include "tools/StrokeCapture.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 

@@ -3,6 +3,7 @@
 #include "ui/controls/SmallButton.h"
 
 #include <QAccessible>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTranslator>

@@ -1,5 +1,6 @@
 #include "ui/canvas/StatusBar.h"
 
+#include "model/DrawingDocument.h"
 #include "ui/canvas/CanvasAccessibility.h"
 #include "ui/canvas/CanvasTexts.h"
 #include "ui/canvas/ZoomRange.h"
@@ -28,19 +29,15 @@ constexpr int nameIndent = 4;
 
 constexpr double keyStep = 0.01;
 
-constexpr TextLabel::Look caption{TypeStyle::caption, QFont::Normal, SemanticColor::secondary,
-                                  TextLabel::Digits::proportional};
-constexpr TextLabel::Look numbers{TypeStyle::caption, QFont::Normal, SemanticColor::secondary,
-                                  TextLabel::Digits::monospaced};
 constexpr TextLabel::Look zoomNumber{TypeStyle::caption, QFont::Medium, SemanticColor::secondary,
                                      TextLabel::Digits::monospaced};
-constexpr TextLabel::Look layerName{TypeStyle::caption, QFont::Normal, SemanticColor::tertiary,
-                                    TextLabel::Digits::proportional};
+constexpr TextLabel::Look layerName{TypeStyle::caption, QFont::Normal, SemanticColor::tertiary};
 
 }  // namespace
 
 StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindow, QWidget* parent)
-    : QWidget(parent), document_(document), canvasSize_({}, numbers), strokeCount_({}, caption),
+    : QWidget(parent), document_(document), canvasSize_({}, textlook::captionNumber),
+      strokeCount_({}, textlook::caption),
       zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}, nullptr, ContinuousSlider::Knob::small),
       zoomText_({}, zoomNumber), activeLayer_({}, layerName),
       follower_(document.changeRegistry(), [this] { showDocument(); }) {

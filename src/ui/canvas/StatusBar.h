@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/DrawingDocument.h"
 #include "model/Follower.h"
 #include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/TextLabel.h"
@@ -10,6 +9,8 @@
 #include <functional>
 
 namespace marlevo {
+
+class DrawingDocument;
 
 /// The line below the canvas: the canvas's size, the number of strokes, the zoom with its controls,
 /// and the name of the active layer.

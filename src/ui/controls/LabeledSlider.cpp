@@ -16,11 +16,9 @@ constexpr int spacing = 3;
 LabeledSlider::LabeledSlider(const QString& label, ContinuousSlider::Range range, Display display,
                              QWidget* parent)
     : QWidget(parent), display_(std::move(display)),
-      // The first child: who looks for the name finds the slider, not its label.
-      slider_(label, range, this),
-      label_(label, {TypeStyle::caption, QFont::Normal, SemanticColor::secondary}),
-      value_({}, {TypeStyle::caption, QFont::Normal, SemanticColor::secondary,
-                  TextLabel::Digits::monospaced}) {
+      // The first child, so that a search for the name finds the slider before its label.
+      slider_(label, range, this), label_(label, textlook::caption),
+      value_({}, textlook::captionNumber) {
     auto* texts = new QHBoxLayout;
     texts->addWidget(&label_, 1);
     texts->addWidget(&value_);

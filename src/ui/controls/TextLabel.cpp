@@ -72,6 +72,6 @@ void TextLabel::paintCharacters(QPainter& painter, const QString& shown) const {
 }
 
 SectionHeader::SectionHeader(const QString& title, QWidget* parent)
-    : TextLabel(title, {TypeStyle::caption, QFont::DemiBold, SemanticColor::secondary}, parent) {}
+    : TextLabel(title, textlook::captionTitle, parent) {}
 
 }  // namespace marlevo

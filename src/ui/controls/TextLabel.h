@@ -46,6 +46,19 @@ private:
     Look look_;
 };
 
+// Looks that several labels share.
+namespace textlook {
+inline constexpr TextLabel::Look body{};
+inline constexpr TextLabel::Look bodyTitle{TypeStyle::body, QFont::DemiBold};
+inline constexpr TextLabel::Look bodyUnit{TypeStyle::body, QFont::Normal, SemanticColor::secondary};
+inline constexpr TextLabel::Look caption{TypeStyle::caption, QFont::Normal,
+                                         SemanticColor::secondary};
+inline constexpr TextLabel::Look captionTitle{TypeStyle::caption, QFont::DemiBold,
+                                              SemanticColor::secondary};
+inline constexpr TextLabel::Look captionNumber{
+    TypeStyle::caption, QFont::Normal, SemanticColor::secondary, TextLabel::Digits::monospaced};
+}  // namespace textlook
+
 /// The title of a section of the sidebar, in upper case to the eye only.
 class SectionHeader final : public TextLabel {
     Q_OBJECT

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/LateFollower.h"
 #include "ui/controls/IconButton.h"
 #include "ui/sidebar/ExportPopover.h"
+#include "ui/sidebar/LateFollower.h"
 
 namespace marlevo {
 

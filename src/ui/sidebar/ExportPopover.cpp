@@ -28,8 +28,7 @@ QString titleOf(ExportFormat format) {
 ExportPopover::ExportPopover(QWidget& anchor) : Popover(anchor) {
     const QString title = tr("Export as");
     setAccessibleName(title);
-    auto* heading =
-        new TextLabel(title, {TypeStyle::caption, QFont::DemiBold, SemanticColor::secondary});
+    auto* heading = new TextLabel(title, textlook::captionTitle);
     heading->setContentsMargins(sidePadding, headingTop, sidePadding, headingBottom);
     heading->setMinimumWidth(std::max(leastWidth, heading->sizeHint().width()));
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/LateFollower.h"
 #include "ui/controls/FocusGroup.h"
+#include "ui/sidebar/LateFollower.h"
 #include "ui/sidebar/LayerRow.h"
 
 #include <QVBoxLayout>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/LateFollower.h"
 #include "ui/controls/IconButton.h"
+#include "ui/sidebar/LateFollower.h"
 #include "ui/sidebar/LayerRows.h"
 
 namespace marlevo {

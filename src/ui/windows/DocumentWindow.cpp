@@ -1,6 +1,8 @@
 #include "ui/windows/DocumentWindow.h"
 
+#include "ui/windows/ContentView.h"
 #include "ui/windows/MarlevoApp.h"
+#include "ui/windows/MenuCommands.h"
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -12,7 +14,7 @@ namespace {
 
 constexpr QSize smallestContent(700, 500);
 
-// What a desktop's panels and the window's own frame take of the screen.
+// The part of the screen for the desktop's panels and the window's frame.
 constexpr QSize screenReserve(20, 60);
 
 Services withPanels(Services services, FilePanels& panels) {
@@ -23,20 +25,28 @@ Services withPanels(Services services, FilePanels& panels) {
 }  // namespace
 
 DocumentWindow::DocumentWindow(MarlevoApp& app)
-    : filePanels_(*this), content_(withPanels(app.services(), filePanels_), app.notifications()),
-      menus_(app, document(), this) {
-    setMenuBar(&menus_);
-    setCentralWidget(&content_);
+    : filePanels_(*this), content_(std::make_unique<ContentView>(
+                              withPanels(app.services(), filePanels_), app.notifications())),
+      menus_(std::make_unique<MenuCommands>(app, document(), this)) {
+    setMenuBar(menus_.get());
+    setCentralWidget(content_.get());
     setContextMenuPolicy(Qt::NoContextMenu);
-    connect(&content_.closeGuard(), &WindowAccessor::Coordinator::kept, this,
+    connect(&content_->closeGuard(), &WindowAccessor::Coordinator::kept, this,
             &DocumentWindow::kept);
-    connect(&content_, &ContentView::showNewCanvasChanged, &menus_, &MenuCommands::setBehindSheet);
-    menus_.setBehindSheet(content_.showNewCanvas());
+    connect(content_.get(), &ContentView::showNewCanvasChanged, menus_.get(),
+            &MenuCommands::setBehindSheet);
+    menus_->setBehindSheet(content_->showNewCanvas());
 
-    content_.setMinimumSize(smallestContent);
+    content_->setMinimumSize(smallestContent);
     const QSize room = screen()->availableSize() - screenReserve;
     resize(sizeHint().boundedTo(room).expandedTo(smallestContent));
 }
+
+DocumentWindow::~DocumentWindow() = default;
+
+DrawingDocument& DocumentWindow::document() { return content_->document(); }
+
+CanvasView& DocumentWindow::canvasView() { return content_->canvasView(); }
 
 void DocumentWindow::closeDismissingPanels() {
     for (QDialog* const panel : findChildren<QDialog*>(Qt::FindDirectChildrenOnly))

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "platform/qt/QtFilePanels.h"
-#include "ui/windows/ContentView.h"
-#include "ui/windows/MenuCommands.h"
 
 #include <QMainWindow>
 
+#include <memory>
+
 namespace marlevo {
 
+class CanvasView;
+class ContentView;
+class DrawingDocument;
 class MarlevoApp;
+class MenuCommands;
 
 /// A window with a drawing of its own: its content below the menus.
 class DocumentWindow final : public QMainWindow {
@@ -19,16 +23,18 @@ public:
     /// shows its own.
     explicit DocumentWindow(MarlevoApp& app);
 
-    DrawingDocument& document() { return content_.document(); }
-    ContentView& content() { return content_; }
-    CanvasView& canvasView() { return content_.canvasView(); }
+    ~DocumentWindow() override;
 
-    /// Closes the window as the user would, who may keep it. Panels that are open over it would
-    /// stand in the way: they are answered as cancelled.
+    DrawingDocument& document();
+    ContentView& content() { return *content_; }
+    CanvasView& canvasView();
+
+    /// Closes the window; the close guard may ask the user and refuse. Open panels are cancelled
+    /// first, because they would block the close.
     void closeDismissingPanels();
 
 Q_SIGNALS:
-    /// The window has closed and goes away after the current event.
+    /// The window has closed. It is deleted after the current event.
     void closed();
 
     /// The user was asked and keeps the window.
@@ -38,10 +44,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    // The panels come before the document that shows them, so that they go after it.
+    // Each is destroyed before those declared above it: the menus use the document of the content,
+    // which uses the panels.
     QtFilePanels filePanels_;
-    ContentView content_;
-    MenuCommands menus_;
+    std::unique_ptr<ContentView> content_;
+    std::unique_ptr<MenuCommands> menus_;
 };
 
 }  // namespace marlevo

@@ -1,6 +1,7 @@
 #include "ui/windows/HelpMenu.h"
 
 #include "ui/controls/Icons.h"
+#include "ui/windows/Commands.h"
 #include "ui/windows/ShortcutsDialog.h"
 
 #include <QApplication>
@@ -10,10 +11,8 @@
 namespace marlevo {
 
 HelpMenu::HelpMenu(QMenuBar& menus) : QMenu(tr("&Help"), &menus) {
-    QAction* const shortcuts =
-        addAction(tr("Keyboard Shortcuts"), this, [this, &menus] { showShortcuts(menus); });
-    shortcuts->setShortcut(Qt::Key_F1);
-    shortcuts->setAutoRepeat(false);
+    addCommand(*this, tr("Keyboard Shortcuts"), Qt::Key_F1,
+               [this, &menus] { showShortcuts(menus); });
     addSeparator();
     addAction(tr("About Marlevo"), this, &HelpMenu::showAbout);
 }

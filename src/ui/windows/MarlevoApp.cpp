@@ -1,6 +1,7 @@
 #include "ui/windows/MarlevoApp.h"
 
 #include "io/Open.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/SettingsWindow.h"
 

@@ -4,6 +4,7 @@
 #include "io/Save.h"
 #include "model/DrawingDocument.h"
 #include "model/LayerOperations.h"
+#include "ui/windows/Commands.h"
 #include "ui/windows/HelpMenu.h"
 #include "ui/windows/MarlevoApp.h"
 #include "ui/windows/TextFieldCommands.h"
@@ -50,10 +51,9 @@ void MenuCommands::addExportMenu(QMenu& file) {
         addDocumentCommand(formats, QString::fromUtf8(name.data(), qsizetype(name.size())), {},
                            [format](DrawingDocument& d) { performExport(d, format); });
     }
-    // A submenu does nothing by itself when its shortcut is typed: show the formats.
+    // The shortcut of a submenu does not open it by itself.
     QAction& exportItem = *formats.menuAction();
-    exportItem.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_E);
-    exportItem.setAutoRepeat(false);
+    setCommandShortcut(exportItem, Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     connect(&exportItem, &QAction::triggered, this, [this, &formats] {
         formats.popup(mapToGlobal(rect().bottomLeft()));
         formats.setActiveAction(formats.actions().first());
@@ -75,7 +75,7 @@ void MenuCommands::addEditMenu() {
 
 void MenuCommands::addCanvasMenu() {
     QMenu& canvas = *addMenu(tr("&Canvas"));
-    // Both items show the shortcut and one has it: with two it would be ambiguous, and neither ran.
+    // Two active items with one shortcut would be ambiguous. This one only displays it.
     addNewCanvas(canvas).setShortcutContext(Qt::WidgetShortcut);
     canvas.addSeparator();
     addDocumentCommand(canvas, tr("Clear Active Layer"), Qt::CTRL | Qt::Key_K,
@@ -100,15 +100,6 @@ void MenuCommands::addLayersMenu(QMenu& canvas) {
 QAction& MenuCommands::addNewCanvas(QMenu& menu) {
     return addCommand(menu, tr("New Canvas…"), Qt::CTRL | Qt::Key_N,
                       [this] { app_.notifications().post(notification::newCanvas); });
-}
-
-QAction& MenuCommands::addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
-                                  std::function<void()> run) {
-    QAction& action = *menu.addAction(title);
-    action.setShortcut(shortcut);
-    action.setAutoRepeat(false);
-    connect(&action, &QAction::triggered, this, [run = std::move(run)] { run(); });
-    return action;
 }
 
 QAction& MenuCommands::addDocumentCommand(QMenu& menu, const QString& title,

@@ -16,7 +16,7 @@ class DrawingDocument;
 class MarlevoApp;
 
 /// The menus of a document window. Their commands act on the window's document, whichever window
-/// has the focus, and are disabled while a sheet lies over it.
+/// has the focus, and are disabled while a sheet covers it.
 class MenuCommands final : public QMenuBar {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
     /// The application and the document must outlive the menus; `window` is what Close closes.
     MenuCommands(MarlevoApp& app, DrawingDocument& document, QWidget* window);
 
-    /// Whether a sheet lies over the document, whose commands are disabled then.
+    /// True disables the commands on the document, for the time that a sheet covers it.
     void setBehindSheet(bool isBehindSheet);
 
 private:
@@ -35,9 +35,6 @@ private:
     void addLayersMenu(QMenu& canvas);
     QAction& addNewCanvas(QMenu& menu);
 
-    /// A key held down runs a command once.
-    QAction& addCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
-                        std::function<void()> run);
     /// A command on the document.
     QAction& addDocumentCommand(QMenu& menu, const QString& title, const QKeySequence& shortcut,
                                 std::function<void(DrawingDocument&)> run);

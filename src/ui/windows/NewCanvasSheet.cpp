@@ -33,12 +33,7 @@ constexpr int shownRowsAtLeast = 2;
 
 constexpr double mostPixels = 10000;
 
-constexpr TextLabel::Look title{TypeStyle::title3, QFont::DemiBold, SemanticColor::primary,
-                                TextLabel::Digits::proportional};
-constexpr TextLabel::Look secondary{TypeStyle::body, QFont::Normal, SemanticColor::secondary,
-                                    TextLabel::Digits::proportional};
-constexpr TextLabel::Look caption{TypeStyle::caption, QFont::Normal, SemanticColor::secondary,
-                                  TextLabel::Digits::proportional};
+constexpr TextLabel::Look title{TypeStyle::title3, QFont::DemiBold};
 
 bool isAllowed(double side) { return side > 0 && side <= mostPixels; }
 
@@ -57,7 +52,7 @@ QAccessibleInterface* makeSheetInterface(const QString& className, QObject* obje
 
 NewCanvasSheet::NewCanvasSheet(DrawingDocument& document, std::function<void()> dismiss)
     : document_(document), dismiss_(std::move(dismiss)), useCustom_(tr("Custom size")),
-      preview_({}, caption), create_(tr("Create Canvas")) {
+      preview_({}, textlook::caption), create_(tr("Create Canvas")) {
     QAccessible::installFactory(makeSheetInterface);
     setAccessibleName(tr("New Canvas"));
     setFocusPolicy(Qt::NoFocus);
@@ -153,9 +148,9 @@ QLayout* NewCanvasSheet::makeCustomSection() {
         fields->addWidget(&field);
     };
     addField(customW_, tr("Width"));
-    fields->addWidget(new TextLabel(QStringLiteral("×"), secondary));
+    fields->addWidget(new TextLabel(QStringLiteral("×"), textlook::bodyUnit));
     addField(customH_, tr("Height"));
-    fields->addWidget(new TextLabel(tr("px"), caption));
+    fields->addWidget(new TextLabel(tr("px"), textlook::caption));
     fields->addStretch(1);
 
     auto* section = new QVBoxLayout;

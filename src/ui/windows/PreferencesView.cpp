@@ -18,12 +18,6 @@ constexpr int sectionSpacing = 20;
 constexpr int itemSpacing = 8;
 constexpr int fieldWidth = 80;
 
-constexpr TextLabel::Look sectionTitle{TypeStyle::body, QFont::DemiBold, SemanticColor::primary,
-                                       TextLabel::Digits::proportional};
-constexpr TextLabel::Look label{};
-constexpr TextLabel::Look unit{TypeStyle::body, QFont::Normal, SemanticColor::secondary,
-                               TextLabel::Digits::proportional};
-
 }  // namespace
 
 PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
@@ -34,10 +28,10 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(titleSpacing);
     column->addStretch(1);
-    column->addWidget(new TextLabel(tr("Default Canvas Size"), sectionTitle));
+    column->addWidget(new TextLabel(tr("Default Canvas Size"), textlook::bodyTitle));
     column->addLayout(makeSizeRow());
     column->addSpacing(sectionSpacing - titleSpacing);
-    column->addWidget(new TextLabel(tr("Auto-Save"), sectionTitle));
+    column->addWidget(new TextLabel(tr("Auto-Save"), textlook::bodyTitle));
     column->addWidget(&autoSave_);
     column->addStretch(1);
 
@@ -58,11 +52,11 @@ QLayout* PreferencesView::makeSizeRow() {
     }
     auto* row = new QHBoxLayout;
     row->setSpacing(itemSpacing);
-    row->addWidget(new TextLabel(tr("Width:"), label));
+    row->addWidget(new TextLabel(tr("Width:"), textlook::body));
     row->addWidget(&width_);
-    row->addWidget(new TextLabel(QStringLiteral("×"), unit));
+    row->addWidget(new TextLabel(QStringLiteral("×"), textlook::bodyUnit));
     row->addWidget(&height_);
-    row->addWidget(new TextLabel(tr("px"), unit));
+    row->addWidget(new TextLabel(tr("px"), textlook::bodyUnit));
     row->addStretch(1);
     return row;
 }

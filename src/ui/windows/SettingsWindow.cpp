@@ -1,27 +1,28 @@
 #include "ui/windows/SettingsWindow.h"
 
+#include "ui/windows/Commands.h"
 #include "ui/windows/MarlevoApp.h"
+#include "ui/windows/PreferencesView.h"
 
 #include <QAction>
 #include <QVBoxLayout>
 
 namespace marlevo {
 
-SettingsWindow::SettingsWindow(MarlevoApp& app) : preferences_(*app.services().preferences) {
+SettingsWindow::SettingsWindow(MarlevoApp& app) {
     setWindowTitle(tr("Settings"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_DeleteOnClose);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    // As large as its content and no larger.
+    // The window always has the size of its content.
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(&preferences_);
+    layout->addWidget(new PreferencesView(*app.services().preferences));
 
     const auto addKey = [this](const QKeySequence& key, auto run) {
         auto* action = new QAction(this);
-        action->setShortcut(key);
-        action->setAutoRepeat(false);
+        setCommandShortcut(*action, key);
         connect(action, &QAction::triggered, this, run);
         addAction(action);
     };

@@ -1,23 +1,18 @@
 #pragma once
 
-#include "ui/windows/PreferencesView.h"
-
 #include <QDialog>
 
 namespace marlevo {
 
 class MarlevoApp;
 
-/// The window of the user's settings. It does not keep the program from ending.
+/// The window of the user's settings. The program ends although it is open.
 class SettingsWindow final : public QDialog {
     Q_OBJECT
 
 public:
     /// The application must outlive the window and have preferences among its services.
     explicit SettingsWindow(MarlevoApp& app);
-
-private:
-    PreferencesView preferences_;
 };
 
 }  // namespace marlevo

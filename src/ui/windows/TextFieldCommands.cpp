@@ -1,6 +1,6 @@
 #include "ui/windows/TextFieldCommands.h"
 
-#include "ui/controls/TextFieldFocus.h"
+#include "ui/windows/Commands.h"
 
 #include <QApplication>
 #include <QKeySequence>
@@ -10,6 +10,16 @@
 #include <utility>
 
 namespace marlevo {
+
+namespace {
+
+/// The field that receives typed text; null if no field has the focus or it cannot be edited.
+QLineEdit* focusedTextField(const QWidget& window) {
+    auto* const field = qobject_cast<QLineEdit*>(window.focusWidget());
+    return field && field->isEnabled() && !field->isReadOnly() ? field : nullptr;
+}
+
+}  // namespace
 
 TextFieldCommands::TextFieldCommands(QMenu& menu, QWidget& window)
     : QObject(&menu), window_(window) {
@@ -23,13 +33,9 @@ TextFieldCommands::TextFieldCommands(QMenu& menu, QWidget& window)
 
 void TextFieldCommands::add(QMenu& menu, const QString& title, const QKeySequence& shortcut,
                             std::function<void(QLineEdit&)> run) {
-    QAction* const action = menu.addAction(title);
-    action->setShortcut(shortcut);
-    action->setAutoRepeat(false);
-    connect(action, &QAction::triggered, this, [this, run = std::move(run)] {
+    actions_.push_back(&addCommand(menu, title, shortcut, [this, run = std::move(run)] {
         if (QLineEdit* const field = focusedTextField(window_)) run(*field);
-    });
-    actions_.push_back(action);
+    }));
 }
 
 void TextFieldCommands::followFocus() {

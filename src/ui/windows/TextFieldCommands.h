@@ -12,13 +12,13 @@ class QWidget;
 
 namespace marlevo {
 
-/// Cut, Copy, Paste and Select All for the text field of a window that has the keyboard; disabled
-/// while none has. A field takes the keys of these commands itself.
+/// Cut, Copy, Paste and Select All for the focused text field of a window; disabled without one. A
+/// field handles the keys of these commands itself.
 class TextFieldCommands final : public QObject {
     Q_OBJECT
 
 public:
-    /// Adds the commands to the menu and goes with it.
+    /// Adds the commands to the menu. Owned by the menu.
     TextFieldCommands(QMenu& menu, QWidget& window);
 
 private:

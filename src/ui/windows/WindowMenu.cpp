@@ -1,5 +1,7 @@
 #include "ui/windows/WindowMenu.h"
 
+#include "ui/windows/Commands.h"
+#include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/MarlevoApp.h"
 
@@ -7,9 +9,7 @@ namespace marlevo {
 
 WindowMenu::WindowMenu(MarlevoApp& app, QWidget& window)
     : QMenu(tr("&Window"), &window), app_(app), window_(window) {
-    QAction* const minimize = addAction(tr("Minimize"), &window, &QWidget::showMinimized);
-    minimize->setShortcut(Qt::CTRL | Qt::Key_M);
-    minimize->setAutoRepeat(false);
+    addCommand(*this, tr("Minimize"), Qt::CTRL | Qt::Key_M, [&window] { window.showMinimized(); });
     addSeparator();
     connect(this, &QMenu::aboutToShow, this, &WindowMenu::listWindows);
 }

@@ -8,8 +8,8 @@
 
 namespace marlevo {
 
-/// A Follower that waits: after changes the function runs once, when the event that made them is
-/// over. For what must not show the steps between, such as a list without the layer that is being
+/// Like a Follower, but after changes the function runs once, when the current event is over. For
+/// views that must not show the steps between, such as a list without the layer that is being
 /// moved. The registry must outlive this object.
 class LateFollower final : public QObject {
 public:

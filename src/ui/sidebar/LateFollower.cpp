@@ -1,4 +1,4 @@
-#include "ui/LateFollower.h"
+#include "ui/sidebar/LateFollower.h"
 
 #include <utility>
 
