@@ -9,10 +9,10 @@ namespace marlevo {
 inline constexpr double minZoom = 0.1;
 inline constexpr double maxZoom = 5.0;
 
-/// One step closer to the picture, not beyond `maxZoom`.
+/// One step larger, at most `maxZoom`.
 double zoomedIn(double zoom);
 
-/// One step further away, not below `minZoom`.
+/// One step smaller, at least `minZoom`.
 double zoomedOut(double zoom);
 
 /// The zoom at which the whole canvas fits a window with content of this size, in view points; not

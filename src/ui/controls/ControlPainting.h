@@ -21,11 +21,11 @@ struct Outline {
     double width = 0;  ///< 0 paints none
 };
 
-/// The outline lies within the rectangle, whole.
+/// The whole outline is inside the rectangle.
 void paintRoundedRect(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
                       const Outline& outline = {});
 
-/// Shows that the control that fills `rect` has the keyboard.
+/// Shows the focus of the control that fills `rect`.
 void paintFocusRing(QPainter& painter, const QRectF& rect, double radius);
 
 }  // namespace marlevo

@@ -7,14 +7,15 @@
 
 namespace marlevo {
 
-/// Whole device pixels as a frame to paint in: for a painter on a widget of any scale factor, with
-/// the origin on the device pixel nearest to a given point.
+/// A frame of whole device pixels for a painter on a widget of any scale factor. Its origin is the
+/// device pixel nearest to a given point.
 class DevicePixels {
 public:
-    /// `origin` in the painter's coordinates; the painter must not be transformed by its user yet.
+    /// `origin` is in the painter's coordinates. The painter must have no transform of its own.
     DevicePixels(QPainter& painter, QPointF origin);
 
-    /// The device pixels, counted from the origin, that a rectangle of the painter's touches.
+    /// The device pixels, relative to the origin, that a rectangle in the painter's coordinates
+    /// touches.
     QRect touchedBy(const QRectF& rect) const;
 
     /// Draws the image pixel by pixel with its top left corner at `at`.

@@ -29,8 +29,8 @@ DisclosureSection::DisclosureSection(const QString& name, const QList<QWidget*>&
     clip_.installEventFilter(this);
     content_->installEventFilter(this);
 
-    (void)isMotionWanted();  // the desktop is asked now, so that the answer is there at the first
-                             // press
+    // Starts the query to the desktop, so that the answer has arrived before the first press.
+    (void)isMotionWanted();
 
     const bool open = start == Start::open;
     button_.setOpen(open);

@@ -6,8 +6,8 @@
 
 namespace marlevo {
 
-/// Content below a header that opens and closes it, moving for 0.15 s unless the desktop wants no
-/// motion. Content is hidden while the section is closed.
+/// Content below a header that opens and closes it with an animation of 0.15 s, or at once if the
+/// desktop disables motion. The content is hidden while the section is closed.
 class DisclosureSection final : public QWidget {
     Q_OBJECT
 
@@ -35,10 +35,10 @@ private:
     void layOut();
 
     DisclosureButton button_;
-    QWidget clip_;  ///< what of the content is in sight while it moves
+    QWidget clip_;  ///< clips the content during the animation
     QWidget* content_;
     QVariantAnimation motion_;
-    double opening_ = 0;  ///< from 0, closed, to 1
+    double opening_ = 0;  ///< 0 closed, 1 open
 };
 
 }  // namespace marlevo

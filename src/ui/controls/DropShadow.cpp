@@ -17,8 +17,8 @@ constexpr double opacity = 0.15;
 constexpr double sigma = 2;  // half the blur radius
 constexpr double offsetY = 2;
 
-/// How much of an edge from `begin` to `end`, blurred, is seen at each of `count` pixels from
-/// `first` on. A blurred rectangle is the product of its blurred sides.
+/// The blurred interval from `begin` to `end` at each of `count` pixels, starting with `first`. A
+/// blurred rectangle is the product of its two blurred sides.
 std::vector<double> blurredSide(double begin, double end, double blur, int first, int count) {
     std::vector<double> share;
     share.reserve(static_cast<std::size_t>(count));

@@ -10,7 +10,8 @@
 #include <cmath>
 #include <memory>
 
-// Resources of a static library are linked only when asked for, outside every namespace.
+// The linker drops the resources of a static library unless Q_INIT_RESOURCE names them, which works
+// outside of namespaces only.
 static void makeIconsAvailable() { Q_INIT_RESOURCE(icons); }
 
 namespace marlevo {
@@ -41,7 +42,7 @@ QSvgRenderer& rendererOf(Icon icon) {
     return *renderer;
 }
 
-/// In its own colours.
+/// A picture that has colours of its own.
 QIcon iconOf(const char* name) {
     QSvgRenderer renderer(resource(name));
     QIcon icon;
@@ -73,7 +74,7 @@ void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& c
     inside.end();
     image.setDevicePixelRatio(ratio);
 
-    // On whole device pixels, or it would be smeared.
+    // Aligned to whole device pixels, because resampling blurs it.
     const QPointF corner = rect.center() - QPointF(side, side) / 2;
     const QTransform toDevice = painter.deviceTransform();
     const QPointF onPixel = toDevice.map(corner);

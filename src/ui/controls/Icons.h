@@ -8,8 +8,8 @@ class QPainter;
 
 namespace marlevo {
 
-/// The program's own pictures, one family on a grid of 16 × 16, named after what they show. Their
-/// files, of the same names, lie in icons/.
+/// The program's icons, drawn on a grid of 16 × 16 and named after their subjects. The files in
+/// icons/ have the same names.
 enum class Icon : unsigned char {
     arrowDown,
     arrowPointer,
@@ -39,14 +39,14 @@ enum class Icon : unsigned char {
     undoArrow,
 };
 
-/// Paints the icon in one colour, as large as it fits into `rect`, sharp at every scale of the
-/// screen.
+/// Paints the icon in one colour, as a square in the centre of `rect`, with edges on whole device
+/// pixels.
 void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& color);
 
 /// The icon of the program itself.
 QIcon applicationIcon();
 
-/// The sign beside a question whose answer can destroy something.
+/// The warning sign of questions whose answer can lose data.
 QIcon warningIcon();
 
 }  // namespace marlevo

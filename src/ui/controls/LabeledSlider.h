@@ -7,7 +7,7 @@
 
 namespace marlevo {
 
-/// A slider below its name and its value in words.
+/// A slider below its name and its value as text.
 class LabeledSlider final : public QWidget {
     Q_OBJECT
 
@@ -17,11 +17,11 @@ public:
     LabeledSlider(const QString& label, ContinuousSlider::Range range, Display display,
                   QWidget* parent = nullptr);
 
-    /// Shows a value, which may lie beyond the range; emits nothing.
+    /// Shows a value, which may be beyond the range. Emits nothing.
     void showValue(double value);
 
 Q_SIGNALS:
-    /// The user wants this value.
+    /// The user has chosen this value.
     void moved(double value);
 
 private:

@@ -4,9 +4,9 @@
 
 namespace marlevo {
 
-/// Makes the toolkit's own controls, in panels and questions as in our windows, look like the
-/// program's: flat buttons and fields, narrow scroll bars, and the colours of the one table in the
-/// desktop's light or dark.
+/// Paints the controls of all windows, including the toolkit's panels and questions: flat buttons
+/// and fields, narrow scroll bars, and the colours of SemanticColors.h for the desktop's light or
+/// dark appearance.
 class MarlevoStyle final : public QProxyStyle {
     Q_OBJECT
 

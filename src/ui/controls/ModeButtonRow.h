@@ -6,13 +6,12 @@
 
 namespace marlevo {
 
-/// Tool buttons side by side. Each gets the same share of the row; where a label needs more, the
-/// shares follow need.
+/// Tool buttons side by side, which divide the width of the row (DistributeWidth.h).
 class ModeButtonRow final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Takes the buttons as its children.
+    /// Takes ownership of the buttons.
     explicit ModeButtonRow(std::vector<ModeButton*> buttons, QWidget* parent = nullptr);
 
     QSize sizeHint() const override;

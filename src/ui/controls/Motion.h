@@ -2,7 +2,7 @@
 
 namespace marlevo {
 
-/// Whether things may move on screen; the desktop's settings can forbid it.
+/// True unless the style or the desktop's settings disable animation.
 bool isMotionWanted();
 
 }  // namespace marlevo

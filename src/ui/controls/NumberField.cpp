@@ -42,7 +42,7 @@ void NumberField::changeEvent(QEvent* event) {
 }
 
 void NumberField::keyPressEvent(QKeyEvent* event) {
-    // Without an edit the key is the window's.
+    // Without an edit, Escape is left to the window.
     if (event->key() == Qt::Key_Escape && isEdited())
         rewrite();
     else
@@ -55,7 +55,7 @@ void NumberField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
 }
 
-// A window that closes takes the focus from the field without finishing the edit.
+// When a window closes, the field loses the focus without editingFinished().
 void NumberField::hideEvent(QHideEvent* event) {
     finish();
     QLineEdit::hideEvent(event);

@@ -118,7 +118,7 @@ void Popover::keyPressEvent(QKeyEvent* event) {
 }
 
 bool Popover::event(QEvent* event) {
-    // Escape is the popover's, whatever shortcut the window has for it.
+    // Escape closes the popover, also where the window has a shortcut for it.
     if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
@@ -139,17 +139,17 @@ bool Popover::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-/// Whether the press lands outside. Taken where the window gets it, it does not move the focus.
+/// True if the press is outside. It is filtered at the window, so that it does not move the focus.
 bool Popover::takePress(QPointerEvent& press) {
     const QPointF place = press.points().first().scenePosition();
     if (geometry().contains(place.toPoint())) return false;
     dismiss();
-    // Else the toolkit would make a press of the mouse out of one of a finger or a pen.
+    // Otherwise the toolkit synthesises a mouse press from an ignored touch or pen press.
     press.accept();
     return true;
 }
 
-// Round among the controls of the popover.
+// Tab cycles through the controls of the popover.
 bool Popover::focusNextPrevChild(bool next) {
     QList<QWidget*> stops;
     for (QWidget* child : findChildren<QWidget*>())

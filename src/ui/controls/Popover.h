@@ -36,7 +36,7 @@ private:
 
     QPointer<QWidget> anchor_;
     QPointer<QWidget> focusedBefore_;
-    double arrowTip_ = 0;  ///< its y
+    double arrowTip_ = 0;  ///< y of its tip
 };
 
 }  // namespace marlevo

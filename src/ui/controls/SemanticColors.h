@@ -6,12 +6,12 @@ class QPalette;
 
 namespace marlevo {
 
-/// What a colour of the user interface is for, whatever the desktop's palette.
+/// The purpose of a colour in the user interface. The desktop's palette decides its value.
 enum class SemanticColor : unsigned char {
-    blue,  ///< what is chosen; white text is readable on it
+    blue,  ///< chosen items; white text is readable on it
     gray,
     primary,    ///< text
-    secondary,  ///< text that explains
+    secondary,  ///< explanations
     tertiary,   ///< text and marks beside other text
     quaternaryFill,
     separator,
@@ -27,25 +27,25 @@ enum class SemanticColor : unsigned char {
 
 enum class Appearance : unsigned char { light, dark };
 
-/// What a palette is meant as, by the lightness of its windows.
+/// The appearance of a palette, judged by the lightness of its windows.
 Appearance appearanceOf(const QPalette& palette);
 
-/// One colour of the table. Text colours have a contrast of at least 4.5 : 1 on both backgrounds
-/// and on the fills that the program lays over them.
+/// One colour of the table. Text colours have a contrast of at least 4.5 : 1 on both backgrounds,
+/// also with the fills that the program paints over these.
 QColor semanticColor(SemanticColor color, Appearance appearance);
 
-/// As the desktop's palette is now. To be asked for while painting: widgets are painted anew when
-/// the palette changes; what is kept must be renewed then (AppearanceNotifier.h).
+/// The colour for the current palette. For use while painting: a change of the palette repaints all
+/// widgets. Stored colours must be renewed then (AppearanceNotifier.h).
 QColor semanticColor(SemanticColor color);
 
-/// The colour at a share, from 0 to 1, of its own opacity.
+/// The colour with its opacity multiplied by `opacity`, from 0 to 1.
 QColor withOpacity(QColor color, double opacity);
 
-/// Puts the table's colours into a palette, for the toolkit's controls among our own.
+/// Sets the table's colours in a palette, for the toolkit's own controls.
 void setSemanticColors(QPalette& palette, Appearance appearance, SemanticColor background);
 
-/// The application's palette for another background than that of windows; to be set again when the
-/// desktop's changes.
+/// The application's palette with another background than that of windows. Must be set again when
+/// the desktop's palette changes.
 QPalette semanticPalette(SemanticColor background);
 
 }  // namespace marlevo

@@ -20,7 +20,7 @@ constexpr int leastMargin = 8;
 }  // namespace
 
 SheetHost::SheetHost(QWidget& content)
-    // As a window within its window, Tab goes round inside it.
+    // A subwindow, because Tab stays inside of one.
     : QWidget(&content, Qt::SubWindow), frame_(this) {
     frame_.setFrameShape(QFrame::NoFrame);
     frame_.setWidgetResizable(true);
@@ -59,7 +59,7 @@ void SheetHost::layOut() {
         QRect(QPoint((width() - sheet.width()) / 2, (height() - sheet.height()) / 2), sheet));
 }
 
-// Not before: a window under construction forgets who has the keyboard.
+// Focus is set here because a window that is not yet shown loses it.
 void SheetHost::showEvent(QShowEvent*) {
     if (QWidget* const sheet = frame_.widget()) sheet->setFocus();
 }
@@ -82,7 +82,7 @@ void SheetHost::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
 
 void SheetHost::wheelEvent(QWheelEvent* event) { event->accept(); }
 
-// Taken here, the drag is refused; not taken, it would be offered to what lies below.
+// Refuses the drag. If it were ignored, the widget below would receive it.
 void SheetHost::dragEnterEvent(QDragEnterEvent* event) { event->ignore(); }
 
 }  // namespace marlevo

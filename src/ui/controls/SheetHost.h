@@ -5,21 +5,21 @@
 
 namespace marlevo {
 
-/// Shows a sheet in the middle of a window's content, which lies dimmed and out of reach below it
-/// until the host goes: the pointer, Tab and drops stay inside. The menus stay in reach. A sheet
-/// that finds too little room scrolls.
+/// Shows a sheet in the middle of a window's content, which is dimmed and gets no pointer events,
+/// focus by Tab or drops until the host is deleted. The menus stay usable. A sheet larger than the
+/// window scrolls.
 class SheetHost final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The host covers the content and stays as large as that is.
+    /// The host covers the content and follows its size.
     explicit SheetHost(QWidget& content);
 
-    /// Takes the sheet, which has its preferred size as its size hint, and gives it the keyboard.
+    /// Takes ownership of the sheet and gives it the focus. Its size hint is its preferred size.
     void setSheet(QWidget* sheet);
 
-    /// Gives the keyboard back and goes after the current event, in which the sheet may still be
-    /// busy.
+    /// Restores the focus and deletes the host after the current event, which the sheet may still
+    /// be handling.
     void dismiss();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -16,7 +16,7 @@ class TextLabel : public QLabel {
 public:
     enum class Digits : unsigned char {
         proportional,
-        monospaced,  ///< all as wide as the widest, so that a changing number stays in place
+        monospaced,  ///< as wide as the widest digit, so that a changing number does not move
     };
 
     struct Look {
@@ -32,7 +32,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    /// The text as the eye sees it.
+    /// The text as it is painted. Assistive technology reads text().
     virtual QString shownText() const { return text(); }
 
     void paintEvent(QPaintEvent* event) override;
@@ -59,7 +59,7 @@ inline constexpr TextLabel::Look captionNumber{
     TypeStyle::caption, QFont::Normal, SemanticColor::secondary, TextLabel::Digits::monospaced};
 }  // namespace textlook
 
-/// The title of a section of the sidebar, in upper case to the eye only.
+/// The title of a section of the sidebar, painted in upper case.
 class SectionHeader final : public TextLabel {
     Q_OBJECT
 

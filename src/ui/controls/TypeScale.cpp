@@ -44,7 +44,7 @@ QFont typeFont(TypeStyle style, QFont::Weight weight) {
 }
 
 int iconSide(TypeStyle style) {
-    // A little more than the text, whose letters do not fill its height.
+    // Larger than the font, because letters do not fill its height.
     return int(std::lround(QFontInfo(typeFont(style)).pixelSize() * 1.2));
 }
 

@@ -6,15 +6,15 @@ class QWidget;
 
 namespace marlevo {
 
-/// The sizes of text, all in proportion to the desktop's font, which is `body`.
+/// The sizes of text, in proportion to the desktop's font, which is `body`.
 enum class TypeStyle : unsigned char { caption2, caption, callout, body, title3, largeTitle };
 
 QFont typeFont(TypeStyle style, QFont::Weight weight = QFont::Normal);
 
-/// The side, in view points, of the square icon that goes with text of a size.
+/// The side of a square icon beside text of this size, in view points.
 int iconSide(TypeStyle style);
 
-/// Shows the widget's text in a style of the scale, also after the desktop's font has changed.
+/// Sets the widget's font to a style of the scale and renews it when the desktop's font changes.
 void setTypeStyle(QWidget& widget, TypeStyle style, QFont::Weight weight = QFont::Normal);
 
 }  // namespace marlevo

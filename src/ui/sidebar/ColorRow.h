@@ -13,7 +13,7 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// The colour of new strokes: a circle that shows it, a well to choose any, and swatches.
+/// The colour of new strokes: a circle that shows it, a well for any colour, and swatches.
 class ColorRow final : public QWidget {
     Q_OBJECT
 

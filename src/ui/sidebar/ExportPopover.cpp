@@ -16,7 +16,7 @@ constexpr int leastWidth = 140;
 constexpr int sidePadding = 12;
 constexpr int headingTop = 8;
 constexpr int headingBottom = 4;
-constexpr int bottomPadding = 4;  // keeps the last row clear of the round corners
+constexpr int bottomPadding = 4;  // between the last row and the round corners
 
 QString titleOf(ExportFormat format) {
     const auto title = rawValue(format);

@@ -7,7 +7,7 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// How many layers there are, on a capsule beside the section's title.
+/// The number of layers, on a capsule beside the section's title.
 class LayerCount final : public TextLabel {
     Q_OBJECT
 

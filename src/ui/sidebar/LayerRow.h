@@ -33,8 +33,8 @@ public:
 
     void showLayer(const Layer& layer, CanvasSize canvas, bool isActive);
 
-    /// Makes the row and its eye follow a widget, if any, when the user tabs; returns the last of
-    /// them.
+    /// Puts the row and its eye button after `previous`, if not null, in the order of Tab. Returns
+    /// the last of them.
     QWidget* followInTabOrder(QWidget* previous);
 
     QSize sizeHint() const override;

@@ -8,8 +8,7 @@
 
 namespace marlevo {
 
-/// Shows a layer's small picture in a frame of 44 × 32 points. Nothing is rendered while it is not
-/// on screen.
+/// Shows a layer's thumbnail in a frame of 44 × 32 points. Renders nothing while it is hidden.
 class LayerThumbnailView final : public QWidget {
     Q_OBJECT
 

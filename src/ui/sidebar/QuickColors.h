@@ -9,10 +9,10 @@
 
 namespace marlevo {
 
-/// A colour offered for quick choice.
+/// A colour of the swatches.
 struct QuickColor {
     QString name;                  ///< for assistive technology
-    std::function<Color()> color;  ///< as the desktop's palette is now
+    std::function<Color()> color;  ///< for the current palette
 };
 
 /// Black, white and the system's colours, in the order shown.

@@ -2,7 +2,7 @@
 
 namespace marlevo {
 
-// What the sections of the sidebar have in common, in view points.
+// Measures that the sections of the sidebar share, in view points.
 inline constexpr int sectionSpacing = 10;
 inline constexpr int sectionPadding = 4;
 

@@ -75,7 +75,7 @@ QSize SidebarView::minimumSizeHint() const {
 void SidebarView::updateColors() { setPalette(semanticPalette(SemanticColor::controlBackground)); }
 
 void SidebarView::makeRoomForScrollBar() {
-    // The bar takes its room from the padding, so that the column keeps its width.
+    // The padding shrinks by the width of the scroll bar, so that the column keeps its width.
     const QScrollBar& bar = *verticalScrollBar();
     const int trailing =
         bar.isVisible() ? std::max(0, sidePadding - bar.sizeHint().width()) : sidePadding;

@@ -8,14 +8,14 @@ namespace marlevo {
 
 class ImageCache;
 
-/// The column beside the canvas with everything that is set before drawing, the actions on the
-/// document and its layers. Every control shows what the document says and changes nothing else;
-/// which sections are open is the view's own.
+/// The column beside the canvas: settings of new strokes, tools, actions on the document, view and
+/// layers. Its controls show and change properties of the document. The view itself stores only
+/// which sections are open.
 class SidebarView final : public QScrollArea {
     Q_OBJECT
 
 public:
-    /// Limits of its width, in points, between which it should open.
+    /// Range and preferred value of the width, in view points.
     static constexpr int leastWidth = 200;
     static constexpr int idealWidth = 220;
     static constexpr int greatestWidth = 280;

@@ -9,7 +9,7 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// How the canvas looks: its grid and its background.
+/// The grid and the background of the canvas.
 class ViewSection final : public QWidget {
     Q_OBJECT
 

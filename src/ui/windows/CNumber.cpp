@@ -6,7 +6,7 @@
 namespace marlevo {
 
 std::optional<double> parseCNumber(std::string_view text) {
-    // The one sign that from_chars does not know; two signs are none.
+    // from_chars accepts no plus sign. Two signs are no number.
     if (text.starts_with('+')) {
         text.remove_prefix(1);
         if (text.starts_with('-')) return std::nullopt;

@@ -5,8 +5,9 @@
 
 namespace marlevo {
 
-/// The number that the whole text is in C notation, whatever the user's language: an optional sign,
-/// digits with "." as the decimal point, an optional exponent. Infinity and not-a-number are none.
+/// Parses the whole text as a number in C notation, independent of the locale: an optional sign,
+/// digits with "." as the decimal point, an optional exponent. Returns nothing for any other text,
+/// infinity and NaN.
 std::optional<double> parseCNumber(std::string_view text);
 
 }  // namespace marlevo

@@ -14,10 +14,10 @@ namespace marlevo {
 
 namespace {
 
-// Of the content of a window that has none.
+// For a window without a central widget.
 constexpr QSize defaultContent(800, 600);
 
-/// Without the menu bar, which belongs to the window's frame here.
+/// The size without the menu bar, which counts as a part of the window's frame.
 QSize contentSize(const QWidget& window) {
     const auto* const frame = qobject_cast<const QMainWindow*>(&window);
     if (frame == nullptr) return window.size();

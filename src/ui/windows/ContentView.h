@@ -20,8 +20,8 @@
 
 namespace marlevo {
 
-/// The content of a document window: owns the window's document and shows the sidebar beside the
-/// canvas with the status bar below it, and over them the new-canvas sheet.
+/// The content of a document window. Owns the document and shows the sidebar, the canvas with the
+/// status bar, and the new-canvas sheet over them.
 class ContentView final : public QWidget {
     Q_OBJECT
 
@@ -33,16 +33,16 @@ public:
     CanvasView& canvasView() { return canvas_.view(); }
     WindowAccessor::Coordinator& closeGuard() { return closeGuard_; }
 
-    /// The file's name, or the program's for a drawing without a file.
+    /// The name of the file; the program's name for a drawing without a file.
     QString windowTitle() const;
 
-    /// Whether the new-canvas sheet is over the content, as it is from the beginning. A sheet comes
-    /// anew each time.
+    /// True while the new-canvas sheet covers the content, as it does at first. Each time shows a
+    /// new sheet.
     bool showNewCanvas() const { return !sheet_.isNull(); }
     void setShowNewCanvas(bool show);
 
-    /// Chooses the zoom at which the canvas fits into the application's active window, within the
-    /// limits; without an active window nothing happens.
+    /// Sets the zoom at which the canvas fits into the application's active window, clamped to the
+    /// range of the zoom. Does nothing without an active window.
     void fitToWindow();
 
 Q_SIGNALS:

@@ -14,13 +14,13 @@ class DrawingDocument;
 class MarlevoApp;
 class MenuCommands;
 
-/// A window with a drawing of its own: its content below the menus.
+/// A window with one drawing: the menus above its content.
 class DocumentWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// The application must outlive the window. Without file panels among its services the window
-    /// shows its own.
+    /// The application must outlive the window. If its services have no file panels, the window has
+    /// panels of its own.
     explicit DocumentWindow(MarlevoApp& app);
 
     ~DocumentWindow() override;
@@ -37,7 +37,7 @@ Q_SIGNALS:
     /// The window has closed. It is deleted after the current event.
     void closed();
 
-    /// The user was asked and keeps the window.
+    /// The user has cancelled the close.
     void kept();
 
 protected:

@@ -6,13 +6,12 @@ class QMenuBar;
 
 namespace marlevo {
 
-/// The list of shortcuts, and what the program is.
+/// The list of shortcuts and the program's name and version.
 class HelpMenu final : public QMenu {
     Q_OBJECT
 
 public:
-    /// The shortcuts listed are those of `menus`, which the menu belongs to, and those that the
-    /// window has besides.
+    /// The list has the shortcuts of `menus`, the menu's parent, and the other keys of the window.
     explicit HelpMenu(QMenuBar& menus);
 
 private:

@@ -15,8 +15,7 @@ namespace marlevo {
 
 namespace {
 
-/// The Latin letter of the key with Shift applied, but neither Ctrl nor Caps Lock; 0 when it has
-/// none.
+/// The Latin letter of the key with Shift but without Ctrl and Caps Lock; 0 if the key has none.
 char32_t letterIgnoringModifiers(const QKeyEvent& press) {
     if (press.key() < Qt::Key_A || press.key() > Qt::Key_Z) return 0;
     const bool isUpper = press.modifiers().testFlag(Qt::ShiftModifier);
@@ -40,7 +39,7 @@ KeyMonitor::KeyMonitor(QWidget& window, DrawingDocument& document, Sheet newCanv
 }
 
 bool KeyMonitor::eventFilter(QObject* receiver, QEvent* event) {
-    // A window gets each event first, then hands it on to its widgets.
+    // A window receives each event before its widgets do.
     if (!receiver->isWindowType()) return false;
     if (event->type() == QEvent::KeyRelease) {
         repeats_.release(static_cast<const QKeyEvent&>(*event));
@@ -53,8 +52,8 @@ bool KeyMonitor::eventFilter(QObject* receiver, QEvent* event) {
 
     const Action action = actionOf(static_cast<const QKeyEvent&>(*event));
     if (!action) return false;
-    // The question comes before the shortcuts: claiming it keeps them quiet, and the press itself
-    // follows.
+    // ShortcutOverride is sent before shortcuts run. Accepting it prevents them, and the press
+    // itself follows.
     event->accept();
     if (!isOverride) action();
     return true;

@@ -27,8 +27,8 @@ class DrawingDocument;
 ///    tool is chosen and a stroke is selected; else they pass.
 /// 6. Everything else passes.
 ///
-/// While the sheet lies over the window no key reaches the document, and the sheet's fields, the
-/// only ones there are, keep the keys that edit text.
+/// While the sheet covers the window, no key changes the document, and keys that edit text pass to
+/// the sheet's fields.
 class KeyMonitor final : public QObject {
 public:
     /// The window's new-canvas sheet.
@@ -37,7 +37,8 @@ public:
         std::function<bool()> isShown;
     };
 
-    /// The document and the window must outlive the monitor, which works until it goes.
+    /// The document and the window must outlive the monitor. It filters events until it is
+    /// destroyed.
     KeyMonitor(QWidget& window, DrawingDocument& document, Sheet newCanvas);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -45,7 +46,7 @@ public:
 private:
     using Action = std::function<void()>;
 
-    /// What the press does; nothing when it passes.
+    /// The action of the press; empty if the press passes.
     Action actionOf(const QKeyEvent& press) const;
     Action controlActionOf(const QKeyEvent& press) const;
 

@@ -103,7 +103,7 @@ void MarlevoApp::forget(DocumentWindow& window) {
     if (windows_.empty() && settings_) settings_->close();
 }
 
-/// The window answers at once, or by one of its signals when it has asked the user.
+/// The window closes at once, or emits closed() or kept() after a question to the user.
 void MarlevoApp::closeNextWindow() {
     if (!byUse_.empty()) byUse_.back()->closeDismissingPanels();
 }

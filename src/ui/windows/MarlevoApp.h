@@ -18,21 +18,21 @@ namespace marlevo {
 class DocumentWindow;
 class SettingsWindow;
 
-/// The application: its windows over one set of services, the focused document, and what the menu
-/// commands ask of the application as a whole.
+/// The application: its windows, which share one set of services, the focused document, and the
+/// commands that are not about one document.
 ///
 /// The focused document follows the focus alone. When its window closes, the document of the window
 /// used before follows at once, since the desktop may give the focus later or not at all.
 ///
-/// The program ends when the last document window has closed; the settings do not keep it.
+/// The program ends when the last document window has closed, even if the settings window is open.
 class MarlevoApp final : public QObject {
     Q_OBJECT
 
 public:
-    /// The services must outlive the application. Those without preferences get no settings window.
+    /// The services must outlive the application. Without preferences there is no settings window.
     explicit MarlevoApp(const Services& services);
 
-    /// Takes the windows still open with it.
+    /// Deletes the windows that are still open.
     ~MarlevoApp() override;
 
     const Services& services() const { return services_; }

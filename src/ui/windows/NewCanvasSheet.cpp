@@ -37,7 +37,7 @@ constexpr TextLabel::Look title{TypeStyle::title3, QFont::DemiBold};
 
 bool isAllowed(double side) { return side > 0 && side <= mostPixels; }
 
-/// The default as it is proposed; nothing for one that is not above 0 or that no 64 bits hold.
+/// The text proposed for a default size; empty for a side that is not above 0 or beyond 64 bits.
 QString proposal(double side) {
     return side > 0 && side < 0x1p63 ? QString::number(static_cast<qint64>(side)) : QString();
 }
@@ -138,7 +138,7 @@ QLayout* NewCanvasSheet::makeCustomSection() {
 
     auto* fields = new QHBoxLayout;
     fields->setSpacing(itemSpacing);
-    // The fields stand below the box itself.
+    // The fields are aligned with the box of the checkbox.
     fields->addSpacing(CheckBox::focusRoom);
     const auto addField = [&](QLineEdit& field, const QString& name) {
         field.setPlaceholderText(name);

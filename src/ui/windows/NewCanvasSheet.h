@@ -19,17 +19,17 @@ namespace marlevo {
 class DrawingDocument;
 class PresetRow;
 
-/// Asks for the size of the canvas: one of the presets, or one typed in. Confirming sets the
-/// document's canvas size and nothing else.
+/// A form for the size of the canvas: a preset or typed numbers. Confirming sets the document's
+/// canvas size and nothing else.
 class NewCanvasSheet final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document must outlive the sheet. `dismiss` is called when the sheet wants to close.
+    /// The document must outlive the sheet. `dismiss` must close the sheet.
     NewCanvasSheet(DrawingDocument& document, std::function<void()> dismiss);
 
-    /// The size that "Create Canvas" would apply; nothing while none is chosen, or when a side
-    /// typed is no number in C notation, not above 0, or above 10000. A fraction stays as typed.
+    /// The size that "Create Canvas" applies. Nothing if no preset is chosen, or if a typed side is
+    /// not a number in C notation above 0 and at most 10000. Fractions are not rounded.
     std::optional<CanvasSize> resolveSize() const;
 
     QSize sizeHint() const override;

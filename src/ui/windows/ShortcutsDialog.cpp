@@ -21,7 +21,7 @@ QString withoutMnemonic(QString title) {
     return title.remove(appended).remove('&');
 }
 
-/// Any of the keys does it.
+/// Each of the keys runs the command.
 void addKeys(QTreeWidgetItem& section, const QString& title, const QList<QKeySequence>& keys) {
     new QTreeWidgetItem(&section,
                         {title, QKeySequence::listToString(keys, QKeySequence::NativeText)});

@@ -9,8 +9,7 @@ class QTreeWidgetItem;
 
 namespace marlevo {
 
-/// Lists the keys of a window: those of its menus, read from them, and those that have no menu
-/// item.
+/// Lists the keys of a window: the shortcuts in its menus and the keys without a menu item.
 class ShortcutsDialog final : public QDialog {
     Q_OBJECT
 

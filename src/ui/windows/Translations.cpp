@@ -11,7 +11,7 @@ namespace {
 constexpr auto separator = "_";
 constexpr auto folder = ":/translations";
 
-// What the toolkit's dialogs say and its own catalogues lack in some of our languages.
+// Texts of the toolkit's dialogs that its own catalogues lack in some of the program's languages.
 [[maybe_unused]] constexpr const char* textsOfTheToolkit[] = {
     QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Drive"),
     QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Folder"),
@@ -34,7 +34,7 @@ Translations::Translations() {
     const bool isLoaded = program_.load(user, program, separator, folder) ||
                           program_.load(program + QLatin1String("_en"), folder);
     if (isLoaded) QCoreApplication::installTranslator(&program_);
-    // Not in the user's language: windows in two languages are worse than windows in a foreign one.
+    // English for the toolkit, too, because a mix of two languages is worse than a foreign one.
     if (toolkit_.load(QLocale(program_.language()), QStringLiteral("qtbase"), separator,
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&toolkit_);

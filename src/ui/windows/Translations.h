@@ -4,12 +4,13 @@
 
 namespace marlevo {
 
-/// The program's texts and the toolkit's own, in the first of the user's languages for which there
-/// is a catalogue, else in English, as long as this object lives. To be made before any window.
+/// Installs the catalogues of the program's texts and the toolkit's, for the first of the user's
+/// languages that has a catalogue, else for English, and removes them when destroyed. Must be made
+/// before any window.
 ///
 /// Texts are marked by tr() in the windows, and by Services::translate() and translatable() in the
-/// layers that know no toolkit; the build target update_catalogues brings the catalogues of
-/// translations/ up to date with them.
+/// layers without the toolkit. The build target update_catalogues copies them into the catalogues
+/// of translations/.
 class Translations {
 public:
     Translations();

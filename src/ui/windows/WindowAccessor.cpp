@@ -73,7 +73,7 @@ void WindowAccessor::Coordinator::ask(QWidget& window) {
 
     connect(alert_, &QMessageBox::finished, this, [this, &window, save, discard] {
         const QAbstractButton* const answer = alert_->clickedButton();
-        // So that a new question can be asked.
+        // Allows a new question.
         alert_.clear();
         if (answer != save && answer != discard) {
             Q_EMIT kept();

@@ -11,14 +11,14 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// Puts the close guard in front of the window that shows a document.
+/// Installs the close guard of the window that shows a document.
 class WindowAccessor final {
 public:
     class Coordinator;
 };
 
-/// The close guard of one window: asks before a drawing with strokes is closed, whether or not it
-/// was saved: the document has no modified state.
+/// The close guard of one window. Asks before a drawing with strokes is closed, even after a save,
+/// because the document does not record whether it has unsaved changes.
 class WindowAccessor::Coordinator final : public QObject {
     Q_OBJECT
 
@@ -32,14 +32,14 @@ public:
     /// Once true, the window closes without a question.
     bool shouldSkipClose() const { return shouldSkipClose_; }
 
-    /// Returns whether the window may close now. If not, a question is shown; its answer closes the
-    /// window later, through a panel for its picture or at once, or keeps it.
+    /// True if the window may close now. Otherwise a question to the user is open. Its answer
+    /// closes the window, at once or after a file panel, or keeps it open.
     bool windowShouldClose(QWidget& window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user has cancelled the closing.
+    /// The user has cancelled the close.
     void kept();
 
 private:

@@ -6,7 +6,7 @@ namespace marlevo {
 
 class MarlevoApp;
 
-/// The menu of a window about windows: minimises this one, and lists all to go to.
+/// The menu that minimises its window and lists all document windows. Choosing one activates it.
 class WindowMenu final : public QMenu {
     Q_OBJECT
 

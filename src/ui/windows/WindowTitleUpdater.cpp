@@ -10,7 +10,7 @@ namespace marlevo {
 
 namespace {
 
-/// The toolkit takes this sign for a place to mark unsaved changes, unless it stands twice.
+/// The toolkit replaces "[*]" by a mark of unsaved changes, unless it is doubled.
 QString literal(QString title) {
     return title.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
