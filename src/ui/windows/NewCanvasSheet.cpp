@@ -69,7 +69,6 @@ NewCanvasSheet::NewCanvasSheet(DrawingDocument& document, std::function<void()> 
     column->addLayout(makeFooter());
 
     rowFocus_.setMembers({rows_.begin(), rows_.end()});
-    setFocusProxy(rows_.front());
     proposeDefaultSize();
     showState();
 }
@@ -97,6 +96,8 @@ void NewCanvasSheet::keyPressEvent(QKeyEvent* event) {
     else
         QWidget::keyPressEvent(event);
 }
+
+void NewCanvasSheet::focusInEvent(QFocusEvent*) { rowFocus_.moveFocusTo(*rows_.front()); }
 
 QLayout* NewCanvasSheet::makeHeader() {
     auto* header = new QHBoxLayout;
@@ -174,6 +175,8 @@ QLayout* NewCanvasSheet::makeFooter() {
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(&create_, QDialogButtonBox::AcceptRole);
     buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+    // With the proxy that the box sets, Tab would reach one of the buttons only.
+    buttons->setFocusProxy(nullptr);
 
     auto* footer = new QHBoxLayout;
     footer->setContentsMargins(padding, padding, padding, padding);
