@@ -22,8 +22,10 @@ char* writeFixed(double number, char* to) {
             power *= 10;
         return power;
     }();
-    const auto rounded =
-        static_cast<std::uint64_t>(std::abs(number) * static_cast<double>(unit) + 0.5);
+    const double scaled = std::abs(number) * static_cast<double>(unit);
+    // std::llround() is a call into the library, and these numbers are positive.
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings)
+    const auto rounded = static_cast<std::uint64_t>(scaled + 0.5);
     if (number < 0 && rounded != 0) *to++ = '-';
     to = std::to_chars(to, to + maxFixedLength, rounded / unit).ptr;
     std::uint64_t fraction = rounded % unit;

@@ -117,7 +117,7 @@ void PdfContext::drawImageFile(std::span<const std::uint8_t> file, const RasterI
 
 std::vector<std::uint8_t> PdfContext::finish() { return file_.write(content_.finish()); }
 
-/// How far paths drawn with this pen may reach, so that what lies beyond cannot be seen.
+/// How far paths drawn with this pen may reach, so that parts beyond are invisible.
 double PdfContext::farthest(double lineWidth) const {
     return std::max({safeCoordinate, page_.width, page_.height}) + lineWidth;
 }

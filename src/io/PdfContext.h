@@ -16,7 +16,7 @@ namespace marlevo {
 /// Strokes and fills stay paths, each one painting operation: readers blend it as a whole, so a
 /// translucent stroke is not darker where it crosses itself. Coordinates are kept to 1/1000 of a
 /// point. Paths that reach far beyond the page become straight segments (PdfPath.h). Each operation
-/// may throw std::exception, for want of memory for example; the page is incomplete then.
+/// may throw std::exception, for example when memory is short; the page is incomplete then.
 class PdfContext final : public GraphicsContext {
 public:
     /// The sides of a page, in points: less than the least is 0 in three decimals; readers that

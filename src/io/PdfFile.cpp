@@ -2,41 +2,19 @@
 
 #include "io/FixedDecimal.h"
 
-#include <qpdf/Buffer.hh>
-#include <qpdf/Pipeline.hh>
-#include <qpdf/QPDFWriter.hh>
-
+#include <algorithm>
 #include <cmath>
 #include <memory>
+#include <stdexcept>
 #include <string_view>
-#include <utility>
 
 namespace marlevo {
 
 namespace {
 
-/// Receives the file from qpdf.
-class ByteSink final : public Pipeline {
-public:
-    ByteSink() : Pipeline("file", nullptr) {}
-
-    void write(unsigned char const* bytes, std::size_t count) override {
-        bytes_.insert(bytes_.end(), bytes, bytes + count);
-    }
-    void finish() override {}
-
-    std::vector<std::uint8_t> take() { return std::move(bytes_); }
-    void reserve(std::size_t size) { bytes_.reserve(size); }
-
-private:
-    std::vector<std::uint8_t> bytes_;
-};
-
-QPDFObjectHandle name(const char* text) { return QPDFObjectHandle::newName(text); }
-
-QPDFObjectHandle number(double value) {
+std::string decimal(double value) {
     char digits[maxFixedLength];
-    return QPDFObjectHandle::parse({digits, writeFixed<PdfContent::fineDecimals>(value, digits)});
+    return {digits, writeFixed<PdfContent::fineDecimals>(value, digits)};
 }
 
 std::string_view text(const std::vector<std::uint8_t>& bytes) {
@@ -74,17 +52,22 @@ std::vector<std::uint8_t> alphasOf(const RasterImage& image) {
 
 }  // namespace
 
-PdfFile::PdfFile(Size page) : page_(page) { pdf_.emptyPDF(); }
+PdfFile::PdfFile(Size page) : pdf_(qpdf_init()), page_(page) {
+    qpdf_silence_errors(pdf_.get());
+    qpdf_empty_pdf(pdf_.get());
+    images_ = qpdf_oh_new_dictionary(pdf_.get());
+    graphicsStates_ = qpdf_oh_new_dictionary(pdf_.get());
+    throwIfFailed();
+}
 
 std::string PdfFile::addImage(const RasterImage& image) {
-    kept_.push_back(packForPdf(text(colorsOf(image)), Packing::small));
-    QPDFObjectHandle stream =
-        addImageStream(kept_.back(), "/FlateDecode", image.width(), image.height(), "/DeviceRGB");
+    const Object stream =
+        addImageStream(packForPdf(text(colorsOf(image)), Packing::small), "/FlateDecode",
+                       image.width(), image.height(), "/DeviceRGB");
     if (const auto alphas = alphasOf(image); !alphas.empty()) {
-        kept_.push_back(packForPdf(text(alphas), Packing::small));
-        stream.getDict().replaceKey("/SMask",
-                                    addImageStream(kept_.back(), "/FlateDecode", image.width(),
-                                                   image.height(), "/DeviceGray"));
+        const Object mask = addImageStream(packForPdf(text(alphas), Packing::small), "/FlateDecode",
+                                           image.width(), image.height(), "/DeviceGray");
+        qpdf_oh_replace_key(pdf_.get(), qpdf_oh_get_dict(pdf_.get(), stream), "/SMask", mask);
     }
     return nameImage(stream);
 }
@@ -96,77 +79,84 @@ std::string PdfFile::addJpeg(std::span<const std::uint8_t> file, const Embeddabl
 
 std::string PdfFile::addOpacity(double opacity) {
     // Named by the value, so that each value is there once.
-    const std::string name = "/a" + std::to_string(std::lround(opacity * 10000));
-    if (!graphicsStates_.hasKey(name)) {
-        QPDFObjectHandle state = QPDFObjectHandle::newDictionary();
-        state.replaceKey("/CA", number(opacity));
-        state.replaceKey("/ca", number(opacity));
-        graphicsStates_.replaceKey(name, state);
+    std::string name = "/a" + std::to_string(std::lround(opacity * 10000));
+    if (!qpdf_oh_has_key(pdf_.get(), graphicsStates_, name.c_str())) {
+        const std::string value = decimal(opacity);
+        setEntry(graphicsStates_, name.c_str(), "<< /CA " + value + " /ca " + value + " >>");
+        throwIfFailed();
     }
     return name;
 }
 
 std::vector<std::uint8_t> PdfFile::write(std::vector<PackedBytes> content) {
-    std::size_t size = 0;
-    QPDFObjectHandle contents = QPDFObjectHandle::newArray();
+    qpdf_data pdf = pdf_.get();
+    const Object contents = qpdf_oh_new_array(pdf);
     for (PackedBytes& piece : content) {
-        kept_.push_back(std::move(piece));
-        contents.appendItem(addStream(kept_.back(), "/FlateDecode"));
+        qpdf_oh_append_item(pdf, contents, addStream(piece, "/FlateDecode"));
+        piece = {};
     }
-    for (const PackedBytes& bytes : kept_)
-        size += bytes.size();
+    const Object resources = qpdf_oh_new_dictionary(pdf);
+    qpdf_oh_replace_key(pdf, resources, "/ExtGState", graphicsStates_);
+    qpdf_oh_replace_key(pdf, resources, "/XObject", images_);
+    const Object page = qpdf_oh_new_dictionary(pdf);
+    setEntry(page, "/Type", "/Page");
+    setEntry(page, "/MediaBox",
+             "[ 0 0 " + decimal(page_.width) + " " + decimal(page_.height) + " ]");
+    setEntry(page, "/Group", "<< /S /Transparency /CS /DeviceRGB /I true >>");
+    qpdf_oh_replace_key(pdf, page, "/Resources", resources);
+    qpdf_oh_replace_key(pdf, page, "/Contents", contents);
+    qpdf_add_page(pdf, pdf, qpdf_make_indirect_object(pdf, page), QPDF_FALSE);
+    throwIfFailed();
 
-    QPDFObjectHandle page = QPDFObjectHandle::parse(
-        "<< /Type /Page /Resources << >> /Group << /S /Transparency /CS /DeviceRGB /I true >> >>");
-    QPDFObjectHandle mediaBox = QPDFObjectHandle::newArray();
-    for (const double side : {0.0, 0.0, page_.width, page_.height})
-        mediaBox.appendItem(number(side));
-    page.replaceKey("/MediaBox", mediaBox);
-    page.replaceKey("/Contents", contents);
-    page.getKey("/Resources").replaceKey("/ExtGState", graphicsStates_);
-    page.getKey("/Resources").replaceKey("/XObject", images_);
-    pdf_.addPage(pdf_.makeIndirectObject(page), false);
-
-    ByteSink sink;
-    constexpr std::size_t roomForObjects = 1 << 16;
-    sink.reserve(size + roomForObjects);
-    QPDFWriter writer(pdf_);
-    writer.setOutputPipeline(&sink);
-    writer.setMinimumPDFVersion("1.4");  // transparency
-    writer.setStreamDataMode(qpdf_s_preserve);
-    writer.setCompressStreams(false);
-    writer.setDeterministicID(true);
-    writer.write();
-    return sink.take();
+    qpdf_init_write_memory(pdf);
+    qpdf_set_minimum_pdf_version(pdf, "1.4");  // transparency
+    qpdf_set_stream_data_mode(pdf, qpdf_s_preserve);
+    qpdf_set_compress_streams(pdf, QPDF_FALSE);
+    qpdf_set_deterministic_ID(pdf, QPDF_TRUE);
+    qpdf_write(pdf);
+    throwIfFailed();
+    const unsigned char* const bytes = qpdf_get_buffer(pdf);
+    return {bytes, bytes + qpdf_get_buffer_length(pdf)};
 }
 
-QPDFObjectHandle PdfFile::addStream(std::span<const std::uint8_t> bytes, const char* filter) {
-    QPDFObjectHandle stream = QPDFObjectHandle::newStream(&pdf_);
-    // qpdf only reads the bytes of a stream, and does not own them.
-    auto* const data = const_cast<std::uint8_t*>(bytes.data());
-    stream.replaceStreamData(std::make_shared<Buffer>(data, bytes.size()), name(filter),
-                             QPDFObjectHandle::newNull());
+PdfFile::Object PdfFile::addStream(std::span<const std::uint8_t> bytes, const char* filter) {
+    qpdf_data pdf = pdf_.get();
+    const Object stream = qpdf_oh_new_stream(pdf);
+    qpdf_oh_replace_stream_data(pdf, stream, bytes.data(), bytes.size(),
+                                qpdf_oh_new_name(pdf, filter), qpdf_oh_new_null(pdf));
+    throwIfFailed();
     return stream;
 }
 
-QPDFObjectHandle PdfFile::addImageStream(std::span<const std::uint8_t> bytes, const char* filter,
-                                         int width, int height, const char* colorSpace) {
-    QPDFObjectHandle stream = addStream(bytes, filter);
-    QPDFObjectHandle entries = stream.getDict();
-    entries.replaceKey("/Type", name("/XObject"));
-    entries.replaceKey("/Subtype", name("/Image"));
-    entries.replaceKey("/Width", QPDFObjectHandle::newInteger(width));
-    entries.replaceKey("/Height", QPDFObjectHandle::newInteger(height));
-    entries.replaceKey("/ColorSpace", name(colorSpace));
-    entries.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
-    entries.replaceKey("/Interpolate", QPDFObjectHandle::newBool(true));
+PdfFile::Object PdfFile::addImageStream(std::span<const std::uint8_t> bytes, const char* filter,
+                                        int width, int height, const char* colorSpace) {
+    const Object stream = addStream(bytes, filter);
+    const Object entries = qpdf_oh_get_dict(pdf_.get(), stream);
+    setEntry(entries, "/Type", "/XObject");
+    setEntry(entries, "/Subtype", "/Image");
+    setEntry(entries, "/Width", std::to_string(width));
+    setEntry(entries, "/Height", std::to_string(height));
+    setEntry(entries, "/ColorSpace", colorSpace);
+    setEntry(entries, "/BitsPerComponent", "8");
+    setEntry(entries, "/Interpolate", "true");
+    throwIfFailed();
     return stream;
 }
 
-std::string PdfFile::nameImage(const QPDFObjectHandle& image) {
-    const std::string name = "/i" + std::to_string(imageCount_++);
-    images_.replaceKey(name, image);
+std::string PdfFile::nameImage(Object image) {
+    std::string name = "/i" + std::to_string(imageCount_++);
+    qpdf_oh_replace_key(pdf_.get(), images_, name.c_str(), image);
     return name;
+}
+
+void PdfFile::setEntry(Object dictionary, const char* key, const std::string& value) {
+    qpdf_oh_replace_key(pdf_.get(), dictionary, key, qpdf_oh_parse(pdf_.get(), value.c_str()));
+}
+
+/// qpdf's C interface collects errors in place of throwing them.
+void PdfFile::throwIfFailed() {
+    if (!qpdf_has_error(pdf_.get())) return;
+    throw std::runtime_error(qpdf_get_error_full_text(pdf_.get(), qpdf_get_error(pdf_.get())));
 }
 
 }  // namespace marlevo

@@ -5,18 +5,19 @@
 #include "io/EmbeddableJpeg.h"
 #include "io/PdfContent.h"
 
-#include <qpdf/QPDF.hh>
+#include <qpdf/qpdf-c.h>
 
 #include <cstdint>
-#include <list>
+#include <memory>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace marlevo {
 
 /// A PDF file of one page, written by qpdf: the objects around the page's content. Equal pages make
-/// equal files. Each operation may throw std::exception, for want of memory for example.
+/// equal files. Each operation may throw std::exception, for example when memory is short.
 class PdfFile {
 public:
     explicit PdfFile(Size page);
@@ -24,7 +25,7 @@ public:
     /// Adds an image and returns the name that paints it in the unit square, its top row uppermost.
     /// The pixels are packed without loss.
     std::string addImage(const RasterImage& image);
-    /// The same for a JPEG file, whose bytes are kept and must stay until write().
+    /// The same for a JPEG file, whose bytes are kept.
     std::string addJpeg(std::span<const std::uint8_t> file, const EmbeddableJpeg& jpeg);
 
     /// The name of the graphics state that paints with the opacity, 0 to 1, which is kept to the
@@ -35,16 +36,23 @@ public:
     std::vector<std::uint8_t> write(std::vector<PackedBytes> content);
 
 private:
-    QPDFObjectHandle addStream(std::span<const std::uint8_t> bytes, const char* filter);
-    QPDFObjectHandle addImageStream(std::span<const std::uint8_t> bytes, const char* filter,
-                                    int width, int height, const char* colorSpace);
-    std::string nameImage(const QPDFObjectHandle& image);
+    using Object = qpdf_oh;
 
-    QPDF pdf_;
+    struct Release {
+        void operator()(qpdf_data pdf) const { qpdf_cleanup(&pdf); }
+    };
+
+    Object addStream(std::span<const std::uint8_t> bytes, const char* filter);
+    Object addImageStream(std::span<const std::uint8_t> bytes, const char* filter, int width,
+                          int height, const char* colorSpace);
+    std::string nameImage(Object image);
+    void setEntry(Object dictionary, const char* key, const std::string& value);
+    void throwIfFailed();
+
+    std::unique_ptr<std::remove_pointer_t<qpdf_data>, Release> pdf_;
     Size page_;
-    QPDFObjectHandle images_ = QPDFObjectHandle::newDictionary();
-    QPDFObjectHandle graphicsStates_ = QPDFObjectHandle::newDictionary();
-    std::list<PackedBytes> kept_;  ///< the streams refer to these bytes
+    Object images_;
+    Object graphicsStates_;
     int imageCount_ = 0;
 };
 
