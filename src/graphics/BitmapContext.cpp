@@ -46,6 +46,7 @@ void BitmapContext::fillRect(const Rect& rect, const Color& color) {
     const IntRect pixels = box.pixelsWithin(target_.area);
     if (pixels.isEmpty()) return;
     const PackedColor packed = packColor(color, state_.alpha, target_.order);
+    if (packed.alpha == 0) return;
     for (int y = pixels.top; y < pixels.bottom; ++y)
         blendSolid(target_.pixel(pixels.left, y), static_cast<std::size_t>(pixels.width()), packed);
 }

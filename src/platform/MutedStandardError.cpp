@@ -15,7 +15,7 @@ ssize_t writeUnlessMuted(void*, const char* bytes, std::size_t size) {
     return written < 0 ? 0 : written;
 }
 
-/// Without memory for a stream of its own nothing is muted.
+/// If no stream can be allocated, nothing is muted.
 bool replaceStandardError() {
     cookie_io_functions_t functions{};
     functions.write = writeUnlessMuted;

@@ -62,7 +62,7 @@ void PointerGesture::startMove(const Sample& sample) {
     }
     if (!document_.selectedStrokeIndex->has_value()) selectStroke(document_, sample.at);
     if (!document_.selectionDragStartPositions->has_value()) beginSelectDrag(document_);
-    // Nothing may be selected, or the selection may name a stroke that is gone.
+    // Nothing may be selected, or the selection may name a removed stroke.
     if (selectedStroke(document_) == nullptr) return;
     auto& moving = state_.emplace<Moving>(
         document_.changeRegistry(), [this](DocumentProperty change) { endMoveAfter(change); });
@@ -83,8 +83,8 @@ void PointerGesture::updateMove(Size sincePress) {
     if (const Stroke* const stroke = selectedStroke(document_)) moving->points = stroke->points;
 }
 
-/// Layers may change while the stroke stays where the move has put it: the move goes on when a
-/// layer is hidden.
+/// Layers may change while the stroke stays where the move has put it: the move continues
+/// when a layer is hidden.
 void PointerGesture::endMoveAfter(DocumentProperty change) {
     if (change == DocumentProperty::layers) {
         const auto& moving = std::get<Moving>(state_);

@@ -23,7 +23,7 @@ public:
         return waiting_.size();
     }
 
-    /// Runs the work that has been posted by now. False if there is none.
+    /// Runs the work that has been posted so far. False if there is none.
     bool run() {
         std::deque<std::function<void()>> work;
         {

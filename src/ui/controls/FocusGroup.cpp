@@ -6,6 +6,7 @@
 #include <QScrollArea>
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace marlevo {
@@ -33,7 +34,7 @@ void FocusGroup::setMembers(std::vector<QAbstractButton*> members) {
         for (QAbstractButton* const button : withButtonsInside(*member))
             button->installEventFilter(this);
         connect(member, &QAbstractButton::toggled, this, [this, member](bool isChecked) {
-            if (isChecked && !hasFocus()) setStop(member);
+            if (isChecked && !hasFocus() && memberOf(*member)) setStop(member);
         });
     }
     members_ = std::move(members);
@@ -77,7 +78,9 @@ QAbstractButton* FocusGroup::target(const QKeyEvent& press, const QAbstractButto
     const auto last = std::ssize(members_) - 1;
     const auto now = std::find(members_.begin(), members_.end(), &from) - members_.begin();
     const int forward = from.isRightToLeft() ? -1 : 1;
-    const auto neighbour = [&](int step) { return members_[std::clamp(now + step, 0L, last)]; };
+    const auto neighbour = [&](int step) {
+        return members_[std::clamp(now + step, std::ptrdiff_t{0}, last)];
+    };
     switch (press.key()) {
     case Qt::Key_Up:
         return neighbour(-1);

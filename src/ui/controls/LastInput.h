@@ -10,7 +10,7 @@ class LastInput final : public QObject {
 public:
     static LastInput& instance();
 
-    /// False before the first input. A modifier alone is none.
+    /// False before the first input. A modifier alone does not count.
     bool wasKey() const { return wasKey_; }
 
     bool eventFilter(QObject* receiver, QEvent* event) override;

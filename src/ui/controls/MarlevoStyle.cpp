@@ -153,7 +153,7 @@ int MarlevoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
                             QStyleHintReturn* returned) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     const int value = QProxyStyle::styleHint(hint, option, widget, returned);
-    // The toolkit's value on a desktop without an order of its own.
+    // The toolkit's value on a desktop that defines no order.
     if (hint == SH_DialogButtonLayout && value == QDialogButtonBox::WinLayout)
         return QDialogButtonBox::GnomeLayout;
     return value;

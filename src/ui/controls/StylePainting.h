@@ -19,7 +19,7 @@ namespace marlevo {
 bool isProminent(const QStyleOptionButton& button);
 void paintPushButton(QPainter& painter, const QStyleOptionButton& button);
 void paintPushButtonFocus(QPainter& painter, const QRect& rect);
-/// Added to what the base style gives a push button, in view points.
+/// Added to what the base style adds to a push button, in view points.
 inline constexpr QSize pushButtonRoom(12, 2);
 
 /// Paints the button with its icon, its text and the focus.

@@ -102,7 +102,7 @@ void LayerRows::putRowsInOrder() {
     }
 }
 
-/// Absent when the layer is gone and the list does not show it yet.
+/// Absent if the layer was removed and the list does not show it yet.
 std::optional<std::int64_t> LayerRows::indexOf(const LayerRow& row) const {
     const LayerList& layers = document_.layers;
     const auto found = std::ranges::find(layers, row.layerID(), &Layer::id);

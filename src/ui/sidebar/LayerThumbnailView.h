@@ -16,7 +16,7 @@ public:
     /// The services and the cache must outlive the view.
     LayerThumbnailView(const Services& services, ImageCache& images, QWidget* parent = nullptr);
 
-    /// To be told whenever the layer or the canvas may have changed.
+    /// To be called whenever the layer or the canvas may have changed.
     void showLayer(const Layer& layer, CanvasSize canvas, bool isActive);
 
     QSize sizeHint() const override;
