@@ -7,8 +7,8 @@ namespace marlevo {
 
 enum class Click : bool { no, yes };
 
-/// Tells a click from a drag. Positions in one frame of view points, so that the tolerance does not
-/// depend on the zoom.
+/// Distinguishes a click from a drag. Positions in one frame of view points, so that the tolerance
+/// does not depend on the zoom.
 class ClickDetector {
 public:
     /// A press and a release make a click when no position between them is farther than this from

@@ -17,7 +17,7 @@ void type(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::No
     QTest::keyClick(window.windowHandle(), key, modifiers);
 }
 
-/// A key with Ctrl as an X11 or Wayland server tells it.
+/// A key with Ctrl as an X11 or Wayland server reports it.
 struct NativeKey {
     int key;
     quint32 code;
