@@ -15,13 +15,6 @@ namespace {
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-Path line(Point a, Point b) {
-    Path path;
-    path.move(a);
-    path.addLine(b);
-    return path;
-}
-
 Path ellipse(Rect rect) {
     Path path;
     path.addEllipse(rect);
@@ -29,16 +22,6 @@ Path ellipse(Rect rect) {
 }
 
 }  // namespace
-
-TEST(BitmapContext, PutsTheOriginAtTheBottomLeft) {
-    Canvas canvas(20, 10);
-    BitmapContext context(canvas.buffer(), DeviceFrame::yUp(10));
-    context.fillRect({{0, 0}, {4, 3}}, black);
-    EXPECT_EQ(canvas.alpha(0, 9), 255);
-    EXPECT_EQ(canvas.alpha(3, 7), 255);
-    EXPECT_EQ(canvas.alpha(3, 6), 0);
-    EXPECT_EQ(canvas.alpha(4, 7), 0);
-}
 
 TEST(BitmapContext, CoversFractionalRectanglesByTheirArea) {
     Canvas canvas(10, 10);
@@ -80,23 +63,6 @@ TEST(BitmapContext, ScalesThePenInEachDirection) {
     EXPECT_EQ(canvas.alpha(36, 60), 0);
 }
 
-TEST(BitmapContext, BothStrokeMethodsDrawTheSameStroke) {
-    Path curve;
-    curve.move({20, 30});
-    curve.addQuadCurve({100, 90}, {120, 10});
-    Canvas byDistance(140, 120);
-    Canvas byOutline(140, 120);
-    BitmapContext thin(byDistance.buffer(), DeviceFrame::yDown(1));
-    BitmapContext thick(byOutline.buffer(), DeviceFrame::yDown(1));
-    thin.strokePath(curve, black, maxWidthByDistance);
-    thick.strokePath(curve, black, maxWidthByDistance + 0.001);
-    for (int y = 0; y < 120; ++y) {
-        for (int x = 0; x < 140; ++x) {
-            ASSERT_NEAR(byDistance.alpha(x, y), byOutline.alpha(x, y), 28) << x << ", " << y;
-        }
-    }
-}
-
 TEST(BitmapContext, GivesTheSameBytesWhateverPartIsPainted) {
     std::mt19937 random(8);
     const auto between = [&](double low, double high) {
@@ -104,43 +70,40 @@ TEST(BitmapContext, GivesTheSameBytesWhateverPartIsPainted) {
     };
     constexpr int size = 150;
     const auto point = [&] { return Point{between(-50, size + 50), between(-50, size + 50)}; };
+    std::vector<std::uint8_t> noise(std::size_t{4} * 61 * 47);
+    for (std::size_t i = 0; i < noise.size(); ++i)
+        noise[i] = i % 4 == 0 ? 255 : static_cast<std::uint8_t>(random());
+    const RasterImage image(61, 47, std::move(noise));
     for (int round = 0; round < 60; ++round) {
         Path path;
         path.move(point());
         for (int i = 0; i < 5; ++i)
             path.addQuadCurve(point(), point());
+        if (round % 8 == 0) path.addLine({1e6, -3e5});
         path.addEllipse({point(), {between(0, 100), between(0, 100)}});
         const double width = between(0.5, 40);
         const DeviceFrame frame{round % 3 == 0 ? 0.7 : 1.3, 1.3, between(-5, 5), between(-5, 5)};
         const Color color{0.3, 0.6, 0.9, 0.7};
+        const Rect place{point(), {between(1, 300), between(1, 300)}};
         const auto draw = [&](PixelBuffer buffer) {
             BitmapContext context(buffer, frame);
             context.strokePath(path, color, width);
             context.fillPath(path, color);
             context.fillRect({{10.3, 20}, {50, 60.7}}, color);
+            context.setAlpha(0.9);
+            context.drawImage(image, place);
         };
         Canvas whole(size, size);
         draw(whole.buffer());
         Canvas parts(size, size);
-        const int x = static_cast<int>(between(1, size));
-        const int y = static_cast<int>(between(1, size));
-        for (const IntRect area : {IntRect{0, 0, x, y}, IntRect{x, 0, size, y},
-                                   IntRect{0, y, x, size}, IntRect{x, y, size, size}}) {
-            if (!area.isEmpty()) draw(parts.part(area));
+        for (int top = 0, bottom = 0; top < size; top = bottom) {
+            bottom = std::min(size, top + static_cast<int>(between(1, 80)));
+            for (int left = 0, right = 0; left < size; left = right) {
+                right = std::min(size, left + static_cast<int>(between(1, 80)));
+                draw(parts.part({left, top, right, bottom}));
+            }
         }
         ASSERT_EQ(parts.bytes(), whole.bytes()) << "round " << round;
-    }
-}
-
-TEST(BitmapContext, DrawsImagesUprightInEitherFrame) {
-    const RasterImage image(1, 2, {255, 255, 0, 0, 100, 0, 0, 100});
-    for (const DeviceFrame& frame : {DeviceFrame::yUp(20), DeviceFrame::yDown(1)}) {
-        Canvas canvas(20, 20);
-        BitmapContext context(canvas.buffer(), frame);
-        context.setAlpha(0.5);
-        context.drawImage(image, {{0, 0}, {20, 20}});
-        EXPECT_NEAR(canvas.alpha(10, 1), 128, 1);
-        EXPECT_NEAR(canvas.alpha(10, 18), 50, 1);
     }
 }
 
@@ -179,7 +142,7 @@ TEST(BitmapContext, DrawsWhatCanBeSeenOfShapesOfAnySize) {
     }
 }
 
-TEST(BitmapContext, DrawsStrokesThatLeaveTheRangeOnEachSideAndComeBack) {
+TEST(BitmapContext, DrawsStrokesThatLeaveTheRangeOnEachSideAndReturn) {
     constexpr Point middle{20, 20};
     for (const double far : {3e6, 4194305.0, 5e6, 1e12}) {
         for (const Point away : {Point{1, 0}, Point{-1, 0}, Point{0, 1}, Point{0, -1}}) {

@@ -1,6 +1,6 @@
 #include "graphics/Blend.h"
 
-#include "tests/graphics/InstructionSets.h"
+#include "tests/support/InstructionSets.h"
 
 #include <gmock/gmock.h>
 

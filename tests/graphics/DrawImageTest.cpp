@@ -1,7 +1,7 @@
 #include "graphics/DrawImage.h"
 
-#include "tests/graphics/InstructionSets.h"
 #include "tests/graphics/Supersampling.h"
+#include "tests/support/InstructionSets.h"
 
 #include <gtest/gtest.h>
 
@@ -55,7 +55,7 @@ TEST(DrawImage, CopiesExactlyAtScaleOne) {
     }
 }
 
-TEST(DrawImage, StandsUprightAtAnySize) {
+TEST(DrawImage, IsUprightAtAnySize) {
     const RasterImage image = imageOf(8, 8, [](int x, int y) {
         return y < 4 ? red : x < 4 ? blue : Pixel{};
     });
@@ -132,31 +132,6 @@ TEST(DrawImage, WritesEitherByteOrder) {
     }
 }
 
-TEST(DrawImage, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
-    std::mt19937 random(4);
-    std::uniform_real_distribution<double> edge(-60, 160);
-    std::uniform_int_distribution<int> size(1, 40);
-    const RasterImage image = noise(61, 47);
-    for (int round = 0; round < 30; ++round) {
-        const auto [left, right] = std::minmax({edge(random), edge(random)});
-        const auto [top, bottom] = std::minmax({edge(random), edge(random)});
-        const Bounds rect{left, top, right, bottom};
-        Canvas whole(100, 90);
-        drawImage(image, rect, 0.9, whole.buffer());
-        Canvas parts(100, 90);
-        for (int y = 0; y < 90;) {
-            const int bottomOfPart = std::min(90, y + size(random));
-            for (int x = 0; x < 100;) {
-                const int rightOfPart = std::min(100, x + size(random));
-                drawImage(image, rect, 0.9, parts.part({x, y, rightOfPart, bottomOfPart}));
-                x = rightOfPart;
-            }
-            y = bottomOfPart;
-        }
-        ASSERT_EQ(whole.bytes(), parts.bytes()) << "round " << round;
-    }
-}
-
 TEST(DrawImage, GivesTheSameBytesWithEveryInstructionSet) {
     const RasterImage image = noise(131, 97);
     std::vector<std::uint8_t> expected;
@@ -172,7 +147,7 @@ TEST(DrawImage, GivesTheSameBytesWithEveryInstructionSet) {
     });
 }
 
-TEST(DrawImage, SurvivesRectanglesOfAnyKind) {
+TEST(DrawImage, AcceptsRectanglesOfAnyKind) {
     const double inf = std::numeric_limits<double>::infinity();
     const RasterImage image = imageOf(300, 200, [](int, int) { return red; });
     Canvas canvas(40, 30);

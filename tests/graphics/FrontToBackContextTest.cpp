@@ -9,17 +9,6 @@
 
 namespace marlevo {
 
-namespace {
-
-Path line(Point from, Point to) {
-    Path path;
-    path.move(from);
-    path.addLine(to);
-    return path;
-}
-
-}  // namespace
-
 TEST(FrontToBackContext, IsFullAtEitherOfItsLimits) {
     Canvas canvas(200, 20);
     BitmapContext target(canvas.buffer(), DeviceFrame::yDown(1));

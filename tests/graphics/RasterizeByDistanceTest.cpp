@@ -1,8 +1,8 @@
 #include "graphics/Rasterizer.h"
 #include "graphics/RoundPen.h"
 #include "graphics/SegmentInStrip.h"
-#include "tests/graphics/InstructionSets.h"
 #include "tests/graphics/Supersampling.h"
+#include "tests/support/InstructionSets.h"
 
 #include <gmock/gmock.h>
 
@@ -15,12 +15,6 @@ namespace {
 
 constexpr PackedColor opaque{{255, 255, 255, 255}, 255};
 constexpr PackedColor half{{128, 128, 0, 64}, 128};
-
-FlattenedPath polyline(const std::vector<Point>& points, bool closed = false) {
-    FlattenedPath path;
-    addPolygon(path, points, closed);
-    return path;
-}
 
 class RandomLines {
 public:
@@ -85,33 +79,6 @@ TEST(RasterizeByDistance, VectorsGiveTheBytesOfScalarCode) {
     }
 }
 
-TEST(RasterizeByDistance, GivesTheSameBytesWhateverPartOfThePlaneIsPainted) {
-    constexpr int size = 200;
-    RandomLines random(5);
-    for (int round = 0; round < 40; ++round) {
-        FlattenedPath path = random.walk(30, round % 4 == 0 ? 400 : 9, size);
-        if (round % 8 == 0) path.points.back() = {1e6, -3e5};
-        const double width = random.between(0.3, 20);
-        const auto whole = drawn(path, width, half, size);
-
-        Canvas canvas(size, size);
-        const auto cut = [&] { return static_cast<int>(random.between(1, size - 1)); };
-        int columns[] = {0, cut(), cut(), size};
-        int rows[] = {0, cut(), cut(), cut(), size};
-        std::sort(std::begin(columns), std::end(columns));
-        std::sort(std::begin(rows), std::end(rows));
-        for (int i = 0; i + 1 < std::ssize(columns); ++i) {
-            for (int j = 0; j + 1 < std::ssize(rows); ++j) {
-                strokeByDistance(
-                    path, width,
-                    BlendSink{canvas.part({columns[i], rows[j], columns[i + 1], rows[j + 1]}),
-                              half});
-            }
-        }
-        EXPECT_EQ(canvas.bytes(), whole) << "round " << round;
-    }
-}
-
 TEST(RasterizeByDistance, AgreesWithSupersampledTruth) {
     constexpr int size = 64;
     RandomLines random(6);
@@ -137,29 +104,6 @@ TEST(RasterizeByDistance, AgreesWithSupersampledTruth) {
     }
 }
 
-TEST(RasterizeByDistance, DrawsADotForASubPathWithoutLength) {
-    for (const auto& points : {std::vector<Point>{{20, 20}}, {{20, 20}, {20, 20}}}) {
-        Canvas canvas(40, 40);
-        strokeByDistance(polyline(points), 10, BlendSink{canvas.buffer(), opaque});
-        double area = 0;
-        for (int y = 0; y < 40; ++y) {
-            for (int x = 0; x < 40; ++x)
-                area += canvas.alpha(x, y) / 255.0;
-        }
-        EXPECT_NEAR(area, std::numbers::pi * 25, 1);
-        EXPECT_EQ(canvas.alpha(19, 19), 255);
-        EXPECT_EQ(canvas.alpha(25, 20), 0);
-    }
-}
-
-TEST(RasterizeByDistance, IsNotDarkerWhereItCrossesItself) {
-    Canvas canvas(40, 40);
-    strokeByDistance(polyline({{5, 20}, {35, 20}, {35, 5}, {20, 5}, {20, 35}}), 4,
-                     BlendSink{canvas.buffer(), half});
-    EXPECT_EQ(canvas.alpha(20, 20), 128);
-    EXPECT_EQ(canvas.alpha(10, 20), 128);
-}
-
 TEST(RasterizeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
     int last = 0;
     for (double width = 0.05; width < 2; width += 0.05) {
@@ -172,27 +116,6 @@ TEST(RasterizeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
         EXPECT_NEAR(sum, 255 * width, 2);
         EXPECT_GT(sum, last);
         last = sum;
-    }
-}
-
-TEST(RasterizeByDistance, DrawsNothingWithoutAPositiveWidth) {
-    const std::vector<std::uint8_t> blank(40 * 40 * 4);
-    for (const double width : {0.0, -3.0, std::numeric_limits<double>::quiet_NaN()}) {
-        EXPECT_EQ(drawn(polyline({{5, 5}, {35, 35}}), width, opaque, 40), blank);
-    }
-}
-
-TEST(RasterizeByDistance, KeepsLongLinesInPlace) {
-    Canvas canvas(100, 100);
-    const double far = FlattenedPath::maxCoordinate;
-    strokeByDistance(polyline({{-far, 50.5 - far / 2}, {far, 50.5 + far / 2}}), 3,
-                     BlendSink{canvas.buffer(), opaque});
-    for (int x = 0; x < 99; ++x) {
-        const int y = static_cast<int>(50.5 + (x + 0.5) / 2);
-        if (y < 98) {
-            EXPECT_EQ(canvas.alpha(x, y), 255);
-            EXPECT_EQ(canvas.alpha(x, y - 4), 0);
-        }
     }
 }
 

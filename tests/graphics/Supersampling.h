@@ -1,7 +1,9 @@
 #pragma once
 
+#include "graphics/Color.h"
 #include "graphics/FlattenedPath.h"
-#include "graphics/PixelBuffer.h"
+#include "graphics/Path.h"
+#include "tests/support/Canvas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,29 +11,6 @@
 #include <vector>
 
 namespace marlevo {
-
-/// A transparent picture in ARGB order to draw on.
-class Canvas {
-public:
-    Canvas(int width, int height) : Canvas(IntRect{0, 0, width, height}) {}
-    explicit Canvas(IntRect area)
-        : area_(area), bytes_(static_cast<std::size_t>(area.width()) * area.height() * 4) {}
-
-    PixelBuffer buffer() { return {bytes_.data(), 4 * area_.width(), area_, PixelOrder::argb}; }
-    /// The part of the picture in `area`, sharing its bytes.
-    PixelBuffer part(const IntRect& area) {
-        PixelBuffer part = buffer();
-        part.bytes = part.pixel(area.left, area.top);
-        part.area = area;
-        return part;
-    }
-    int alpha(int x, int y) { return *buffer().pixel(x, y); }
-    const std::vector<std::uint8_t>& bytes() const { return bytes_; }
-
-private:
-    IntRect area_;
-    std::vector<std::uint8_t> bytes_;
-};
 
 /// The part of the pixel (x, y), 0 to 1, whose `samples`² sample points fulfil `inside(point)`.
 template <class Inside>
@@ -92,6 +71,19 @@ inline double coverageByRoundPen(int x, int y, const FlattenedPath& lines, doubl
 inline void addPolygon(FlattenedPath& path, const std::vector<Point>& points, bool closed = true) {
     path.contours.push_back({path.points.size(), points.size(), closed});
     path.points.insert(path.points.end(), points.begin(), points.end());
+}
+
+inline FlattenedPath polyline(const std::vector<Point>& points, bool closed = false) {
+    FlattenedPath path;
+    addPolygon(path, points, closed);
+    return path;
+}
+
+inline Path line(Point from, Point to) {
+    Path path;
+    path.move(from);
+    path.addLine(to);
+    return path;
 }
 
 }  // namespace marlevo

@@ -2,13 +2,12 @@
 #include "io/RenderPdf.h"
 #include "model/DrawingDocument.h"
 #include "render/RasterCompositing.h"
+#include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/PageReaders.h"
 #include "tests/support/SmallJpeg.h"
-#include "tests/support/Strokes.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -38,18 +37,7 @@ protected:
         document.canvasSize = CanvasSize{200, 120};
     }
 
-    void add(Stroke stroke) {
-        document.layers.modifyAndPublish(
-            [&](LayerList& layers) { layers.back().strokes.append(stroke); });
-    }
-
-    void addImage(std::vector<std::uint8_t> file, double opacity = 1) {
-        document.layers.modifyAndPublish([&](LayerList& layers) {
-            layers.push_back(Layer("Image"));
-            layers.back().imageData.emplace(std::move(file));
-            layers.back().opacity = opacity;
-        });
-    }
+    void add(const Stroke& stroke) { addStroke(document, stroke); }
 
     std::string text() const {
         const auto bytes = renderPDFData(document);
@@ -152,7 +140,7 @@ TEST_P(PdfInReaders, MarksWithoutExtentAreTheSameDots) {
     EXPECT_LT(difference(), 0.8);
 }
 
-TEST_P(PdfInReaders, LinesThatLeaveTheWorldCrossThePageWhereTheyDo) {
+TEST_P(PdfInReaders, LinesFromFarAwayCrossThePageWhereTheRasterHasThem) {
     add(makeStroke({{-1e7, -1e7}, {1e7, 1e7}}, 6, Type::line));
     add(makeStroke({{-1e12, 60}, {1e12, 60}, {1e300, 60}}, 6));
     add(makeStroke({{20, -1e9}, {20, 1e9}}, 6, Type::rect));
@@ -177,24 +165,21 @@ TEST_P(PdfInReaders, ImagesAreUprightWithTheirAlphaAndOpacity) {
             file.insert(file.end(), pixel.begin(), pixel.end());
         }
     }
-    addImage(file, 0.75);
+    addLayer(document, imageLayer(file, 0.75));
     EXPECT_LT(difference(), 3);
 }
 
 TEST_P(PdfInReaders, PhotosAreTurnedUpright) {
-    addImage(jpegWithOrientation(1), 0.75);
     for (std::uint8_t orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(int{orientation});
-        document.layers.modifyAndPublish([&](LayerList& layers) {
-            layers.back().imageData.emplace(jpegWithOrientation(orientation));
-        });
+        document.layers = LayerList{imageLayer(jpegWithOrientation(orientation), 0.75)};
         codec.jpegPixels = turned(orientation);
         EXPECT_NE(text().find("/DCTDecode"), std::string::npos);
         EXPECT_LT(difference(), 6);
     }
 }
 
-TEST_P(PdfInReaders, ValuesNoPageKnowsLookLikeTheRaster) {
+TEST_P(PdfInReaders, ValuesThatPdfCannotHoldLookLikeTheRaster) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     Stroke odd = makeStroke({{nan, 5}, {1e300, nan}, {10, 10}, {50, 50}}, 40);
     odd.color = {nan, 7, -3, 1};
@@ -215,11 +200,7 @@ TEST_P(PdfInReaders, ALineMayCrossFromOneStreamToTheNext) {
         const double turn = i * 5e-4;
         points.push_back({100 + 4 * turn * std::cos(turn), 60 + 2 * turn * std::sin(turn)});
     }
-    document.layers.modifyAndPublish([&](LayerList& layers) {
-        Stroke spiral = makeStroke({}, 4);
-        spiral.points = PointList(std::move(points));
-        layers.back().strokes.append(spiral);
-    });
+    add(makeStroke(PointList(std::move(points)), 4));
     const std::string page = text();
     const std::size_t first = page.find("/FlateDecode");
     ASSERT_NE(page.find("/FlateDecode", first + 1), std::string::npos);
@@ -233,7 +214,7 @@ TEST_F(PdfExport, TheMediaBoxIsTheCanvasWithItsFractions) {
     EXPECT_THAT(text(), testing::HasSubstr("/MediaBox [ 0 0 800.7 600.2 ]"));
 }
 
-TEST_F(PdfExport, CanvasesThatNoPageCanHaveGiveNothing) {
+TEST_F(PdfExport, CanvasesBeyondTheSizeOfAPageGiveNothing) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     for (const double side : {0.0, -5.0, nan, 1e300, 1.0 / 0.0}) {
         document.canvasSize = CanvasSize{side, 100};
@@ -249,22 +230,20 @@ TEST_F(PdfExport, PhotosKeepTheirBytesUnlessTheirPixelsAreOthers) {
     const std::vector<std::uint8_t> file(smallJpeg.begin(), smallJpeg.end());
     const std::string bytes(file.begin(), file.end());
     codec.jpegPixels = turned(1);
-    addImage(file);
+    document.layers = LayerList{imageLayer(file)};
     EXPECT_THAT(text(), testing::HasSubstr(bytes));
 
-    document.layers = LayerList{};
+    document.layers = LayerList{imageLayer(file)};
     codec.jpegPixels = turned(6);
-    addImage(file);
     EXPECT_THAT(text(), testing::Not(testing::HasSubstr(bytes)));
     EXPECT_THAT(text(), testing::HasSubstr("/Image"));
 
-    document.layers = LayerList{};
+    document.layers = LayerList{imageLayer(file)};
     codec.jpegPixels.reset();
-    addImage(file);
     EXPECT_THAT(text(), testing::Not(testing::HasSubstr("/Image")));
 }
 
-TEST_F(PdfExport, NumbersAreDecimalsThatEveryReaderTakes) {
+TEST_F(PdfExport, NumbersAreDecimals) {
     const auto fixed = [](double number) {
         char digits[maxFixedLength];
         return std::string(digits, writeFixed<3>(number, digits));

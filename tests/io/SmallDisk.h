@@ -9,13 +9,11 @@
 
 namespace marlevo {
 
-/// A file system in memory. Not mounted if this process has no right to mount.
+/// A file system of one mebibyte in memory. Not mounted if this process has no right to mount.
 class SmallDisk {
 public:
-    static constexpr const char* oneMebibyte = "tmpfs";
-    static constexpr const char* cannotReserveRoom = "ramfs";
-
-    explicit SmallDisk(const char* type = oneMebibyte) : type_(type), isMounted_(mount(0)) {}
+    SmallDisk()
+        : isMounted_(::mount("tmpfs", folder_.path().c_str(), "tmpfs", 0, "size=1m") == 0) {}
     ~SmallDisk() {
         if (isMounted_) ::umount2(folder_.path().c_str(), MNT_DETACH);
     }
@@ -23,16 +21,10 @@ public:
     SmallDisk& operator=(const SmallDisk&) = delete;
 
     bool isMounted() const { return isMounted_; }
-    bool makeReadOnly() { return mount(MS_REMOUNT | MS_RDONLY); }
     std::filesystem::path operator/(const std::string& name) const { return folder_ / name; }
 
 private:
-    bool mount(unsigned long flags) {
-        return ::mount(type_, folder_.path().c_str(), type_, flags, "size=1m") == 0;
-    }
-
     TemporaryFolder folder_;
-    const char* type_;
     bool isMounted_;
 };
 

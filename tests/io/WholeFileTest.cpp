@@ -106,49 +106,6 @@ TEST(WriteWholeFile, leavesTheOldContentsAtALimitOfSize) {
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
 }
 
-TEST(WriteWholeFile, makesRoomAlsoInTheHolesOfTheOldContents) {
-    const SmallDisk disk;
-    if (!disk.isMounted()) GTEST_SKIP() << "may not mount a file system";
-    const fs::path file = disk / "drawing";
-    writeText(file, oldText);
-    fs::resize_file(file, 3'000'000);
-    EXPECT_NE(errorOfWriting(file, std::string(2'000'000, 'n')), "");
-    EXPECT_EQ(textOf(file).substr(0, oldText.size()), oldText);
-    EXPECT_EQ(fs::file_size(file), 3'000'000u);
-}
-
-TEST(WriteWholeFile, leavesTheOldContentsWhereNoRoomCanBeReserved) {
-    const SmallDisk disk(SmallDisk::cannotReserveRoom);
-    if (!disk.isMounted()) GTEST_SKIP() << "may not mount a file system";
-    const fs::path file = disk / "drawing";
-    writeText(file, oldText);
-    {
-        const FileSizeLimit limit(100'000);
-        EXPECT_THAT(errorOfWriting(file, std::string(200'000, 'n')), EndsWith("File too large"));
-    }
-    EXPECT_EQ(textOf(file), oldText);
-    EXPECT_EQ(errorOfWriting(file, std::string(200'000, 'n')), "");
-    EXPECT_EQ(textOf(file), std::string(200'000, 'n'));
-}
-
-TEST(WriteWholeFile, refusesPlacesWhereItMayNotWrite) {
-    SmallDisk disk;
-    if (!disk.isMounted()) GTEST_SKIP() << "may not mount a file system";
-    writeText(disk / "drawing", oldText);
-    ASSERT_TRUE(disk.makeReadOnly());
-    EXPECT_THAT(errorOfWriting(disk / "drawing", "new"), EndsWith("Read-only file system"));
-    EXPECT_EQ(textOf(disk / "drawing"), oldText);
-    EXPECT_THAT(errorOfWriting(disk / "fresh", "new"), EndsWith("Read-only file system"));
-}
-
-TEST(WriteWholeFile, refusesAFolderThatForbidsIt) {
-    if (::geteuid() == 0) GTEST_SKIP() << "permissions do not bind this user";
-    const TemporaryFolder folder;
-    fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec);
-    EXPECT_THAT(errorOfWriting(folder / "fresh", "new"), EndsWith("Permission denied"));
-    fs::permissions(folder.path(), fs::perms::owner_all);
-}
-
 TEST(WholeFile, refusesFoldersPipesAndDevicesAtOnce) {
     const TemporaryFolder folder;
     const fs::path pipe = folder / "pipe";

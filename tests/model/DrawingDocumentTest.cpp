@@ -1,7 +1,6 @@
 #include "model/DrawingDocument.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <limits>
@@ -21,7 +20,7 @@ constexpr std::int64_t hugeNegative = std::numeric_limits<std::int64_t>::min();
 class LayerOperations : public testing::Test {
 protected:
     LayerOperations()
-        : reader(doc.changeRegistry(), [this](P property) { told.push_back(property); }) {
+        : reader(doc.changeRegistry(), [this](P property) { published.push_back(property); }) {
         doc.ensureLayers();
         reader.observe([&] {
             (void)*doc.layers, (void)*doc.activeLayerIndex, (void)*doc.selectedLayerID;
@@ -39,40 +38,40 @@ protected:
         Stroke stroke;
         stroke.points = {{0, 0}, {1, 1}};
         doc.layers.modifyAndPublish([&](LayerList& all) { all[layer].strokes.append(stroke); });
-        told.clear();
+        published.clear();
     }
     std::size_t strokes(std::size_t layer) const { return (*doc.layers)[layer].strokes.size(); }
     void select() {
         doc.selectedLayerID = doc.layers->front().id;
         doc.selectedStrokeIndex = 0;
-        told.clear();
+        published.clear();
     }
 
     DrawingDocument doc;
-    std::vector<P> told;
+    std::vector<P> published;
     Reader reader;
 };
 
 TEST_F(LayerOperations, EnsureLayersActsOnlyOnAnEmptyList) {
     EXPECT_THAT(names(), ElementsAre("Background"));
     doc.activeLayerIndex = 5;
-    told.clear();
+    published.clear();
     doc.ensureLayers();
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
     EXPECT_EQ(doc.activeLayer(), nullptr);
     doc.activeLayerIndex = -1;
     EXPECT_EQ(doc.activeLayer(), nullptr);
 
     doc.layers = LayerList();
-    told.clear();
+    published.clear();
     doc.ensureLayers();
-    EXPECT_THAT(told, ElementsAre(P::layers, P::activeLayerIndex));
+    EXPECT_THAT(published, ElementsAre(P::layers, P::activeLayerIndex));
     EXPECT_EQ(doc.activeLayer(), &doc.layers->front());
 }
 
 TEST_F(LayerOperations, AddingNamesByTheNumberPresent) {
     doc.addLayer();
-    EXPECT_THAT(told, ElementsAre(P::undoStack, P::redoStack, P::layers, P::activeLayerIndex));
+    EXPECT_THAT(published, ElementsAre(P::undoStack, P::redoStack, P::layers, P::activeLayerIndex));
     doc.addLayer();
     doc.deleteLayer(1);
     doc.addLayer();
@@ -83,13 +82,13 @@ TEST_F(LayerOperations, AddingNamesByTheNumberPresent) {
 
 TEST_F(LayerOperations, DeletingClampsTheActiveIndexAndKeepsTheLastLayer) {
     doc.deleteLayer(0);
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
     doc.addLayer();
     doc.addLayer();
     for (const std::int64_t index : {std::int64_t{-1}, std::int64_t{3}, huge, hugeNegative}) {
-        told.clear();
+        published.clear();
         doc.deleteLayer(index);
-        EXPECT_TRUE(told.empty());
+        EXPECT_TRUE(published.empty());
     }
     doc.deleteLayer(0);
     EXPECT_THAT(names(), ElementsAre("Layer 2", "Layer 3"));
@@ -103,40 +102,40 @@ TEST_F(LayerOperations, MovingEndsAtTheIndexAndActivates) {
     doc.addLayer();
     doc.addLayer();
     doc.activeLayerIndex = 1;
-    told.clear();
+    published.clear();
     doc.moveLayer(0, 2);
     EXPECT_THAT(names(), ElementsAre("Layer 2", "Layer 3", "Background"));
-    EXPECT_THAT(told,
+    EXPECT_THAT(published,
                 ElementsAre(P::undoStack, P::redoStack, P::layers, P::layers, P::activeLayerIndex));
     doc.moveLayer(2, 1);
     EXPECT_THAT(names(), ElementsAre("Layer 2", "Background", "Layer 3"));
     EXPECT_EQ(*doc.activeLayerIndex, 1);
 
-    told.clear();
+    published.clear();
     doc.moveLayer(1, 1);
-    EXPECT_THAT(told, ElementsAre(P::undoStack, P::redoStack, P::layers, P::layers));
+    EXPECT_THAT(published, ElementsAre(P::undoStack, P::redoStack, P::layers, P::layers));
     EXPECT_THAT(names(), ElementsAre("Layer 2", "Background", "Layer 3"));
 
-    told.clear();
+    published.clear();
     doc.moveLayer(0, 3);
     doc.moveLayer(-1, 0);
     doc.moveLayer(huge, hugeNegative);
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
 }
 
 TEST_F(LayerOperations, HidingTakesNoSnapshotButUndoRestoresVisibility) {
     doc.saveState();
     draw(0);
     doc.toggleLayerVisibility(0);
-    EXPECT_THAT(told, ElementsAre(P::layers));
+    EXPECT_THAT(published, ElementsAre(P::layers));
     EXPECT_FALSE(doc.activeLayer()->isVisible);
     doc.undo();
     EXPECT_TRUE(doc.activeLayer()->isVisible);
     EXPECT_EQ(strokes(0), 0u);
-    told.clear();
+    published.clear();
     doc.toggleLayerVisibility(-1);
     doc.toggleLayerVisibility(1);
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
 }
 
 TEST_F(LayerOperations, ClearingNeedsStrokesAndKeepsTheImage) {
@@ -144,23 +143,23 @@ TEST_F(LayerOperations, ClearingNeedsStrokesAndKeepsTheImage) {
     select();
     doc.clearActiveLayer();
     doc.clearAll();
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
 
     draw(0);
     doc.clearActiveLayer();
-    EXPECT_THAT(told, ElementsAre(P::undoStack, P::redoStack, P::layers, P::selectedLayerID,
-                                  P::selectedStrokeIndex));
+    EXPECT_THAT(published, ElementsAre(P::undoStack, P::redoStack, P::layers, P::selectedLayerID,
+                                       P::selectedStrokeIndex));
     EXPECT_EQ(strokes(0), 0u);
     EXPECT_EQ(doc.activeLayer()->imageData, Bytes({1, 2}));
 
     doc.addLayer();
     draw(0);
     doc.clearActiveLayer();
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
     select();
     doc.clearAll();
-    EXPECT_THAT(told, ElementsAre(P::undoStack, P::redoStack, P::layers, P::layers,
-                                  P::selectedLayerID, P::selectedStrokeIndex));
+    EXPECT_THAT(published, ElementsAre(P::undoStack, P::redoStack, P::layers, P::layers,
+                                       P::selectedLayerID, P::selectedStrokeIndex));
     EXPECT_EQ(strokes(0), 0u);
 }
 
@@ -168,7 +167,7 @@ TEST_F(LayerOperations, UndoAndRedoWalkThroughEveryState) {
     constexpr std::size_t steps = 200;
     doc.undo();
     doc.redo();
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
     for (std::size_t i = 0; i < steps; ++i) {
         doc.saveState();
         draw(0);
@@ -193,12 +192,12 @@ TEST_F(LayerOperations, UndoAndRedoPublishInOrderAndOnlyClampFromAbove) {
     doc.addLayer();
     select();
     doc.undo();
-    EXPECT_THAT(told, ElementsAre(P::redoStack, P::undoStack, P::layers, P::activeLayerIndex));
+    EXPECT_THAT(published, ElementsAre(P::redoStack, P::undoStack, P::layers, P::activeLayerIndex));
     EXPECT_EQ(*doc.activeLayerIndex, 0);
     EXPECT_TRUE(doc.selectedStrokeIndex->has_value());
-    told.clear();
+    published.clear();
     doc.redo();
-    EXPECT_THAT(told, ElementsAre(P::undoStack, P::redoStack, P::layers));
+    EXPECT_THAT(published, ElementsAre(P::undoStack, P::redoStack, P::layers));
     EXPECT_EQ(*doc.activeLayerIndex, 0);
 
     doc.layers = LayerList();

@@ -1,6 +1,6 @@
 #include "model/ImageCache.h"
 
-#include "model/LayerList.h"
+#include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
 
 #include <gtest/gtest.h>
@@ -14,18 +14,14 @@
 namespace marlevo {
 namespace {
 
-Layer imageLayer(std::uint8_t shade) {
-    Layer layer("Image");
-    layer.imageData = Bytes({1, 1, shade, shade, shade, 255});
-    return layer;
-}
+Layer imageOf(std::uint8_t shade) { return imageLayer({1, 1, shade, shade, shade, 255}); }
 
 TEST(ImageCache, DecodesAheadWhatIsSeenAndEachFileOnce) {
     const CountingImageCodec codec;
     ImageCache images(&codec);
     LayerList layers;
     for (std::uint8_t shade = 0; shade < 7; ++shade)
-        layers.push_back(imageLayer(shade));
+        layers.push_back(imageOf(shade));
     layers.push_back(layers[2]);  // the same file again
     layers[3].isVisible = false;
     Layer broken("Broken");
@@ -58,9 +54,9 @@ constexpr std::size_t bytesOfImage = 4;
 TEST(ImageCache, KeepsWhatWasUsedLastWithinItsBound) {
     const CountingImageCodec codec;
     ImageCache images(&codec, 2 * bytesOfImage);
-    const Bytes first = *imageLayer(1).imageData;
-    const Bytes second = *imageLayer(2).imageData;
-    const Bytes third = *imageLayer(3).imageData;
+    const Bytes first = *imageOf(1).imageData;
+    const Bytes second = *imageOf(2).imageData;
+    const Bytes third = *imageOf(3).imageData;
     images.image(first);
     images.image(second);
     images.image(first);
@@ -82,7 +78,7 @@ TEST(ImageCache, DecodesNoMoreAheadThanItKeeps) {
     ImageCache images(&codec, 2 * batch * bytesOfImage + 1);
     LayerList layers;
     for (std::size_t i = 0; i < 5 * batch; ++i)
-        layers.push_back(imageLayer(static_cast<std::uint8_t>(i)));
+        layers.push_back(imageOf(static_cast<std::uint8_t>(i)));
     images.decodeAhead(layers);
     EXPECT_EQ(codec.decoded, static_cast<int>(2 * batch));
     for (std::size_t i = 0; i < layers.size(); ++i)
@@ -106,7 +102,7 @@ TEST(ImageCache, DecodesOnSeveralThreadsAtOnce) {
         mutable int begun = 0;
     };
     const WaitingCodec codec;
-    ImageCache(&codec).decodeAhead({imageLayer(1), imageLayer(2)});
+    ImageCache(&codec).decodeAhead({imageOf(1), imageOf(2)});
     EXPECT_EQ(codec.begun, 2);
 }
 

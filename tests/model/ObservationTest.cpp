@@ -1,10 +1,8 @@
 #include "model/Observation.h"
 
 #include "model/DrawingDocument.h"
-#include "tests/model/AllocationCount.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <optional>
@@ -20,9 +18,9 @@ using P = DocumentProperty;
 class Listener {
 public:
     explicit Listener(ChangeRegistry& registry)
-        : reader(registry, [this](P property) { told.push_back(property); }) {}
+        : reader(registry, [this](P property) { calls.push_back(property); }) {}
 
-    std::vector<P> told;
+    std::vector<P> calls;
     Reader reader;
 };
 
@@ -40,41 +38,41 @@ TEST(Observation, PublishesDifferencesOnlyWhereThereIsEquality) {
     doc.selectedColor = Color{-0.0, 0, 0, 1};
     doc.selectedStrokeIndex = std::nullopt;
     doc.canvasSize = CanvasSize{1280, 720};
-    EXPECT_TRUE(listener.told.empty());
+    EXPECT_TRUE(listener.calls.empty());
 
     doc.lineWidth = 4.0;
     doc.selectedStrokeIndex = 0;
     doc.selectedStrokeIndex = 0;
     doc.selectionDragStartPositions = PointList{{1, 1}};
     doc.selectionDragStartPositions = PointList{{1, 1}};
-    EXPECT_THAT(listener.told,
+    EXPECT_THAT(listener.calls,
                 ElementsAre(P::lineWidth, P::selectedStrokeIndex, P::selectionDragStartPositions));
 
-    listener.told.clear();
+    listener.calls.clear();
     doc.layers = *doc.layers;
     doc.currentStroke = std::nullopt;
     doc.layers.modifyAndPublish([](LayerList&) {});
-    EXPECT_THAT(listener.told, ElementsAre(P::layers, P::currentStroke, P::layers));
+    EXPECT_THAT(listener.calls, ElementsAre(P::layers, P::currentStroke, P::layers));
 }
 
-TEST(Observation, TellsOnlyThoseWhoReadAndAfterTheValueIsStored) {
+TEST(Observation, CallsOnlyReadersThatReadTheProperty) {
     DrawingDocument doc;
     double seen = 0;
     Reader zoomReader(doc.changeRegistry(), [&](P) { seen = *doc.zoom; });
     Listener other(doc.changeRegistry());
     zoomReader.observe([&] {
         (void)*doc.zoom;
-        // A reader that renders within another keeps its reads to itself.
+        // The reads of a nested reader are not those of the outer one.
         other.reader.observe([&] { return *doc.showGrid; });
         return doc.isDrawingMode();
     });
     doc.zoom = 2.0;
     EXPECT_EQ(seen, 2.0);
-    EXPECT_TRUE(other.told.empty());
+    EXPECT_TRUE(other.calls.empty());
     doc.showGrid = true;
-    EXPECT_THAT(other.told, ElementsAre(P::showGrid));
+    EXPECT_THAT(other.calls, ElementsAre(P::showGrid));
 
-    // A new render forgets what only the old one read.
+    // A new call of observe() replaces the properties of the last one.
     zoomReader.observe([&] { return *doc.lineWidth; });
     doc.zoom = 3.0;
     EXPECT_EQ(seen, 2.0);
@@ -87,64 +85,64 @@ TEST(Observation, DerivedReadingsDependOnWhatTheyExamined) {
     Listener mode(doc.changeRegistry());
     mode.reader.observe([&] { return doc.isDrawingMode(); });
     doc.isShapeTool = true;
-    EXPECT_TRUE(mode.told.empty());
+    EXPECT_TRUE(mode.calls.empty());
     doc.isEraser = true;
-    EXPECT_THAT(mode.told, ElementsAre(P::isEraser));
+    EXPECT_THAT(mode.calls, ElementsAre(P::isEraser));
 
     Listener layer(doc.changeRegistry());
     layer.reader.observe([&] { return doc.activeLayer(); });
     doc.activeLayerIndex = 5;
     doc.toggleLayerVisibility(0);
-    EXPECT_THAT(layer.told, ElementsAre(P::activeLayerIndex, P::layers));
+    EXPECT_THAT(layer.calls, ElementsAre(P::activeLayerIndex, P::layers));
 
     Listener history(doc.changeRegistry());
     history.reader.observe([&] { return doc.canUndo() || doc.canRedo(); });
     doc.saveState();
-    EXPECT_THAT(history.told, ElementsAre(P::undoStack, P::redoStack));
+    EXPECT_THAT(history.calls, ElementsAre(P::undoStack, P::redoStack));
 }
 
-TEST(Observation, ReadersMayVanishComeAndRegisterAnewWhileTold) {
+TEST(Observation, ReadersMayBeDestroyedCreatedAndObserveAnewDuringACall) {
     ChangeRegistry registry;
     const auto dependOn = [&](Reader& reader, P property) {
         reader.observe([&] { registry.noteRead(property); });
     };
-    std::vector<int> told;
+    std::vector<int> calls;
     std::vector<std::unique_ptr<Reader>> readers(5);
     for (int i = 0; i < 5; ++i) {
         readers[i] = std::make_unique<Reader>(registry, [&, i](P) {
-            told.push_back(i);
+            calls.push_back(i);
             if (i != 3) return;
             // During its call it and both neighbours are destroyed, and another reader is created.
             readers[2].reset();
             readers[4].reset();
             readers[3].reset();
-            readers[4] = std::make_unique<Reader>(registry, [&](P) { told.push_back(40); });
+            readers[4] = std::make_unique<Reader>(registry, [&](P) { calls.push_back(40); });
             dependOn(*readers[4], P::zoom);
             dependOn(*readers[1], P::showGrid);
-            told.push_back(i);
+            calls.push_back(i);
         });
         dependOn(*readers[i], P::zoom);
     }
     registry.publish(P::zoom);
-    EXPECT_THAT(told, ElementsAre(4, 3, 3, 0));
-    told.clear();
+    EXPECT_THAT(calls, ElementsAre(4, 3, 3, 0));
+    calls.clear();
     registry.publish(P::zoom);
-    EXPECT_THAT(told, ElementsAre(40, 0));
-    told.clear();
+    EXPECT_THAT(calls, ElementsAre(40, 0));
+    calls.clear();
     registry.publish(P::showGrid);
-    EXPECT_THAT(told, ElementsAre(1));
+    EXPECT_THAT(calls, ElementsAre(1));
 }
 
-TEST(Observation, NestedPublishesSurviveVanishingReaders) {
+TEST(Observation, ReadersMayBeDestroyedDuringANestedPublish) {
     ChangeRegistry registry;
-    std::vector<int> told;
-    auto last = std::make_unique<Reader>(registry, [&](P) { told.push_back(0); });
+    std::vector<int> calls;
+    auto last = std::make_unique<Reader>(registry, [&](P) { calls.push_back(0); });
     Reader inner(registry, [&](P property) {
-        told.push_back(1);
+        calls.push_back(1);
         if (property == P::showGrid) last.reset();
     });
     Reader outer(registry, [&](P property) {
-        told.push_back(2);
+        calls.push_back(2);
         if (property == P::zoom) registry.publish(P::showGrid);
     });
     const auto both = [&] { registry.noteRead(P::zoom), registry.noteRead(P::showGrid); };
@@ -152,7 +150,7 @@ TEST(Observation, NestedPublishesSurviveVanishingReaders) {
     inner.observe(both);
     outer.observe(both);
     registry.publish(P::zoom);
-    EXPECT_THAT(told, ElementsAre(2, 2, 1, 1));
+    EXPECT_THAT(calls, ElementsAre(2, 2, 1, 1));
 }
 
 TEST(Observation, AReaderMayOutliveItsDocument) {
@@ -161,23 +159,7 @@ TEST(Observation, AReaderMayOutliveItsDocument) {
     listener.reader.observe([&] { return *doc->zoom; });
     doc.reset();
     listener.reader.observe([] {});
-    EXPECT_TRUE(listener.told.empty());
-}
-
-TEST(Observation, PublishingAllocatesNothing) {
-    DrawingDocument doc;
-    std::vector<std::unique_ptr<Reader>> readers;
-    int told = 0;
-    for (int i = 0; i < 20; ++i) {
-        readers.push_back(std::make_unique<Reader>(doc.changeRegistry(), [&](P) { ++told; }));
-        readers.back()->observe([&] { return *doc.zoom; });
-    }
-    const std::size_t before = allocationCount();
-    doc.zoom = 2.0;
-    const std::size_t after = allocationCount();
-    EXPECT_EQ(told, 20);
-    EXPECT_EQ(after, before);
-    EXPECT_GT(before, 0u);
+    EXPECT_TRUE(listener.calls.empty());
 }
 
 }  // namespace

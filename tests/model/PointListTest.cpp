@@ -27,7 +27,7 @@ TEST(PointList, AppendsInPlaceWhenAloneAndLeavesCopiesAsTheyWere) {
     EXPECT_EQ(copy, PointList(std::vector<Point>(copy.begin(), copy.end())));
 }
 
-TEST(PointList, BoundsHoldEveryPointOrSayThatTheyCannot) {
+TEST(PointList, BoundsHoldEveryPointOrAreNotANumber) {
     EXPECT_EQ(PointList().bounds(), Rect());
     EXPECT_EQ(PointList({{3, 4}}).bounds(), (Rect{{3, 4}, {0, 0}}));
     const double nan = std::numeric_limits<double>::quiet_NaN();

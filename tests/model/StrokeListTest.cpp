@@ -16,7 +16,7 @@
 namespace marlevo {
 namespace {
 
-/// A stroke that can be told from others by its colour, somewhere in 1000 × 1000.
+/// A stroke at a random place in 1000 × 1000. Its colour identifies it.
 Stroke makeStroke(double mark, std::mt19937& random) {
     std::uniform_real_distribution<double> position(0, 1000);
     std::uniform_real_distribution<double> width(0, 20);
@@ -105,6 +105,10 @@ public:
             twin.modify(below(size));
         } else if (below(3) == 0) {
             twin.clear();
+        } else {
+            // Sparse branches, which later strokes fill up again.
+            for (std::size_t at = size; at-- > 0;)
+                if (at % 100 != 0) twin.erase(at);
         }
     }
 
@@ -118,7 +122,7 @@ TEST(StrokeList, EqualsAVectorThroughRandomEditsAndKeepsOldVersions) {
         RandomEdits edits(seed);
         std::vector<Twin> versions(1);
         for (int step = 0; step < 500; ++step) {
-            // Mostly go on with the newest version, at times from an older one, at times alone.
+            // Mostly continues with the newest version, sometimes with an older one.
             Twin next =
                 edits.below(10) == 0 ? versions[edits.below(versions.size())] : versions.back();
             if (edits.below(8) == 0) versions.clear();
@@ -136,27 +140,6 @@ TEST(StrokeList, EqualsAVectorThroughRandomEditsAndKeepsOldVersions) {
                 ASSERT_TRUE(same(version.list[at], version.plain[at]));
         }
     }
-}
-
-TEST(StrokeList, ThinsOutToNothingAndGrowsAgain) {
-    RandomEdits edits(7);
-    Twin twin;
-    for (int i = 0; i < 40000; ++i)
-        twin.append(edits.stroke());
-    twin.check();
-    // Thin the whole tree first, so that sparse branches must carry on.
-    for (std::size_t at = 40000; at-- > 0;)
-        if (at % 100 != 0) twin.list.erase(at);
-    ASSERT_EQ(twin.list.size(), 400u);
-    for (std::size_t at = 0; at < 400; ++at)
-        ASSERT_TRUE(same(twin.list[at], twin.plain[at * 100]));
-    while (!twin.list.isEmpty())
-        twin.list.erase(twin.list.size() / 2);
-    EXPECT_TRUE(twin.list.begin() == twin.list.end());
-    twin.plain.clear();
-    for (int i = 0; i < 2000; ++i)
-        twin.append(edits.stroke());
-    twin.check();
 }
 
 TEST(StrokeList, ChangesInPlaceOnlyWhenAlone) {
@@ -190,10 +173,6 @@ TEST(StrokeList, SharesWithCopiesUntilOneChanges) {
         copy.append(edits.stroke());
         EXPECT_FALSE(copy.sharesWith(list));
         EXPECT_EQ(list.size(), static_cast<std::size_t>(size));
-        // The same place in the open leaf, wanted twice.
-        list.append(edits.stroke());
-        EXPECT_FALSE(copy.sharesWith(list));
-        EXPECT_FALSE(same(copy[size], list[size]));
     }
 }
 
@@ -210,7 +189,7 @@ TEST(StrokeList, FreesTheSpareMemoryOfAppendedPointsAndLeavesTheirOtherOwnersAlo
     EXPECT_TRUE(list[1].points.sharesWith(again.points));
 }
 
-TEST(StrokeList, VisitsWhatThePlainScanFindsInOrder) {
+TEST(StrokeList, VisitsWhatThePlainScanFindsInOrderAndStopsWhenAsked) {
     RandomEdits edits(3);
     Twin twin;
     for (int i = 0; i < 4000; ++i)
@@ -243,12 +222,16 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrder) {
                  painted.minY() <= area.maxY() && painted.maxY() >= area.minY()))
                 expected.push_back(at);
         }
+        const std::size_t most = i % 2 == 0 ? 1 + edits.below(5) : twin.plain.size();
+        const bool isWhole = expected.size() < most;
+        if (!isWhole) expected.resize(most);
         std::vector<std::size_t> found;
-        twin.list.visitNear(area, 0, [&](std::size_t at, const Stroke& stroke, const Box&) {
+        const auto visit = [&](std::size_t at, const Stroke& stroke, const Box&) {
             EXPECT_EQ(stroke.color, twin.plain[at].color);
             found.push_back(at);
-            return true;
-        });
+            return found.size() < most;
+        };
+        ASSERT_EQ(twin.list.visitNear(area, 0, visit), isWhole);
         ASSERT_EQ(found, expected);
     }
 }
@@ -272,26 +255,6 @@ TEST(StrokeList, VisitMissesNothingByRounding) {
             list.visitNear({places[wanted], {}}, 0,
                            [&](std::size_t at, const Stroke&, const Box&) { return at != wanted; }))
             << wanted;
-}
-
-TEST(StrokeList, VisitStopsWhenTold) {
-    RandomEdits edits(4);
-    StrokeList list;
-    for (int i = 0; i < 3000; ++i) {
-        Stroke stroke = edits.stroke();
-        stroke.lineWidth = 0;
-        stroke.points = {{1.0 * i, 0}, {1.0 * i, 1}};
-        list.append(stroke);
-    }
-    std::vector<std::size_t> found;
-    const auto visitor = [&](std::size_t index, const Stroke&, const Box&) {
-        found.push_back(index);
-        return found.size() % 2 != 0;
-    };
-    EXPECT_FALSE(list.visitNear({{1234, 0}, {2, 0}}, 0, visitor));
-    // In the leaf that is not yet in the tree.
-    EXPECT_FALSE(list.visitNear({{2996, 0}, {}}, 1, visitor));
-    EXPECT_EQ(found, (std::vector<std::size_t>{1234, 1235, 2995, 2996}));
 }
 
 TEST(StrokeDifference, IsExactBetweenAnyTwoVersions) {
@@ -322,7 +285,7 @@ TEST(StrokeDifference, IsExactBetweenAnyTwoVersions) {
     }
 }
 
-TEST(StrokeList, CopiesLiveOnOtherThreadsWhileTheListChanges) {
+TEST(StrokeList, CopiesMayBeUsedOnOtherThreadsWhileTheListChanges) {
     RandomEdits edits(8);
     StrokeList list;
     for (int i = 0; i < 2000; ++i)
@@ -352,7 +315,7 @@ TEST(StrokeList, CopiesLiveOnOtherThreadsWhileTheListChanges) {
     EXPECT_EQ(list.size(), 2000u + 20 * 14);
 }
 
-TEST(StrokeList, CopiesThatShareAnOpenLeafAppendOnTwoThreadsAtOnce) {
+TEST(StrokeList, CopiesThatShareAnOpenLeafMayAppendOnTwoThreadsAtOnce) {
     RandomEdits edits(9);
     std::vector<std::array<Twin, 2>> pairs(4000);
     for (std::size_t i = 0; i < pairs.size(); ++i) {

@@ -1,6 +1,6 @@
 #include "model/Stroke.h"
 
-#include "tests/support/Strokes.h"
+#include "tests/support/Drawing.h"
 
 #include <gtest/gtest.h>
 

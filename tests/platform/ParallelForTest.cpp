@@ -1,7 +1,6 @@
 #include "platform/ParallelFor.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <new>

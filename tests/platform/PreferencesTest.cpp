@@ -5,16 +5,6 @@
 namespace marlevo {
 namespace {
 
-TEST(Preferences, startWithTheirInitialValuesAndTakeAnyOther) {
-    FakePreferences preferences;
-    EXPECT_EQ(preferences.get(preference::defaultCanvasWidth), 1280);
-    EXPECT_EQ(preferences.get(preference::defaultCanvasHeight), 720);
-    EXPECT_TRUE(preferences.get(preference::autoSaveEnabled));
-    preferences.set(preference::defaultCanvasHeight, -0.5);
-    EXPECT_EQ(preferences.get(preference::defaultCanvasHeight), -0.5);
-    EXPECT_EQ(preferences.get(preference::defaultCanvasWidth), 1280);
-}
-
 TEST(Preferences, callObserversAfterChangesUntilTheyAreRemoved) {
     std::vector<double> heard;
     Preferences::Observation late;

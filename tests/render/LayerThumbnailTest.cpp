@@ -4,9 +4,9 @@
 #include "model/ImageCache.h"
 #include "platform/BackgroundThread.h"
 #include "render/RasterCompositing.h"
+#include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
 #include "tests/support/ManualQueue.h"
-#include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
 
@@ -27,15 +27,13 @@ protected:
         return all;
     }
 
-    static void draw(DrawingDocument& on, Point at, std::size_t layer = 0) {
-        on.layers.modifyAndPublish([&](LayerList& layers) {
-            layers[layer].strokes.append(makeStroke({at, {at.x + 200, at.y}}, 60));
-        });
+    static void draw(DrawingDocument& on, Point at) {
+        addStroke(on, makeStroke({at, {at.x + 200, at.y}}, 60));
     }
 
     const Layer& layer(std::size_t index = 0) const { return (*document.layers)[index]; }
 
-    /// Lets renders begin and come back until nothing is left to do.
+    /// Runs both queues until they are empty.
     void settle() {
         while (backgroundQueue.run() || mainQueue.run()) {
         }
@@ -76,24 +74,16 @@ TEST_F(LayerThumbnailTest, RendersAgainOnlyWhenThePictureWouldDiffer) {
     };
     EXPECT_EQ(rendersAfter([] {}), 0);
     EXPECT_EQ(rendersAfter([&] { document.toggleLayerVisibility(0); }), 0);
-    EXPECT_EQ(rendersAfter([&] {
-                  document.layers.modifyAndPublish(
-                      [](LayerList& layers) { layers[0].name = "Sky"; });
-              }),
-              0);
-    EXPECT_EQ(rendersAfter([&] { draw(document, {0, 0}); }), 1);
-    EXPECT_EQ(rendersAfter([&] { document.canvasSize = CanvasSize{300, 300}; }), 1);
-    const auto setImage = [&] {
-        document.layers.modifyAndPublish([](LayerList& layers) {
-            layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 1, 255, 0, 0, 0});
+    const auto changeLayer = [&](void (*change)(Layer&)) {
+        return rendersAfter([&] {
+            document.layers.modifyAndPublish([&](LayerList& layers) { change(layers[0]); });
         });
     };
-    EXPECT_EQ(rendersAfter(setImage), 1);
-    EXPECT_EQ(rendersAfter([&] {
-                  document.layers.modifyAndPublish(
-                      [](LayerList& layers) { layers[0].opacity = 0.5; });
-              }),
-              1);
+    EXPECT_EQ(changeLayer([](Layer& layer) { layer.name = "Sky"; }), 0);
+    EXPECT_EQ(rendersAfter([&] { draw(document, {0, 0}); }), 1);
+    EXPECT_EQ(rendersAfter([&] { document.canvasSize = CanvasSize{300, 300}; }), 1);
+    EXPECT_EQ(changeLayer([](Layer& layer) { layer.imageData = Bytes({1, 1, 255, 0, 0, 0}); }), 1);
+    EXPECT_EQ(changeLayer([](Layer& layer) { layer.opacity = 0.5; }), 1);
     EXPECT_EQ(*thumbnail.cgImage(), renderSingleLayer(document, layer(), {88, 64}));
 }
 
@@ -121,9 +111,7 @@ TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
     mainQueue.run();
     EXPECT_EQ(changes, 0);
 
-    document.layers.modifyAndPublish([](LayerList& layers) {
-        layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 1, 255, 0, 0, 0});
-    });
+    document.layers = LayerList{imageLayer({1, 1, 255, 0, 0, 0})};
     gone = std::make_unique<LayerThumbnail>(document.services(), images, [this] { ++changes; });
     gone->show(layer(), document.canvasSize);
     gone.reset();

@@ -3,11 +3,10 @@
 #include "graphics/BitmapContext.h"
 #include "model/DrawingDocument.h"
 #include "render/LayerPainting.h"
+#include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
-#include "tests/support/Strokes.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <array>
 #include <cmath>
@@ -28,10 +27,7 @@ protected:
         document.canvasSize = CanvasSize{100, 80};
     }
 
-    void add(Stroke stroke, std::size_t layer = 0) {
-        document.layers.modifyAndPublish(
-            [&](LayerList& layers) { layers[layer].strokes.append(stroke); });
-    }
+    void add(const Stroke& stroke, std::size_t layer = 0) { addStroke(document, stroke, layer); }
 
     /// An image layer of `width` × `height` pixels, the upper half in one colour, the lower in
     /// another.
@@ -44,11 +40,7 @@ protected:
                 file.insert(file.end(), pixel.begin(), pixel.end());
             }
         }
-        document.layers.modifyAndPublish([&](LayerList& layers) {
-            layers.push_back(Layer("Image"));
-            layers.back().imageData.emplace(std::move(file));
-            layers.back().opacity = opacity;
-        });
+        addLayer(document, imageLayer(std::move(file), opacity));
     }
 
     Pixel pixel(int x, int y) const {
@@ -131,15 +123,6 @@ TEST_F(RasterCompositing, FillsCoverTheirInsideAndOutlinesDoNot) {
     EXPECT_EQ(pixel(80, 70), opaqueBlack);
 }
 
-TEST_F(RasterCompositing, EraserPaintsItsColourAlsoOverNothing) {
-    document.backgroundIsTransparent = true;
-    Stroke eraser = makeStroke({{10, 40}, {90, 40}}, 24);
-    eraser.color = white;
-    eraser.isEraser = true;
-    add(eraser);
-    EXPECT_EQ(pixel(50, 40), opaqueWhite);
-}
-
 TEST_F(RasterCompositing, ImagesStandUprightUnderTheStrokesOfTheirLayer) {
     addImage(2, 4, red, blue);
     EXPECT_EQ(pixel(50, 10), red);
@@ -156,9 +139,7 @@ TEST_F(RasterCompositing, LayerOpacityFadesTheImageButNoStroke) {
 }
 
 TEST_F(RasterCompositing, UndecodableImagesAreSkippedButNotTheirStrokes) {
-    document.layers.modifyAndPublish([](LayerList& layers) {
-        layers[0].imageData.emplace(std::vector<std::uint8_t>{1, 2, 3});
-    });
+    document.layers = LayerList{imageLayer({1, 2, 3})};
     add(makeStroke({{10, 40}, {90, 40}}));
     EXPECT_EQ(pixel(50, 40), opaqueBlack);
     EXPECT_EQ(pixel(50, 10), opaqueWhite);

@@ -3,8 +3,9 @@
 #include "model/DrawingDocument.h"
 #include "model/ImageCache.h"
 #include "render/RasterCompositing.h"
+#include "tests/support/Canvas.h"
+#include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
-#include "tests/support/Strokes.h"
 
 #include <gtest/gtest.h>
 
@@ -20,18 +21,16 @@ namespace {
 ImageCache noImages(nullptr);
 
 std::vector<std::uint8_t> paint(ScreenPicture& picture, const Scene& scene, const IntRect& area) {
-    std::vector<std::uint8_t> pixels(static_cast<std::size_t>(area.width()) * area.height() * 4,
-                                     0xAB);
+    Canvas canvas(area, PixelOrder::bgra, 0xAB);
     picture.update(scene);
-    picture.paint({pixels.data(), std::ptrdiff_t{area.width()} * 4, area, PixelOrder::bgra});
-    return pixels;
+    picture.paint(canvas.buffer());
+    return canvas.bytes();
 }
 
 /// A view that repaints only the damage of its picture.
 class View {
 public:
-    explicit View(const IntRect& area)
-        : area_(area), pixels_(static_cast<std::size_t>(area.width()) * area.height() * 4) {}
+    explicit View(const IntRect& area) : area_(area), canvas_(area, PixelOrder::bgra) {}
 
     void showChanges(const Scene& scene) {
         picture_.update(scene);
@@ -46,17 +45,15 @@ public:
     void paintPart(const Scene& scene, const IntRect& part) {
         if (part.isEmpty()) return;
         picture_.update(scene);
-        const PixelBuffer whole{pixels_.data(), std::ptrdiff_t{area_.width()} * 4, area_,
-                                PixelOrder::bgra};
-        picture_.paint({whole.pixel(part.left, part.top), whole.stride, part, whole.order});
+        picture_.paint(canvas_.part(part));
     }
 
     ScreenPicture& picture() { return picture_; }
-    const std::vector<std::uint8_t>& pixels() const { return pixels_; }
+    const std::vector<std::uint8_t>& pixels() const { return canvas_.bytes(); }
 
 private:
     IntRect area_;
-    std::vector<std::uint8_t> pixels_;
+    Canvas canvas_;
     ScreenPicture picture_{noImages};
 };
 
@@ -72,9 +69,7 @@ void extendCurrentStroke(DrawingDocument& document, Point to) {
 /// Publishes a state in which the stroke exists twice, as ending a stroke with the pointer does.
 void endCurrentStroke(DrawingDocument& document) {
     if (document.currentStroke.get()->points.size() >= 2 && document.activeLayer()) {
-        document.layers.modifyAndPublish([&](LayerList& all) {
-            all[*document.activeLayerIndex].strokes.append(*document.currentStroke.get());
-        });
+        addStroke(document, *document.currentStroke.get(), *document.activeLayerIndex);
     }
     document.currentStroke = std::nullopt;
 }
@@ -272,8 +267,7 @@ TEST(ScreenPicture, APaintThatFailsLeavesNoHalfPaintedTile) {
     const FailingCodec codec;
     // Keeps no image, so that the repaint decodes it again.
     ImageCache images(&codec, 0);
-    Layer layer("Image");
-    layer.imageData = Bytes({1, 1, 255, 9, 8, 7});
+    Layer layer = imageLayer({1, 1, 255, 9, 8, 7});
     layer.strokes.append(makeStroke({{10, 10}, {90, 90}}, 9));
     const Scene scene{{{layer}, {100, 100}, white}, true, 1, nullptr};
     const IntRect area{0, 0, 100, 100};
@@ -291,9 +285,7 @@ TEST(ScreenPicture, APaintThatFailsLeavesNoHalfPaintedTile) {
 TEST(ScreenPicture, RepaintsALayerWhoseImageFades) {
     const FakeImageCodec codec;
     ImageCache images(&codec);
-    Layer layer("Image");
-    layer.imageData = Bytes({1, 1, 255, 9, 8, 7});
-    Scene scene{{{layer}, {100, 100}, white}, false, 1, nullptr};
+    Scene scene{{{imageLayer({1, 1, 255, 9, 8, 7})}, {100, 100}, white}, false, 1, nullptr};
     const IntRect area{0, 0, 100, 100};
     ScreenPicture kept(images);
     const auto opaque = paint(kept, scene, area);

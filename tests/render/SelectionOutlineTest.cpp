@@ -1,6 +1,6 @@
 #include "render/SelectionOutline.h"
 
-#include "tests/support/Strokes.h"
+#include "tests/support/Drawing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 #include "render/VisibleStrokes.h"
 
 #include "render/StrokePainting.h"
-#include "tests/support/Strokes.h"
+#include "tests/support/Canvas.h"
+#include "tests/support/Drawing.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <random>
 #include <vector>
 
@@ -41,43 +41,32 @@ Layer scribbles(int count, int oddOnes, unsigned seed) {
     return layer;
 }
 
-struct Picture {
-    explicit Picture(const IntRect& whole) : area(whole), bytes(whole.area() * 4, 0xD0) {}
-
-    PixelBuffer pixels() {
-        return {bytes.data(), std::ptrdiff_t{area.width()} * 4, area, PixelOrder::bgra};
-    }
-
-    IntRect area;
-    std::vector<std::uint8_t> bytes;
-};
-
 /// Checks that drawing the visible strokes of each part gives the same picture as drawing all
 /// strokes from the lowest to the topmost. Returns the number of drawn strokes.
 std::size_t drawInParts(const Layer& layer, double scale, const std::vector<IntRect>& parts) {
     IntRect whole;
     for (const IntRect& part : parts)
         whole = whole.unitedWith(part);
-    Picture expected(whole);
-    BitmapContext plain(expected.pixels(), DeviceFrame::yDown(scale));
+    Canvas expected(whole, PixelOrder::bgra, 0xD0);
+    BitmapContext plain(expected.buffer(), DeviceFrame::yDown(scale));
     for (const Stroke& stroke : layer.strokes)
         drawStrokeOnScreen(plain, stroke);
 
-    Picture picture(whole);
+    Canvas picture(whole, PixelOrder::bgra, 0xD0);
     std::size_t drawn = 0;
     const VisibleStrokes strokes({{&layer}, {}}, whole, scale);
     for (const IntRect& part : parts) {
-        BitmapContext context(picture.pixels().part(part), DeviceFrame::yDown(scale));
+        BitmapContext context(picture.part(part), DeviceFrame::yDown(scale));
         strokes.draw(context, [&](GraphicsContext& to, const Stroke& stroke) {
             ++drawn;
             drawStrokeOnScreen(to, stroke);
         });
     }
-    EXPECT_TRUE(picture.bytes == expected.bytes) << "in " << parts.size() << " parts";
+    EXPECT_TRUE(picture.bytes() == expected.bytes()) << "in " << parts.size() << " parts";
     return drawn;
 }
 
-TEST(VisibleStrokes, GiveThePictureOfAllStrokesAndSpareTheHiddenOnes) {
+TEST(VisibleStrokes, GiveThePictureOfAllStrokesAndSkipTheHiddenOnes) {
     struct Case {
         int count;
         int oddOnes;

@@ -10,7 +10,7 @@
 #include <unordered_set>
 #include <vector>
 
-/// Fill's steps the slow way: a stack and a hash set of cells, a recursion over the points.
+/// Slow definitions of the fill's steps: a stack and a hash set of cells, a recursion over points.
 namespace marlevo::filldefinition {
 
 using Cells = std::unordered_set<std::int64_t>;

@@ -11,7 +11,7 @@
 
 namespace marlevo::fillpictures {
 
-/// A region as one sees it, top row first: '#' is a cell of it.
+/// A region from its picture, top row first: '#' is one of its cells.
 inline Region regionFrom(const std::vector<std::string>& rows) {
     const int height = static_cast<int>(rows.size());
     Region region(static_cast<int>(rows.front().size()), height);
@@ -46,62 +46,7 @@ inline Region noise(int width, int height, double density, std::mt19937& random)
     return region;
 }
 
-/// Passages `corridor` cells wide between walls one cell wide, without loops.
-inline Region maze(int columns, int rows, int corridor, std::mt19937& random) {
-    const int pitch = corridor + 1;
-    Region region(columns * pitch + 1, rows * pitch + 1);
-    const auto open = [&](int left, int bottom, int width, int height) {
-        for (int y = bottom; y < bottom + height; ++y) {
-            for (int x = left; x < left + width; ++x)
-                region.insert({x, y});
-        }
-    };
-    // Each chamber but the first opens to the one on its left or below it.
-    for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) {
-            const int left = column * pitch + 1;
-            const int bottom = row * pitch + 1;
-            open(left, bottom, corridor, corridor);
-            const bool toTheLeft = row == 0 || (column > 0 && random() % 2 == 0);
-            if (column == 0 && row == 0) continue;
-            if (toTheLeft) {
-                open(left - 1, bottom, 1, corridor);
-            } else {
-                open(left, bottom - 1, corridor, 1);
-            }
-        }
-    }
-    return region;
-}
-
-/// One passage `corridor` cells wide that winds inwards between walls one cell wide.
-inline Region spiral(int width, int height, int corridor) {
-    Region region(width, height);
-    int left = 0;
-    int bottom = 0;
-    int right = width;
-    int top = height;
-    const auto open = [&](int fromX, int fromY, int toX, int toY) {
-        for (int y = std::max(fromY, 0); y < std::min(toY, height); ++y) {
-            for (int x = std::max(fromX, 0); x < std::min(toX, width); ++x)
-                region.insert({x, y});
-        }
-    };
-    while (right - left > 2 * corridor + 1 && top - bottom > 2 * corridor + 1) {
-        // Along the bottom, up the right, back along the top and down to the next turn.
-        open(left - corridor - 1, bottom, right, bottom + corridor);
-        open(right - corridor, bottom, right, top);
-        open(left, top - corridor, right, top);
-        open(left, bottom + corridor + 1, left + corridor, top);
-        left += corridor + 1;
-        bottom += corridor + 1;
-        right -= corridor + 1;
-        top -= corridor + 1;
-    }
-    return region;
-}
-
-/// Pictures of all kinds: noise, mazes, spirals, full and narrow ones.
+/// Noise of all densities, some of which make labyrinths, on large and on narrow grids.
 inline std::vector<Region> variousRegions(std::mt19937& random) {
     std::vector<Region> regions;
     for (const double density : {0.05, 0.3, 0.5, 0.6, 0.65, 0.8, 0.97, 1.0}) {
@@ -116,10 +61,6 @@ inline std::vector<Region> variousRegions(std::mt19937& random) {
                                             {140, 90}}) {
             regions.push_back(noise(width, height, density, random));
         }
-    }
-    for (const int corridor : {1, 2, 5}) {
-        regions.push_back(maze(20, 14, corridor, random));
-        regions.push_back(spiral(131, 67, corridor));
     }
     return regions;
 }

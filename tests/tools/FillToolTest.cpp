@@ -1,7 +1,7 @@
 #include "tools/FillTool.h"
 
 #include "model/DrawingDocument.h"
-#include "tests/support/Strokes.h"
+#include "tests/support/Drawing.h"
 #include "tools/EyeDropper.h"
 
 #include <gtest/gtest.h>
@@ -42,9 +42,7 @@ TEST_F(FillTool, CoversAnEmptyCanvasByOneShapeOnALayerOfItsOwn) {
 }
 
 TEST_F(FillTool, StaysInsideAClosedOutline) {
-    document.layers.modifyAndPublish([](LayerList& layers) {
-        layers[0].strokes.append(makeStroke({{100, 100}, {300, 250}}, 4, Stroke::ShapeType::rect));
-    });
+    addStroke(document, makeStroke({{100, 100}, {300, 250}}, 4, Stroke::ShapeType::rect));
     document.addLayer();
     performFill(document, {200, 200});
     EXPECT_EQ(top().name, "Fill 2");
@@ -89,7 +87,7 @@ TEST(EyeDropper, PicksWhatAnExportShowsAndTurnsItselfOff) {
     Stroke stroke = makeStroke({{10, 10}, {90, 10}}, 12);
     stroke.color = {1, 0, 0, 1};
     stroke.opacity = 0.5;
-    document.layers.modifyAndPublish([&](LayerList& layers) { layers[0].strokes.append(stroke); });
+    addStroke(document, stroke);
     document.backgroundIsTransparent = true;
     pickColor(document, {50.9, 10.2});
     EXPECT_NEAR(document.selectedColor->red, 0.5, 0.01);

@@ -1,11 +1,11 @@
 #include "tools/FloodFill.h"
 
+#include "tests/support/InstructionSets.h"
 #include "tests/tools/FillDefinition.h"
 #include "tests/tools/FillPictures.h"
 #include "tools/MatchRow.h"
 
 #include <gtest/gtest.h>
-#include <hwy/targets.h>
 
 #include <limits>
 
@@ -85,24 +85,6 @@ TEST(FloodFill, JoinsADifferenceOf35AndStopsAt36InAnyByte) {
     }
 }
 
-TEST(FloodFill, StopsOnARampWhereItHasDriftedFromTheSeed) {
-    std::vector<std::uint8_t> bytes;
-    for (int x = 0; x < 20; ++x) {
-        const auto grey = static_cast<std::uint8_t>(10 * x);
-        bytes.insert(bytes.end(), {255, grey, grey, grey});
-    }
-    EXPECT_EQ(floodFill(RasterImage(20, 1, bytes), {8, 0}).bounds(), (Region::Bounds{5, 0, 11, 0}));
-}
-
-TEST(FloodFill, IsHeldByAnOutlineThatTouchesAtCornersOnly) {
-    const Region outline = fillpictures::regionFrom({"..#..",  //
-                                                     ".#.#.",  //
-                                                     "#...#",  //
-                                                     ".#.#.",  //
-                                                     "..#.."});
-    EXPECT_EQ(floodFill(fillpictures::pictureOf(outline), {2, 2}).size(), 5U);
-}
-
 TEST(FloodFill, CountsRowsUpwardsAndFindsNothingFromOutside) {
     const RasterImage image = fillpictures::pictureOf(fillpictures::regionFrom({"##.", "..."}));
     EXPECT_EQ(floodFill(image, {0, 1}).bounds(), (Region::Bounds{0, 1, 1, 1}));
@@ -127,17 +109,11 @@ TEST(MatchRow, GivesTheSameBitsOnEveryInstructionSet) {
         return rows;
     };
 
-    const std::int64_t all = hwy::SupportedTargets();
-    hwy::SetSupportedTargetsForTest(HWY_SCALAR);
-    hwy::GetChosenTarget().Update(HWY_SCALAR);
-    const auto expected = matchRows();
-    for (std::int64_t rest = all; rest != 0; rest &= rest - 1) {
-        const std::int64_t target = rest & -rest;
-        hwy::GetChosenTarget().Update(target);
-        EXPECT_EQ(matchRows(), expected) << hwy::TargetName(target);
-    }
-    hwy::SetSupportedTargetsForTest(0);
-    hwy::GetChosenTarget().DeInit();
+    std::vector<std::vector<std::uint64_t>> expected;
+    withEveryInstructionSet([&](const char* name) {
+        if (expected.empty()) expected = matchRows();
+        EXPECT_EQ(matchRows(), expected) << name;
+    });
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "tools/PointerGesture.h"
 
-#include "tests/support/Strokes.h"
+#include "tests/support/Drawing.h"
 #include "tools/Selection.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +34,7 @@ const std::vector<Tool> tools{brush, eraser, shape, fill, eyeDropper, select};
 enum class Ending { none, drag, click, interrupt };
 const std::vector<Ending> endings{Ending::drag, Ending::click, Ending::interrupt};
 
-/// What a gesture leaves in the document, beside what was there before it.
+/// The change of the document by a gesture.
 struct Outcome {
     std::vector<std::vector<Point>> newStrokes = {};  ///< of the lowest layer
     int newLayers = 0;
@@ -62,7 +62,7 @@ constexpr Point last{40, 30};
 constexpr Point empty{40, 90};
 constexpr Point onSecond{65, 65};
 
-/// A document with two rectangles, and a hand with a mouse.
+/// A document with two rectangles, and a pointer.
 struct Hand {
     DrawingDocument document;
     PointerGesture gesture{document};
@@ -71,11 +71,9 @@ struct Hand {
         document.canvasSize = {100, 100};
         document.backgroundColor = Color{1, 0, 0, 1};
         document.ensureLayers();
-        document.layers.modifyAndPublish([](LayerList& all) {
-            for (const double at : {15.0, 60.0})
-                all[0].strokes.append(
-                    makeStroke({{at, at}, {at + 10, at + 10}}, 3, Stroke::ShapeType::rect));
-        });
+        for (const double at : {15.0, 60.0})
+            addStroke(document,
+                      makeStroke({{at, at}, {at + 10, at + 10}}, 3, Stroke::ShapeType::rect));
     }
 
     void choose(const Tool& tool) {
@@ -130,43 +128,35 @@ TEST(PointerGesture, DoesWithEachToolWhatAPressADragAClickAndAnInterruptionMean)
     const std::vector<Point> dot{start, start};
     const Size way{20, 10};
     const struct {
-        Tool tool;
+        std::vector<Tool> tools;
         Ending ending;
         Outcome expected;
     } cases[] = {
-        {brush, Ending::none, {.undoSteps = 1, .isDrawing = true}},
-        {brush, Ending::drag, {.newStrokes = {line}, .undoSteps = 1}},
-        {brush, Ending::click, {.undoSteps = 1}},
-        {brush, Ending::interrupt, {.newStrokes = {line}, .undoSteps = 1}},
-        {eraser, Ending::none, {.undoSteps = 1, .isDrawing = true}},
-        {eraser, Ending::drag, {.newStrokes = {line}, .undoSteps = 1}},
-        {eraser, Ending::click, {.undoSteps = 1}},
-        {eraser, Ending::interrupt, {.newStrokes = {line}, .undoSteps = 1}},
-        {shape, Ending::none, {.undoSteps = 1, .isDrawing = true}},
-        {shape, Ending::drag, {.newStrokes = {line}, .undoSteps = 1}},
-        {shape, Ending::click, {.newStrokes = {dot}, .undoSteps = 1}},
-        {shape, Ending::interrupt, {.newStrokes = {line}, .undoSteps = 1}},
-        {fill, Ending::none, {}},
-        {fill, Ending::drag, {}},
-        {fill, Ending::click, {.newLayers = 1, .undoSteps = 1}},
-        {fill, Ending::interrupt, {}},
-        {eyeDropper, Ending::none, {}},
-        {eyeDropper, Ending::drag, {}},
-        {eyeDropper, Ending::click, {.isColorPicked = true}},
-        {eyeDropper, Ending::interrupt, {}},
-        {select, Ending::none, {.undoSteps = 1, .isMoving = true, .selected = 0}},
-        {select, Ending::drag, {.undoSteps = 1, .selected = 0, .moved = way}},
-        {select, Ending::click, {.undoSteps = 1, .selected = 0}},
-        {select, Ending::interrupt, {.undoSteps = 1, .selected = 0, .moved = way}},
+        {{brush, eraser, shape}, Ending::none, {.undoSteps = 1, .isDrawing = true}},
+        {{brush, eraser, shape}, Ending::drag, {.newStrokes = {line}, .undoSteps = 1}},
+        {{brush, eraser, shape}, Ending::interrupt, {.newStrokes = {line}, .undoSteps = 1}},
+        {{brush, eraser}, Ending::click, {.undoSteps = 1}},
+        {{shape}, Ending::click, {.newStrokes = {dot}, .undoSteps = 1}},
+        {{fill, eyeDropper}, Ending::none, {}},
+        {{fill, eyeDropper}, Ending::drag, {}},
+        {{fill, eyeDropper}, Ending::interrupt, {}},
+        {{fill}, Ending::click, {.newLayers = 1, .undoSteps = 1}},
+        {{eyeDropper}, Ending::click, {.isColorPicked = true}},
+        {{select}, Ending::none, {.undoSteps = 1, .isMoving = true, .selected = 0}},
+        {{select}, Ending::drag, {.undoSteps = 1, .selected = 0, .moved = way}},
+        {{select}, Ending::click, {.undoSteps = 1, .selected = 0}},
+        {{select}, Ending::interrupt, {.undoSteps = 1, .selected = 0, .moved = way}},
     };
-    for (const auto& [tool, ending, expected] : cases) {
-        SCOPED_TRACE(std::string(tool.name) + ", ending " + std::to_string(int(ending)));
-        Hand hand;
-        hand.choose(tool);
-        hand.gesture.begin(start);
-        hand.finish(ending);
-        EXPECT_EQ(hand.gesture.isActive(), ending == Ending::none);
-        EXPECT_EQ(hand.outcome(), expected);
+    for (const auto& [usedTools, ending, expected] : cases) {
+        for (const Tool& tool : usedTools) {
+            SCOPED_TRACE(std::string(tool.name) + ", ending " + std::to_string(int(ending)));
+            Hand hand;
+            hand.choose(tool);
+            hand.gesture.begin(start);
+            hand.finish(ending);
+            EXPECT_EQ(hand.gesture.isActive(), ending == Ending::none);
+            EXPECT_EQ(hand.outcome(), expected);
+        }
     }
 }
 
@@ -235,7 +225,7 @@ TEST(PointerGesture, EndsAMoveWithWhatItMovesAndLeavesTheNextStrokeAlone) {
     }
 }
 
-TEST(PointerGesture, AMoveGoesOnWhileItsLayerIsHidden) {
+TEST(PointerGesture, AMoveContinuesWhileItsLayerIsHidden) {
     Hand hand;
     hand.choose(select);
     hand.gesture.begin(start);

@@ -53,7 +53,7 @@ TEST(SimplifyPath, KeepsTheEarliestOfManyEquallyFarPoints) {
     for (int trial = 0; trial < 100; ++trial) {
         Points path;
         const int side = within(random, 1, 4);
-        for (int i = within(random, 3, 700); i > 0; --i) {
+        for (int i = within(random, 1, trial < 50 ? 5 : 700); i > 0; --i) {
             path.push_back({within(random, 0, side), within(random, 0, side)});
         }
         expectPointsOfTheDefinition(path);
@@ -61,25 +61,12 @@ TEST(SimplifyPath, KeepsTheEarliestOfManyEquallyFarPoints) {
     }
 }
 
-TEST(SimplifyPath, LeavesTwoPointsOfALineAndFewerThanThreeAlone) {
-    Points line;
-    for (int i = 0; i < 500; ++i)
-        line.push_back({3 * i, -2 * i});
-    EXPECT_EQ(simplifyPath(line, 0), (Points{line.front(), line.back()}));
-    EXPECT_EQ(simplifyPath(Points(500, {7, 7}), 0), (Points(2, {7, 7})));
-    for (const Points& path : {Points{}, Points{{1, 2}}, Points{{1, 2}, {1, 2}}}) {
-        EXPECT_EQ(simplifyPath(path, 2), path);
-    }
-    // The line through both ends goes on beyond them: the excursion is not far from it.
-    EXPECT_EQ(simplifyPath(Points{{0, 0}, {100, 0}, {10, 0}}, 2), (Points{{0, 0}, {10, 0}}));
-}
-
 TEST(SimplifyPath, RoundsAsTheDefinitionOnPathsOfEnormousExtent) {
     std::mt19937 random(7);
     for (const int extent : {(1 << 24) - 1, (1 << 24) + 1, 1 << 30}) {
         for (int trial = 0; trial < 200; ++trial) {
-            // Distances just above a power of two are coarser than the products they come from:
-            // points tie that do not before the division.
+            // Distances just above a power of two have fewer digits than the products that they
+            // are computed from: points tie only after the division.
             const int width = extent - within(random, 0, 1000);
             const int height = extent / 2 + within(random, 2, 1000);
             Points path{{0, 0}};

@@ -3,7 +3,6 @@
 #include "model/DrawingDocument.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <vector>
 
@@ -104,26 +103,26 @@ TEST_F(StrokeCapture, TheLayerActiveAtTheEndReceivesTheStroke) {
     EXPECT_FALSE(doc.currentStroke->has_value());
 }
 
-TEST_F(StrokeCapture, PublishesTheStrokeInItsLayerBeforeItLeavesTheHand) {
-    std::vector<P> told;
-    Reader reader(doc.changeRegistry(), [&](P property) { told.push_back(property); });
+TEST_F(StrokeCapture, PublishesTheLayersBeforeTheStrokeInProgress) {
+    std::vector<P> published;
+    Reader reader(doc.changeRegistry(), [&](P property) { published.push_back(property); });
     reader.observe([&] {
         (void)*doc.layers, (void)*doc.activeLayerIndex, (void)*doc.currentStroke;
         (void)doc.canUndo(), (void)doc.canRedo();
     });
     addPointToStroke(doc, {1, 1});
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(published.empty());
     beginStroke(doc, {0, 0});
-    EXPECT_THAT(told, ElementsAre(P::layers, P::undoStack, P::redoStack, P::currentStroke));
-    told.clear();
+    EXPECT_THAT(published, ElementsAre(P::layers, P::undoStack, P::redoStack, P::currentStroke));
+    published.clear();
     addPointToStroke(doc, {1, 1});
-    EXPECT_THAT(told, ElementsAre(P::currentStroke));
-    told.clear();
+    EXPECT_THAT(published, ElementsAre(P::currentStroke));
+    published.clear();
     endStroke(doc);
-    EXPECT_THAT(told, ElementsAre(P::layers, P::currentStroke));
-    told.clear();
+    EXPECT_THAT(published, ElementsAre(P::layers, P::currentStroke));
+    published.clear();
     endStroke(doc);
-    EXPECT_THAT(told, ElementsAre(P::currentStroke));
+    EXPECT_THAT(published, ElementsAre(P::currentStroke));
 }
 
 TEST_F(StrokeCapture, AHeldCopyOfTheStrokeInProgressStaysAsItWas) {

@@ -40,7 +40,7 @@ void expectOutlineOfTheDefinition(const Region& region) {
 TEST(TraceBoundary, FollowsTheDefinitionAroundRegionsOfEveryKind) {
     std::mt19937 random(4);
     for (const Region& region : fillpictures::variousRegions(random)) {
-        // As it is, in many pieces or none, and the one piece that a click would find.
+        // The whole region, which may have many pieces or none, and the piece around a cell.
         expectOutlineOfTheDefinition(region);
         const GridPoint seed{static_cast<int>(random() % region.width()),
                              static_cast<int>(random() % region.height())};
@@ -59,25 +59,10 @@ TEST(TraceBoundary, FollowsTheDefinitionAroundEverySmallRegion) {
     }
 }
 
-TEST(TraceBoundary, RunsAnticlockwiseFromTheTopOfTheLeftmostColumn) {
-    EXPECT_THAT(traceOutline(block(4, 4, 9, 7)),
-                ElementsAre(GridPoint{0, 3}, GridPoint{0, 2}, GridPoint{0, 1}, GridPoint{0, 0},
-                            GridPoint{1, 0}, GridPoint{2, 0}, GridPoint{3, 0}, GridPoint{3, 1},
-                            GridPoint{3, 2}, GridPoint{3, 3}, GridPoint{2, 3}, GridPoint{1, 3}));
-    EXPECT_THAT(traceBoundary(block(4, 4, 9, 7)),
-                ElementsAre(GridPoint{0, 3}, GridPoint{0, 0}, GridPoint{3, 0}, GridPoint{1, 3}));
-}
-
 TEST(TraceBoundary, GivesTheSameVerticesInAnEnormousGrid) {
     const int enormous = static_cast<int>(Chord::exactExtent) + 1;
     EXPECT_EQ(traceBoundary(block(30, 4, enormous, 4)), traceBoundary(block(30, 4, 40, 4)));
     EXPECT_THAT(traceBoundary(block(1, 2, enormous, 4)), SizeIs(2));
-}
-
-TEST(TraceBoundary, StopsWhenTheOutlineOutgrowsTheGrid) {
-    EXPECT_THAT(traceOutline(block(5, 1, 5, 1)),
-                ElementsAre(GridPoint{0, 0}, GridPoint{1, 0}, GridPoint{2, 0}, GridPoint{3, 0},
-                            GridPoint{4, 0}, GridPoint{3, 0}));
 }
 
 TEST(BoundingRectangle, JoinsTheOutermostCellsAndClosesItself) {

@@ -16,7 +16,7 @@
 namespace marlevo {
 namespace {
 
-TEST(Drawing, WhatTheToolsMakeIsThePictureThatAFileBringsBack) {
+TEST(Drawing, APictureMadeByTheToolsIsTheSameAfterSavingAndOpening) {
     DrawingDocument drawn;
     drawn.canvasSize = CanvasSize{120, 90};
     drawn.isShapeTool = true;
