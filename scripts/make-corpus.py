@@ -41,6 +41,12 @@ def seeds():
                                          bgColorR=2**70, bgColorG=-0.0), **dense)
     yield "mark", "\ufeff" + json.dumps(document(), **dense)
     yield "version", json.dumps(document()).replace('"version": 1', '"version": 10e-1')
+    for number, value in enumerate([1, "x", None, True, [1], {"x": 1}]):
+        stroke = dict.fromkeys(STROKE, value)
+        layer = dict.fromkeys([*LAYER, "imageData"], value)
+        yield f"stroke-of-{number}", json.dumps(document(LAYER | {"strokes": [stroke]}), **dense)
+        yield f"layer-of-{number}", json.dumps(document(layer), **dense)
+        yield f"document-of-{number}", json.dumps(dict.fromkeys(DOCUMENT, value), **dense)
     yield "twice", json.dumps(document()).replace('"layers"', '"layers": [0], "layers"')
 
 

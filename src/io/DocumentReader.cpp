@@ -265,7 +265,7 @@ private:
         const auto raw = JsonSyntax::leadingString(textFrom(value));
         if (!raw) return broken(simdjson::STRING_ERROR);
         string = JsonSyntax::unescape(*raw);
-        return true;
+        return consumeString(value);
     }
 
     bool readValue(ondemand::value value, std::optional<Bytes>& bytes, std::size_t depth) {
@@ -279,14 +279,23 @@ private:
         // the first quote is its end. A text with escapes ("\/") is copied and unescaped first.
         const std::string_view text = textFrom(value).substr(1);
         auto decoded = decodeBase64(text.substr(0, text.find('"')));
-        if (!decoded) {
-            std::string string;
-            if (!readValue(value, string, depth)) return false;
-            decoded = decodeBase64(string);
+        if (decoded) {
+            bytes = Bytes(std::move(*decoded));
+            return consumeString(value);
         }
+        std::string string;
+        if (!readValue(value, string, depth)) return false;
+        decoded = decodeBase64(string);
         if (!decoded) return problem("the text is not valid base64");
         bytes = Bytes(std::move(*decoded));
         return true;
+    }
+
+    /// Moves the parser behind a string that was read from the text. A parser that skips the string
+    /// itself takes it for a key if a colon follows, and accepts what is not JSON.
+    bool consumeString(ondemand::value& value) {
+        const auto error = value.get_raw_json_string().error();
+        return error == simdjson::SUCCESS || broken(error);
     }
 
     // ---- Text and errors ------------------------------------------------------------------------

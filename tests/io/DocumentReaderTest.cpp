@@ -178,6 +178,13 @@ TEST(DocumentReader, reportsLineAndColumnOfMalformedText) {
          "x[2]: line 2, column 24: ',' or '}' was expected"},
         {"\"version\"", "\"x\" : 1=0, \"version\"", "line 2, column 10: ',' or '}' was expected"},
         {"\"version\"", "\"x\" : tru, \"version\"", "x: line 2, column 9: a value was expected"},
+        {"\"Background\",", "\"Background\":],",
+         "layers[0]: line 12, column 28: ',' or '}' was expected"},
+        {"\"Background\",", "\"x\" : \"opacity\" : 1 \"y\",",
+         "layers[0]: line 12, column 20: ',' or '}' was expected"},
+        {"\"line\"", "\"line\":}} ]",
+         "layers[0].strokes[0]: line 26, column 31: ',' or '}' was expected"},
+        {"Ggo=\"", "Ggo=\":]", "layers[1]: line 34, column 35: ',' or '}' was expected"},
         {"\n}\n", "\n} {}", "line 38, column 3: something follows the document's end"},
         {"\n}\n", "\n", "line 38, column 1: ',' or '}' was expected"},
     };
