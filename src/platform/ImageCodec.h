@@ -16,7 +16,7 @@ public:
 
     virtual ~ImageCodec() = default;
 
-    /// Decodes an image file of any format that the desktop reads. The result is upright: the
+    /// Decodes an image file. The implementation names the formats. The result is upright: the
     /// file's orientation is applied. Nothing if the bytes are not an image, or if it has more than
     /// `maxDecodedPixels`.
     virtual std::optional<RasterImage> decode(std::span<const std::uint8_t> file) const = 0;
@@ -26,8 +26,8 @@ public:
     virtual std::optional<std::vector<std::uint8_t>> encode(const RasterImage& image,
                                                             Format format) const = 0;
 
-    /// 256 megapixels: 1 GiB of pixels.
-    static constexpr std::int64_t maxDecodedPixels = std::int64_t{1} << 28;
+    /// 128 megapixels: 512 MiB of pixels. Photographs of 108 megapixels exist.
+    static constexpr std::int64_t maxDecodedPixels = std::int64_t{1} << 27;
 };
 
 }  // namespace marlevo

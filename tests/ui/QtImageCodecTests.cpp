@@ -2,13 +2,18 @@
 
 #include <QBuffer>
 #include <QColorSpace>
+#include <QDir>
 #include <QImage>
 #include <QImageWriter>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
 
 #include <algorithm>
+#include <array>
+#include <sys/inotify.h>
 #include <unistd.h>
+#include <utility>
 
 using namespace marlevo;
 
@@ -37,6 +42,14 @@ std::vector<std::uint8_t> fileOf(const QImage& image, const char* format,
     if (!writer.write(image)) qFatal("cannot write %s", format);
     return {device.data().begin(), device.data().end()};
 }
+
+QByteArray svg(const QByteArray& contents) {
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+           "width='9' height='9'>" +
+           contents + "</svg>";
+}
+
+std::vector<std::uint8_t> bytesOf(const QByteArray& text) { return {text.begin(), text.end()}; }
 
 std::vector<int> pixel(const RasterImage& image, int x, int y) {
     const auto bytes = image.pixel(x, y);
@@ -115,10 +128,84 @@ private Q_SLOTS:
 
     void tooManyPixelsAreRefused() {
         // Small as a file and, one bit a pixel, also for the reader; not for us.
-        QImage image(16400, 16400, QImage::Format_Mono);
+        QImage image(11600, 11600, QImage::Format_Mono);
         image.fill(0);
-        QVERIFY(!codec.decode(fileOf(image, "png")));
+        const auto png = fileOf(image, "png");
+        QVERIFY(!codec.decode(png));
         QVERIFY(codec.decode(fileOf(image.copy(0, 0, 400, 400), "png")));
+
+        // The header of an icon says 256 x 256, whatever the picture inside.
+        std::vector<std::uint8_t> icon{0, 0, 1, 0, 1, 0, 0, 0, 0, 0, 1, 0, 1, 0};
+        for (const std::size_t number : {png.size(), std::size_t{22}}) {
+            for (int shift = 0; shift < 32; shift += 8)
+                icon.push_back(static_cast<std::uint8_t>(number >> shift));
+        }
+        icon.insert(icon.end(), png.begin(), png.end());
+        QVERIFY(!codec.decode(icon));
+    }
+
+    void drawingsUseOnlyThemselves() {
+        const QByteArray drawing = svg("<defs><linearGradient id='g'><stop stop-color='#00f'/>"
+                                       "</linearGradient><rect id='r' width='9' height='9'/></defs>"
+                                       "<use xlink:href='#r' style='fill: url(#g)'/>");
+        const auto decoded = codec.decode(bytesOf(drawing));
+        QCOMPARE(pixel(decoded.value(), 5, 5), (std::vector{255, 0, 0, 255}));
+    }
+
+    void drawingsReachNoFile() {
+        QTemporaryDir folder;
+        const QString photo = folder.filePath("photo.png");
+        QImage(9, 9, QImage::Format_RGB32).save(photo);
+        const QByteArray path = photo.toUtf8();
+        const QByteArray image = "<image width='9' height='9' xlink:href='" + path + "'/>";
+        const QByteArray rect = "<rect width='9' height='9'/>";
+        const QByteArray style = "rect { fill: red }";
+        const std::pair<const char*, QByteArray> drawings[] = {
+            {"image", svg(image)},
+            {"relative image", svg("<image width='9' height='9' href='photo.png'/>")},
+            {"drawing within", svg("<image width='9' height='9' xlink:href='data:image/svg+xml;"
+                                   "base64," +
+                                   svg(image).toBase64() + "'/>")},
+            {"entity", "<!DOCTYPE svg [<!ENTITY e '" + path + "'>]>" + svg(rect)},
+            {"style sheet", "<?xml-stylesheet type='text/css' href='" + path + "'?>" + svg(rect)},
+            {"import", svg("<style>@import '" + path + "';" + style + "</style>" + rect)},
+            {"escape", svg("<style>rect { fill: u\\72l(" + path + ") }</style>" + rect)},
+            {"address", svg("<rect width='9' height='9' style='fill: url( \"" + path + "\")'/>")},
+            {"use of a file", svg("<use xlink:href='" + path + "#r'/>")},
+            {"packed", qCompress(svg(rect)).sliced(4).prepend("\x1f\x8b")},
+        };
+        const int opened = inotify_init1(IN_NONBLOCK);
+        inotify_add_watch(opened, path.constData(), IN_OPEN);
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(folder.path());
+        for (const auto& [what, drawing] : drawings) {
+            QVERIFY2(!codec.decode(bytesOf(drawing)), what);
+            std::array<char, 512> event{};
+            QVERIFY2(::read(opened, event.data(), event.size()) < 0, what);
+        }
+        QDir::setCurrent(before);
+        ::close(opened);
+    }
+
+    void drawingsHaveBounds() {
+        const QByteArray rect = "<rect width='9' height='9'/>";
+        QVERIFY(codec.decode(bytesOf(svg(rect.repeated(9'000)))));
+        QVERIFY(!codec.decode(bytesOf(svg(rect.repeated(11'000)))));
+        const QByteArray group = "<g id='a'>" + rect.repeated(200) + "</g>";
+        const QByteArray use = "<use xlink:href='#a'/>";
+        QVERIFY(codec.decode(bytesOf(svg(group + use.repeated(40)))));
+        QVERIFY(!codec.decode(bytesOf(svg(group + use.repeated(60)))));
+        QVERIFY(!codec.decode(bytesOf(svg("<g id='a'><use xlink:href='#b'/></g>"
+                                          "<g id='b'>" +
+                                          use + "</g>"))));
+        const auto nested = [](int depth) {
+            return svg(QByteArray("<g>").repeated(depth) + QByteArray("</g>").repeated(depth));
+        };
+        QVERIFY(codec.decode(bytesOf(nested(250))));
+        QVERIFY(!codec.decode(bytesOf(nested(260))));
+        const auto large =
+            codec.decode(bytesOf("<svg width='16000' height='16000'>" + rect + "</svg>"));
+        QCOMPARE(large.value().width(), 4096);
     }
 
     void damagedPicturesPrintNothing() {
@@ -129,13 +216,10 @@ private Q_SLOTS:
         const RasterImage image = everyPremultipliedPixel();
         auto badHeader = codec.encode(image, Format::png).value();
         badHeader[20] ^= 1;
-        const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
-                                   "<use xlink:href='#none'/></svg>";
+        const auto drawing = bytesOf(svg("<use xlink:href='#none'/>"));
         const std::vector<std::vector<std::uint8_t>> files{
-            badHeader,
-            broken(codec.encode(image, Format::tiff).value(), 900),
-            broken(codec.encode(image, Format::bmp).value(), 40),
-            {drawing.begin(), drawing.end()}};
+            badHeader, broken(codec.encode(image, Format::tiff).value(), 900),
+            broken(codec.encode(image, Format::bmp).value(), 40), drawing};
 
         QTemporaryFile errors;
         QVERIFY(errors.open());

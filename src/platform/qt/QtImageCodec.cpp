@@ -2,12 +2,18 @@
 
 #include "platform/MutedStandardError.h"
 #include "platform/qt/QtImages.h"
+#include "platform/qt/SvgImage.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 namespace marlevo {
 
@@ -19,6 +25,27 @@ bool exceedsLimit(QSize size) {
     return std::int64_t{size.width()} * size.height() > ImageCodec::maxDecodedPixels;
 }
 
+/// The plug-ins of other packages may reach further than these formats do.
+bool isAllowed(const QByteArray& format) {
+    constexpr std::array<std::string_view, 11> allowed{"png", "jpeg", "tiff", "bmp",  "gif", "webp",
+                                                       "ico", "avif", "heif", "heic", "jxl"};
+    return std::ranges::find(allowed, format.toStdString()) != allowed.end();
+}
+
+QImage decodedImage(QByteArray file) {
+    QBuffer device(&file);
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    // Before all else: a handler may open files as soon as it is asked for the size.
+    const QByteArray format = reader.format();
+    if (format == "svg") return svgImage(file);
+    // The size in the file's header, before memory is allocated. For formats without one, and for
+    // pictures inside a container, the allocation limit applies.
+    if (!isAllowed(format) || exceedsLimit(reader.size())) return {};
+    return reader.read();
+}
+
 }  // namespace
 
 QtImageCodec::QtImageCodec() {
@@ -28,25 +55,17 @@ QtImageCodec::QtImageCodec() {
 }
 
 std::optional<RasterImage> QtImageCodec::decode(std::span<const std::uint8_t> file) const {
-    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
-                                               static_cast<qsizetype>(file.size()));
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
+                                                     static_cast<qsizetype>(file.size()));
     // A damaged picture is no reason for messages: neither the toolkit's nor its libraries' own.
     const MutedStandardError muted;
-    QBuffer device(&bytes);
-    QImageReader reader(&device);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    // The size in the file's header, before memory is allocated. For formats without one the
-    // allocation limit applies.
-    if (exceedsLimit(reader.size())) return std::nullopt;
-
-    QImage image = reader.read();
+    QImage image = decodedImage(bytes);
     if (image.isNull() || exceedsLimit(image.size())) return std::nullopt;
     if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace::SRgb)
         image.convertToColorSpace(QColorSpace::SRgb);
     image.convertTo(QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return std::nullopt;
-    return rasterFrom(image);
+    return rasterFrom(std::move(image));
 }
 
 std::optional<std::vector<std::uint8_t>> QtImageCodec::encode(const RasterImage& raster,

@@ -4,7 +4,10 @@
 
 namespace marlevo {
 
-/// Image files through Qt's readers and writers, with the plug-ins that are installed.
+/// Image files through Qt's readers and writers.
+///
+/// Decodes PNG, JPEG, TIFF, BMP, GIF, WebP, ICO and SVG; AVIF, HEIF and JPEG XL where their
+/// plug-ins are installed. The plug-ins of other formats are not used. Decoding opens no file.
 ///
 /// Decoding converts pictures with another colour profile to sRGB, and decodes only the first
 /// picture of an animation. It prints nothing.
@@ -14,7 +17,7 @@ namespace marlevo {
 /// Qt's writer offers no other.
 class QtImageCodec final : public ImageCodec {
 public:
-    /// Raises Qt's process-wide limit of memory for one decoded picture to `maxDecodedPixels`. The
+    /// Sets Qt's process-wide limit of memory for one decoded picture to `maxDecodedPixels`. The
     /// first codec of the program also replaces `stderr` (MutedStandardError.h).
     QtImageCodec();
 

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QtEndian>
 
+#include <memory>
+
 namespace marlevo {
 
 namespace {
@@ -17,14 +19,16 @@ void setPixelsToPoints(QImage& image) {
 }  // namespace
 
 // QRgb is 0xAARRGGBB: its big-endian bytes have the order of RasterImage.
-RasterImage rasterFrom(const QImage& image) {
-    const auto width = static_cast<std::size_t>(image.width());
-    std::vector<std::uint8_t> bytes(width * static_cast<std::size_t>(image.height()) *
-                                    RasterImage::bytesPerPixel);
-    std::uint8_t* row = bytes.data();
-    for (int y = 0; y < image.height(); ++y, row += width * RasterImage::bytesPerPixel)
-        qToBigEndian<quint32>(image.constScanLine(y), image.width(), row);
-    return {image.width(), image.height(), std::move(bytes)};
+RasterImage rasterFrom(QImage image) {
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* const row = image.scanLine(y);
+        qToBigEndian<quint32>(row, image.width(), row);
+    }
+    const int width = image.width();
+    const int height = image.height();
+    const auto owner = std::make_shared<const QImage>(std::move(image));
+    const std::span bytes(owner->constBits(), static_cast<std::size_t>(owner->sizeInBytes()));
+    return {width, height, bytes, owner};
 }
 
 QImage qImageFrom(const RasterImage& raster) {
