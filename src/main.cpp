@@ -11,6 +11,7 @@
 #include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtSleepingClock.h"
 #include "platform/qt/QtStrings.h"
+#include "platform/qt/TerminationSignals.h"
 #include "ui/controls/Icons.h"
 #include "ui/controls/MarlevoStyle.h"
 #include "ui/windows/MarlevoApp.h"
@@ -19,6 +20,7 @@
 #include <QApplication>
 
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <span>
 #include <vector>
@@ -35,6 +37,14 @@ std::vector<std::filesystem::path> drawingsToOpen(std::span<const char* const> a
         files.push_back(marlevo::pathOfFileAddress(argument).value_or(error ? argument : path));
     }
     return files;
+}
+
+/// The application, while it runs.
+marlevo::MarlevoApp* running = nullptr;
+
+/// The toolkit calls exit() when the display is gone. Else `running` is null by now.
+void saveAtExit() {
+    if (running) running->saveBeforeEnd();
 }
 
 }  // namespace
@@ -84,5 +94,10 @@ int main(int argc, char* argv[]) {
                              .strings = &strings});
     // The application has removed the toolkit's own options from the arguments.
     app.openWindows(drawingsToOpen(std::span(argv, static_cast<std::size_t>(argc))));
-    return QApplication::exec();
+    const marlevo::TerminationSignals signals([&app] { app.saveBeforeEnd(); });
+    running = &app;
+    std::atexit(saveAtExit);
+    const int status = QApplication::exec();
+    running = nullptr;
+    return status;
 }

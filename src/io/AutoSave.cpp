@@ -12,14 +12,17 @@ AutoSave::AutoSave(DrawingDocument& document) : document_(document) {
 }
 
 void AutoSave::sleep() {
-    sleep_ = document_.services().sleepingClock->sleep(interval, [this] { runCycle(); });
+    sleep_ = document_.services().sleepingClock->sleep(interval, [this] {
+        runCycle();
+        sleep();
+    });
 }
 
 void AutoSave::runCycle() {
-    const bool isEnabled = document_.services().preferences->get(preference::autoSaveEnabled);
+    const Preferences* const preferences = document_.services().preferences;
+    const bool isEnabled = preferences && preferences->get(preference::autoSaveEnabled);
     const std::optional<std::filesystem::path> file = document_.currentFileURL;
     if (isEnabled && file) writeDocument(document_, *file);
-    sleep();
 }
 
 }  // namespace marlevo

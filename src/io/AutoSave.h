@@ -22,9 +22,11 @@ public:
     AutoSave(const AutoSave&) = delete;
     AutoSave& operator=(const AutoSave&) = delete;
 
+    /// One cycle now, without a change of the next one's time.
+    void runCycle();
+
 private:
     void sleep();
-    void runCycle();
 
     DrawingDocument& document_;
     std::unique_ptr<SleepingClock::Sleep> sleep_;

@@ -1,12 +1,20 @@
 #include "platform/WorkQueue.h"
 
+#include <future>
+#include <system_error>
 #include <utility>
 
 namespace marlevo {
 
-WorkQueue::WorkQueue(AtEnd atEnd) : atEnd_(atEnd), thread_([state = state_] { run(*state); }) {}
+WorkQueue::WorkQueue(AtEnd atEnd) : atEnd_(atEnd) {
+    try {
+        thread_ = std::thread([state = state_] { run(*state); });
+    } catch (const std::system_error&) {
+    }
+}
 
 WorkQueue::~WorkQueue() {
+    if (!thread_.joinable()) return;
     {
         const std::lock_guard lock(state_->mutex);
         state_->isClosing = true;
@@ -19,11 +27,19 @@ WorkQueue::~WorkQueue() {
 }
 
 void WorkQueue::post(std::function<void()> work) {
+    if (!thread_.joinable()) return work();
     {
         const std::lock_guard lock(state_->mutex);
         state_->waiting.push(std::move(work));
     }
     state_->changed.notify_one();
+}
+
+bool WorkQueue::waitFor(std::chrono::milliseconds limit) {
+    // Shared, because the work may be done after the limit.
+    const auto done = std::make_shared<std::promise<void>>();
+    post([done] { done->set_value(); });
+    return done->get_future().wait_for(limit) == std::future_status::ready;
 }
 
 void WorkQueue::run(State& state) {

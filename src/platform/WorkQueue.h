@@ -2,6 +2,7 @@
 
 #include <queue>
 
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -21,7 +22,7 @@ public:
         detach  ///< returns at once; neither the caller nor the program's end waits for the thread
     };
 
-    /// Throws std::system_error when the system has no thread left.
+    /// When the system has no thread left, the queue does all work within post().
     explicit WorkQueue(AtEnd atEnd = AtEnd::wait);
     ~WorkQueue();
     WorkQueue(const WorkQueue&) = delete;
@@ -29,6 +30,10 @@ public:
 
     /// Callable on any thread, also from within the work.
     void post(std::function<void()> work);
+
+    /// Waits until the work posted before is done, at most for `limit`. Returns true if it is. Not
+    /// from within the work.
+    bool waitFor(std::chrono::milliseconds limit);
 
 private:
     /// Shared with the thread, which may outlive the queue.

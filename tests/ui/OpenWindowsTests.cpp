@@ -1,3 +1,4 @@
+#include "io/Open.h"
 #include "io/Save.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/ui/RunningApp.h"
@@ -59,6 +60,27 @@ private Q_SLOTS:
         QVERIFY(app.documentWindows().front()->content().showNewCanvas());
         QVERIFY(!app.documentWindows().front()->document().currentFileURL.get());
         QCOMPARE(console.lines.size(), std::size_t(2));
+    }
+
+    void anEndOfTheProgramSavesWhatHasAFile() {
+        writeDrawing("a.marlevo", 1);
+        const auto strokesInFile = [&] {
+            DrawingDocument copy;
+            replacePicture(copy, loadDrawing(folder_ / "a.marlevo", nullptr).value(), {});
+            return strokeCount(copy.layers);
+        };
+        RunningApp s;
+        s.openWindow();
+        replacePicture(s.document, loadDrawing(folder_ / "a.marlevo", nullptr).value(),
+                       folder_ / "a.marlevo");
+        QTest::mousePress(&s.window.canvasView(), Qt::LeftButton, {}, {100, 100});
+        QTest::mouseMove(&s.window.canvasView(), {150, 150});
+        s.preferences.set(preference::autoSaveEnabled, false);
+        s.app.saveBeforeEnd();
+        QCOMPARE(strokesInFile(), std::size_t(1));
+        s.preferences.set(preference::autoSaveEnabled, true);
+        s.app.saveBeforeEnd();
+        QCOMPARE(strokesInFile(), std::size_t(2));
     }
 
 private:

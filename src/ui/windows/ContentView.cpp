@@ -66,6 +66,11 @@ void ContentView::fitToWindow() {
     document_.zoom = std::max(minZoom, document_.zoom.get());
 }
 
+void ContentView::saveBeforeEnd() {
+    canvas_.view().interruptGesture();
+    if (autoSave_) autoSave_->runCycle();
+}
+
 // Not by a focus proxy, which takes all widgets before the canvas out of the chain of Tab.
 void ContentView::focusInEvent(QFocusEvent* event) { canvas_.setFocus(event->reason()); }
 

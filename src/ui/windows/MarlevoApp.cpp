@@ -1,6 +1,7 @@
 #include "ui/windows/MarlevoApp.h"
 
 #include "io/Open.h"
+#include "platform/WorkQueue.h"
 #include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
 #include "ui/windows/SettingsWindow.h"
@@ -75,6 +76,12 @@ void MarlevoApp::showSettings() {
 void MarlevoApp::quit() {
     isQuitting_ = true;
     closeNextWindow();
+}
+
+void MarlevoApp::saveBeforeEnd() {
+    for (DocumentWindow* const window : documentWindows())
+        window->content().saveBeforeEnd();
+    if (services_.flushQueue) services_.flushQueue->waitFor(std::chrono::seconds(5));
 }
 
 /// A window's panels count as the window. The focus of another program changes nothing, nor does a

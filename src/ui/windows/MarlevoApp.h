@@ -59,6 +59,10 @@ public:
     /// closed it, and stops at the first that the user keeps.
     void quit();
 
+    /// Saves the drawings of all windows as auto-save does, without a question, and waits for the
+    /// disk for at most five seconds. For an end of the program that cannot be refused.
+    void saveBeforeEnd();
+
 private:
     void focusFollows(const QWindow* focused);
     void focus(DocumentWindow& window);
