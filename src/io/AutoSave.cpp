@@ -18,11 +18,16 @@ void AutoSave::sleep() {
     });
 }
 
-void AutoSave::runCycle() {
+bool AutoSave::isOn() const {
     const Preferences* const preferences = document_.services().preferences;
-    const bool isEnabled = preferences && preferences->get(preference::autoSaveEnabled);
-    const std::optional<std::filesystem::path> file = document_.currentFileURL;
-    if (isEnabled && file) writeDocument(document_, *file);
+    return document_.currentFileURL.get() && preferences &&
+           preferences->get(preference::autoSaveEnabled);
+}
+
+void AutoSave::runCycle() {
+    if (!isOn()) return;
+    const std::filesystem::path file = *document_.currentFileURL.get();
+    writeDocument(document_, file);
 }
 
 }  // namespace marlevo

@@ -22,6 +22,9 @@ public:
     AutoSave(const AutoSave&) = delete;
     AutoSave& operator=(const AutoSave&) = delete;
 
+    /// True if a cycle writes the document.
+    bool isOn() const;
+
     /// One cycle now, without a change of the next one's time.
     void runCycle();
 

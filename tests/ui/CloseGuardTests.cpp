@@ -129,6 +129,32 @@ private Q_SLOTS:
         QVERIFY(!s.window.content().closeGuard().shouldSkipClose());
     }
 
+    void theSessionsEndAsksForDrawingsWithoutAFile() {
+        Setting s;
+        const TemporaryFolder folder;
+        s.preferences.set(preference::autoSaveEnabled, true);
+        drawStroke(s.document);
+        DocumentWindow& saved = s.openWindow();
+        drawStroke(saved.document());
+        saved.document().currentFileURL = folder / "saved.marlevo";
+        const auto mayEnd = [&](const char* title) {
+            QMetaObject::invokeMethod(
+                &saved, [&s, title] { answer(s.window, title); }, Qt::QueuedConnection);
+            return s.app.closeUnsavedDrawings();
+        };
+        QVERIFY(!mayEnd("Cancel"));
+        QVERIFY(s.open);
+        QVERIFY(mayEnd("Don't Save"));
+        QTRY_VERIFY(!s.open);
+        QVERIFY(saved.isVisible());
+
+        QPointer<DocumentWindow> open = &saved;
+        QEvent quit(QEvent::Quit);
+        QCoreApplication::sendEvent(qApp, &quit);
+        QTRY_VERIFY(!open);
+        QVERIFY(std::filesystem::exists(folder / "saved.marlevo"));
+    }
+
     void dontSaveClosesTheWindow() {
         Setting s;
         s.drawAndClose();

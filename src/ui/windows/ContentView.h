@@ -45,6 +45,9 @@ public:
     /// range of the zoom. Does nothing without an active window.
     void fitToWindow();
 
+    /// True if auto-save keeps the drawing.
+    bool isAutoSaved() const { return autoSave_ && autoSave_->isOn(); }
+
     /// Ends the gesture on the canvas and saves as auto-save does: before the program is ended.
     void saveBeforeEnd();
 

@@ -7,12 +7,18 @@
 #include "ui/windows/SettingsWindow.h"
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QSessionManager>
 #include <QWindow>
 
 namespace marlevo {
 
 MarlevoApp::MarlevoApp(const Services& services) : services_(services) {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &MarlevoApp::focusFollows);
+    // Direct, since the session waits for the return only.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &MarlevoApp::commitSession,
+            Qt::DirectConnection);
+    qApp->installEventFilter(this);
 }
 
 MarlevoApp::~MarlevoApp() {
@@ -82,6 +88,41 @@ void MarlevoApp::saveBeforeEnd() {
     for (DocumentWindow* const window : documentWindows())
         window->content().saveBeforeEnd();
     if (services_.flushQueue) services_.flushQueue->waitFor(std::chrono::seconds(5));
+}
+
+bool MarlevoApp::closeUnsavedDrawings() {
+    for (DocumentWindow* const window : documentWindows()) {
+        if (window->content().isAutoSaved() || strokeCount(window->document().layers) == 0)
+            continue;
+        QEventLoop answer;
+        bool isKept = false;
+        connect(window, &DocumentWindow::kept, &answer, [&] {
+            isKept = true;
+            answer.quit();
+        });
+        const QPointer<DocumentWindow> open(window);
+        connect(window, &DocumentWindow::closed, &answer, &QEventLoop::quit);
+        window->closeDismissingPanels();
+        if (open && open->isVisible()) answer.exec();
+        if (isKept) return false;
+    }
+    return true;
+}
+
+void MarlevoApp::commitSession(QSessionManager& manager) {
+    saveBeforeEnd();
+    if (!manager.allowsInteraction()) return;
+    if (!closeUnsavedDrawings()) manager.cancel();
+    manager.release();
+}
+
+bool MarlevoApp::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == qApp && event->type() == QEvent::Quit) {
+        saveBeforeEnd();
+        for (DocumentWindow* const window : documentWindows())
+            if (window->content().isAutoSaved()) window->content().closeGuard().skipClose();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 /// A window's panels count as the window. The focus of another program changes nothing, nor does a

@@ -11,6 +11,7 @@
 #include <span>
 #include <vector>
 
+class QSessionManager;
 class QWindow;
 
 namespace marlevo {
@@ -63,7 +64,16 @@ public:
     /// disk for at most five seconds. For an end of the program that cannot be refused.
     void saveBeforeEnd();
 
+    /// Closes the windows whose drawings auto-save does not keep, each as if the user had closed
+    /// it, and waits for the answers. Returns false if the user keeps one.
+    bool closeUnsavedDrawings();
+
+    /// Lets the toolkit close the windows at the end of the session: without a question about a
+    /// drawing that auto-save keeps.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void commitSession(QSessionManager& manager);
     void focusFollows(const QWindow* focused);
     void focus(DocumentWindow& window);
     void forget(DocumentWindow& window);

@@ -31,6 +31,7 @@ public:
 
     /// Once true, the window closes without a question.
     bool shouldSkipClose() const { return shouldSkipClose_; }
+    void skipClose() { shouldSkipClose_ = true; }
 
     /// True if the window may close now. Otherwise a question to the user is open. Its answer
     /// closes the window, at once or after a file panel, or keeps it open.
