@@ -131,15 +131,15 @@
     <name>ToolNames</name>
     <message>
         <source>Draw</source>
-        <translation>Zeichnen</translation>
+        <translation>Zeich&#xad;nen</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation>Auswählen</translation>
+        <translation>Aus&#xad;wählen</translation>
     </message>
     <message>
         <source>Eraser</source>
-        <translation>Radierer</translation>
+        <translation>Radie&#xad;rer</translation>
     </message>
     <message>
         <source>Fill</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Drop</source>
-        <translation>Pipette</translation>
+        <translation>Pi&#xad;pette</translation>
     </message>
     <message>
         <source>Line</source>
@@ -155,11 +155,11 @@
     </message>
     <message>
         <source>Rectangle</source>
-        <translation>Rechteck</translation>
+        <translation>Recht&#xad;eck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation>Ellipse</translation>
+        <translation>El&#xad;lipse</translation>
     </message>
 </context>
 <context>
@@ -656,11 +656,11 @@
     </message>
     <message>
         <source>Background color</source>
-        <translation>Hintergrundfarbe</translation>
+        <translation>Hinter&#xad;grund&#xad;farbe</translation>
     </message>
     <message>
         <source>Transparent background</source>
-        <translation>Transparenter Hintergrund</translation>
+        <translation>Transpa&#xad;renter Hinter&#xad;grund</translation>
     </message>
 </context>
 <context>

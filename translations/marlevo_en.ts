@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>Rectangle</source>
-        <translation>Rectangle</translation>
+        <translation>Rect&#xad;angle</translation>
     </message>
     <message>
         <source>Ellipse</source>
@@ -656,11 +656,11 @@
     </message>
     <message>
         <source>Background color</source>
-        <translation>Background color</translation>
+        <translation>Back&#xad;ground color</translation>
     </message>
     <message>
         <source>Transparent background</source>
-        <translation>Transparent background</translation>
+        <translation>Trans&#xad;parent back&#xad;ground</translation>
     </message>
 </context>
 <context>

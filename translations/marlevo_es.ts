@@ -131,23 +131,23 @@
     <name>ToolNames</name>
     <message>
         <source>Draw</source>
-        <translation>Dibujar</translation>
+        <translation>Dibu&#xad;jar</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation>Seleccionar</translation>
+        <translation>Selec&#xad;cio&#xad;nar</translation>
     </message>
     <message>
         <source>Eraser</source>
-        <translation>Borrador</translation>
+        <translation>Borra&#xad;dor</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation>Rellenar</translation>
+        <translation>Relle&#xad;nar</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation>Cuentagotas</translation>
+        <translation>Cuenta&#xad;gotas</translation>
     </message>
     <message>
         <source>Line</source>
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>Rectangle</source>
-        <translation>Rectángulo</translation>
+        <translation>Rectán&#xad;gulo</translation>
     </message>
     <message>
         <source>Ellipse</source>
@@ -652,7 +652,7 @@
     <name>marlevo::ViewSection</name>
     <message>
         <source>Grid</source>
-        <translation>Cuadrícula</translation>
+        <translation>Cuadrí&#xad;cula</translation>
     </message>
     <message>
         <source>Background color</source>
@@ -660,7 +660,7 @@
     </message>
     <message>
         <source>Transparent background</source>
-        <translation>Fondo transparente</translation>
+        <translation>Fondo transpa&#xad;rente</translation>
     </message>
 </context>
 <context>

@@ -131,11 +131,11 @@
     <name>ToolNames</name>
     <message>
         <source>Draw</source>
-        <translation>Dessiner</translation>
+        <translation>Dessi&#xad;ner</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation>Sélection</translation>
+        <translation>Sélec&#xad;tion</translation>
     </message>
     <message>
         <source>Eraser</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Fill</source>
-        <translation>Remplir</translation>
+        <translation>Rem&#xad;plir</translation>
     </message>
     <message>
         <source>Drop</source>
@@ -155,11 +155,11 @@
     </message>
     <message>
         <source>Rectangle</source>
-        <translation>Rectangle</translation>
+        <translation>Rec&#xad;tangle</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation>Ellipse</translation>
+        <translation>El&#xad;lipse</translation>
     </message>
 </context>
 <context>
@@ -656,11 +656,11 @@
     </message>
     <message>
         <source>Background color</source>
-        <translation>Couleur d’arrière-plan</translation>
+        <translation>Cou&#xad;leur d’arrière-plan</translation>
     </message>
     <message>
         <source>Transparent background</source>
-        <translation>Arrière-plan transparent</translation>
+        <translation>Arrière-plan transpa&#xad;rent</translation>
     </message>
 </context>
 <context>

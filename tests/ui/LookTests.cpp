@@ -1,5 +1,4 @@
 #include "ui/controls/DistributeWidth.h"
-#include "ui/controls/ModeButtonRow.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TextLabel.h"
 
@@ -78,38 +77,6 @@ private Q_SLOTS:
         QCOMPARE(shares({10, 20}, -5), (std::vector{0, 0}));
     }
 
-    void aRowOfButtonsGivesUpItsPaddingBeforeALabel() {
-        std::vector<ModeButton*> buttons;
-        for (const char* const label : {"Line", "Rectangle", "Ellipse"})
-            buttons.push_back(new ModeButton(ModeButton::Kind::secondary, Icon::circle, label));
-        ModeButtonRow row(buttons);
-        int width = row.sizeHint().width();
-        for (const ModeButton* button : buttons)
-            width += button->tightWidth() - button->sizeHint().width();
-        row.resize(width, 30);
-        row.grab();
-        for (const ModeButton* button : buttons)
-            QCOMPARE(button->width(), button->tightWidth());
-    }
-
-    void aLabelIsShortenedOnlyWhenItDoesNotFit() {
-        TextLabel label("A rather long name of a layer", {TypeStyle::callout});
-        const auto inkRight = [&] {
-            const QImage image = label.grab().toImage();
-            int right = -1;
-            for (int x = 0; x < image.width(); ++x)
-                for (int y = 0; y < image.height(); ++y)
-                    if (image.pixelColor(x, y).lightness() < 150) right = x;
-            return right;
-        };
-        label.resize(label.sizeHint());
-        const int whole = inkRight();
-        QVERIFY(whole > label.width() - 6);
-        label.resize(label.width() / 2, label.height());
-        QVERIFY(inkRight() < label.width());
-        QVERIFY(label.minimumSizeHint().width() < label.width());
-    }
-
     void aTooltipShowsATextAsItIs() {
         for (const QString name : {"<h1>Sky", "Sky & sea", "&lt;", "5 < 6 &amp; 7"}) {
             TextLabel label(name, {TypeStyle::callout});
@@ -125,19 +92,6 @@ private Q_SLOTS:
                 read.setPlainText(shown);
             QCOMPARE(read.toPlainText().replace(QChar::Nbsp, ' '), name);
         }
-    }
-
-    void textFollowsTheDesktopsFont() {
-        const QFont before = QApplication::font();
-        QWidget window;
-        TextLabel label("Layer", {TypeStyle::caption}, &window);
-        const double small = label.font().pointSizeF();
-        QVERIFY(small < before.pointSizeF());
-        QFont larger = before;
-        larger.setPointSizeF(before.pointSizeF() * 1.5);
-        QApplication::setFont(larger);
-        QTRY_COMPARE(label.font().pointSizeF(), small * 1.5);
-        QApplication::setFont(before);
     }
 };
 

@@ -1,6 +1,8 @@
 #include "tests/ui/RunningApp.h"
+#include "tests/ui/SeenControls.h"
 #include "ui/canvas/ZoomRange.h"
 #include "ui/controls/SmallButton.h"
+#include "ui/windows/Translations.h"
 
 #include <QAccessible>
 #include <QMenuBar>
@@ -83,6 +85,35 @@ private Q_SLOTS:
         QCOMPARE(fitted({1e6, 1e6}), minZoom);
         const double height = s.window.height() - s.window.menuBar()->height();
         QCOMPARE(fitted({10, 2000}), (height - 60) / 2000);
+    }
+
+    void textsMakeRoomForTheControls() {
+        const QFont before = QApplication::font();
+        for (const char* const language : {"en", "de", "fr", "es", "ja"}) {
+            QLocale::setDefault(QLocale(language));
+            const Translations translations;
+            RunningApp s;
+            const auto& bar = *s.window.findChild<StatusBar*>();
+            auto& columns = *s.window.findChild<QSplitter*>();
+            s.window.resize(700, 560);
+            columns.setSizes({SidebarView::greatestWidth, 700 - SidebarView::greatestWidth});
+            for (const int points : {8, 10, 12, 14, 16, 18, 20, 22, 24}) {
+                QFont font = before;
+                font.setPointSize(points);
+                QApplication::setFont(font);
+                QCoreApplication::sendPostedEvents();
+                QCOMPARE(columns.sizes().first(), SidebarView::greatestWidth);
+                QVERIFY(controlsIn(bar).size() >= (points > 10 ? 3 : 5));
+                QString faults;
+                const auto isRight = [&] {
+                    return (faults = faultsIn(bar, {"Background"})).isEmpty();
+                };
+                QTRY_VERIFY2(isRight(),
+                             qPrintable(language + QString::number(points) + ": " + faults));
+            }
+            QApplication::setFont(before);
+        }
+        QLocale::setDefault(QLocale::c());
     }
 
     void whatWasFittedIsInSightWithoutScrolling() {

@@ -8,6 +8,7 @@
 #include "ui/canvas/StatusBar.h"
 #include "ui/controls/ControlAccessibility.h"
 #include "ui/controls/ToolNames.h"
+#include "ui/controls/WrapText.h"
 
 #include <QCoreApplication>
 
@@ -28,7 +29,7 @@ QStringList chosenTools(const DrawingDocument& document) {
     const ToolNames names = toolNames();
     QStringList tools;
     const auto add = [&](bool isChosen, const QString& name) {
-        if (isChosen) tools << name;
+        if (isChosen) tools << withoutSoftHyphens(name);
     };
     add(document.isDrawingMode(), names.draw);
     add(document.isSelectTool, names.select);

@@ -4,14 +4,15 @@
 #include "ui/canvas/CanvasAccessibility.h"
 #include "ui/canvas/CanvasTexts.h"
 #include "ui/canvas/ZoomRange.h"
+#include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/SemanticColors.h"
-#include "ui/controls/SmallButton.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <utility>
 
 namespace marlevo {
@@ -39,25 +40,26 @@ StatusBar::StatusBar(DrawingDocument& document, std::function<void()> fitToWindo
     : QWidget(parent), document_(document), canvasSize_({}, textlook::captionNumber),
       strokeCount_({}, textlook::caption),
       zoom_(tr("Zoom"), {minZoom, maxZoom, keyStep}, nullptr, ContinuousSlider::Knob::small),
-      zoomText_({}, zoomNumber), activeLayer_({}, layerName),
+      zoomText_({}, zoomNumber), actualSize_(tr("100%")), fit_(tr("Fit")),
+      activeLayer_({}, layerName),
       follower_(document.changeRegistry(), [this] { showDocument(); }) {
     installCanvasAccessibility();
-    auto* const actualSize = new SmallButton(tr("100%"));
-    auto* const fit = new SmallButton(tr("Fit"));
     connect(&zoom_, &ContinuousSlider::moved, this, [this](double zoom) { document_.zoom = zoom; });
-    connect(actualSize, &SmallButton::clicked, this, [this] { document_.zoom = 1.0; });
-    connect(fit, &SmallButton::clicked, this, std::move(fitToWindow));
-    layOut(actualSize, fit);
+    connect(&actualSize_, &SmallButton::clicked, this, [this] { document_.zoom = 1.0; });
+    connect(&fit_, &SmallButton::clicked, this, std::move(fitToWindow));
+    new ElidedToolTip(this, [this] { return hiddenTexts(); });
+    layOut();
 }
 
-void StatusBar::layOut(QWidget* actualSize, QWidget* fit) {
+void StatusBar::layOut() {
     zoom_.setFixedWidth(sliderWidth);
     zoomText_.setMinimumWidth(zoomTextWidth);
     activeLayer_.setContentsMargins(nameIndent, 0, 0, 0);
 
     auto* zoomCluster = new QHBoxLayout;
     zoomCluster->setSpacing(zoomSpacing);
-    for (QWidget* const item : std::initializer_list<QWidget*>{&zoom_, &zoomText_, actualSize, fit})
+    for (QWidget* const item :
+         std::initializer_list<QWidget*>{&zoom_, &zoomText_, &actualSize_, &fit_})
         zoomCluster->addWidget(item);
 
     auto* row = new QHBoxLayout(this);
@@ -80,30 +82,49 @@ void StatusBar::showDocument() {
     zoomText_.setText(percent);
 
     const Layer* const layer = document_.activeLayer();
-    activeLayer_.setVisible(layer != nullptr);
-    if (layer != nullptr) activeLayer_.setText(QString::fromStdString(layer->name));
-    if (layout() != nullptr) shortenLabels();
+    activeLayer_.setText(layer != nullptr ? QString::fromStdString(layer->name) : QString());
+    hasActiveLayer_ = layer != nullptr;
+    fitTexts();
 }
 
-/// Without enough room, the name of the layer is shortened first, because the sidebar shows it too,
-/// and the zoom last.
-void StatusBar::shortenLabels() {
-    const std::array labels{&activeLayer_, &strokeCount_, &canvasSize_, &zoomText_};
-    for (TextLabel* const label : labels)
-        label->setMaximumWidth(QWIDGETSIZE_MAX);
-    int missing = layout()->sizeHint().width() - width();
-    for (TextLabel* const label : labels) {
-        if (label->isHidden()) continue;
-        const int whole = label->sizeHint().width();
-        const int given = std::clamp(missing, 0, whole - label->minimumSizeHint().width());
-        if (given > 0) label->setMaximumWidth(whole - given);
-        missing -= given;
-    }
+int StatusBar::widthOfControls() const {
+    return 2 * horizontalPadding + sliderWidth + zoomSpacing + actualSize_.sizeHint().width() +
+           zoomSpacing + fit_.sizeHint().width();
 }
 
-void StatusBar::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    shortenLabels();
+/// Shows the texts that have room beside the controls. The zoom has precedence, then the size and
+/// the strokes; the name of the layer, which the sidebar shows too, gets what is left.
+void StatusBar::fitTexts() {
+    int room = width() - widthOfControls();
+    const auto show = [&](TextLabel& label, int spacing) {
+        const int needed = label.sizeHint().expandedTo(label.minimumSize()).width() + spacing;
+        label.setVisible(needed <= room);
+        room = needed <= room ? room - needed : 0;
+    };
+    show(zoomText_, zoomSpacing);
+    show(canvasSize_, itemSpacing);
+    show(strokeCount_, itemSpacing);
+    room -= itemSpacing;
+    activeLayer_.setVisible(hasActiveLayer_ && room >= activeLayer_.minimumSizeHint().width());
+    activeLayer_.setMaximumWidth(std::clamp(room, 0, activeLayer_.sizeHint().width()));
+}
+
+/// For the tooltip.
+QString StatusBar::hiddenTexts() const {
+    QStringList texts;
+    for (const TextLabel* const label : {&canvasSize_, &strokeCount_, &zoomText_, &activeLayer_})
+        if (label->isHidden() && !label->text().isEmpty()) texts << label->text();
+    return texts.join(QStringLiteral(", "));
+}
+
+QSize StatusBar::minimumSizeHint() const {
+    return {widthOfControls(), QWidget::minimumSizeHint().height()};
+}
+
+bool StatusBar::event(QEvent* event) {
+    const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) fitTexts();
+    return isHandled;
 }
 
 void StatusBar::paintEvent(QPaintEvent*) {

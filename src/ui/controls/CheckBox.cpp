@@ -1,9 +1,9 @@
 #include "ui/controls/CheckBox.h"
 
-#include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/IconEngine.h"
 #include "ui/controls/StylePainting.h"
 #include "ui/controls/TypeScale.h"
+#include "ui/controls/WrapText.h"
 
 #include <QSignalBlocker>
 #include <QStyleOptionButton>
@@ -13,10 +13,12 @@ namespace marlevo {
 CheckBox::CheckBox(const QString& label, std::optional<Icon> icon, QWidget* parent)
     : QCheckBox(label, parent) {
     if (icon) setIcon(makeIcon(*icon));
-    setAccessibleName(label);
+    setAccessibleName(withoutSoftHyphens(label));
     setFocusPolicy(Qt::TabFocus);
     setTypeStyle(*this, TypeStyle::callout);
-    new ElidedToolTip(this, [this] { return width() < sizeHint().width() ? text() : QString(); });
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void CheckBox::showChecked(bool checked) {
@@ -24,10 +26,26 @@ void CheckBox::showChecked(bool checked) {
     setChecked(checked);
 }
 
-QSize CheckBox::minimumSizeHint() const {
+QStyleOptionButton CheckBox::optionWithoutBreaks() const {
     QStyleOptionButton option;
-    initStyleOption(&option);
-    return leastCheckBoxSize(option);
+    QCheckBox::initStyleOption(&option);
+    option.text = withoutSoftHyphens(text());
+    return option;
+}
+
+QSize CheckBox::sizeHint() const { return checkBoxSize(optionWithoutBreaks()); }
+
+QSize CheckBox::minimumSizeHint() const { return leastCheckBoxSize(optionWithoutBreaks()); }
+
+int CheckBox::heightForWidth(int width) const {
+    QStyleOptionButton option = optionWithoutBreaks();
+    option.text = wrapText(text(), font(), checkBoxLabelRoom(option, width));
+    return checkBoxSize(option).height();
+}
+
+void CheckBox::initStyleOption(QStyleOptionButton* option) const {
+    QCheckBox::initStyleOption(option);
+    option->text = wrapText(text(), font(), checkBoxLabelRoom(*option, width()));
 }
 
 }  // namespace marlevo

@@ -3,6 +3,7 @@
 #include "ui/controls/Colors.h"
 #include "ui/controls/ControlPainting.h"
 #include "ui/controls/SemanticColors.h"
+#include "ui/controls/TypeScale.h"
 
 #include <QPainter>
 
@@ -28,7 +29,10 @@ void ColorSwatch::setSelection(Selection selection) {
     update();
 }
 
-QSize ColorSwatch::sizeHint() const { return {circle + 2 * room, circle + 2 * room}; }
+QSize ColorSwatch::sizeHint() const {
+    const int side = grownWithText(circle) + 2 * room;
+    return {side, side};
+}
 
 void ColorSwatch::paintEvent(QPaintEvent*) {
     QPainter painter(this);
@@ -37,16 +41,18 @@ void ColorSwatch::paintEvent(QPaintEvent*) {
     const QRectF disc = QRectF(rect()).adjusted(room, room, -room, -room);
     const QColor outline = selection_ == Selection::active
                                ? semanticColor(SemanticColor::blue)
-                               : withOpacity(semanticColor(SemanticColor::gray), 0.3);
-    paintRoundedRect(painter, disc, circle / 2.0, toQColor(color_()));
+                               : withOpacity(semanticColor(SemanticColor::gray), swatchOutline);
+    const double radius = disc.width() / 2;
+    paintRoundedRect(painter, disc, radius, toQColor(color_()));
     // Half of the outline is outside the circle, so that the coloured area keeps its size.
     const double width = selection_ == Selection::none ? 1 : 2.5;
     const double outside = std::min(width / 2, double(room));
-    paintRoundedRect(painter, disc.adjusted(-outside, -outside, outside, outside),
-                     circle / 2.0 + outside, Qt::transparent, {outline, width});
+    paintRoundedRect(painter, disc.adjusted(-outside, -outside, outside, outside), radius + outside,
+                     Qt::transparent, {outline, width});
     if (isHovered() && !isDown()) {
-        paintRoundedRect(painter, disc, circle / 2.0, Qt::transparent,
-                         {withOpacity(semanticColor(SemanticColor::gray), 0.6), 1});
+        paintRoundedRect(
+            painter, disc, radius, Qt::transparent,
+            {withOpacity(semanticColor(SemanticColor::gray), hoveredSwatchOutline), 1});
     }
     if (hasFocus()) paintFocusRing(painter, rect(), this->width() / 2.0);
 }

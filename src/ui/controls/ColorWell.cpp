@@ -3,6 +3,7 @@
 #include "ui/controls/Colors.h"
 #include "ui/controls/ControlPainting.h"
 #include "ui/controls/SemanticColors.h"
+#include "ui/controls/TypeScale.h"
 
 #include <QColorDialog>
 #include <QEvent>
@@ -55,7 +56,7 @@ void ColorWell::showColor(const Color& color) {
     }
 }
 
-QSize ColorWell::sizeHint() const { return {width_, wellHeight}; }
+QSize ColorWell::sizeHint() const { return {grownWithText(width_), grownWithText(wellHeight)}; }
 
 void ColorWell::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -17,7 +17,8 @@ class ColorWell final : public ToolButton {
 public:
     enum class Opacity : unsigned char { fixed, choosable };
 
-    /// `name` is the accessible name and the panel's title; `width` in points.
+    /// `name` is the accessible name and the panel's title; `width` in view points, beside a usual
+    /// font.
     ColorWell(const QString& name, Opacity opacity, int width, QWidget* parent = nullptr);
 
     /// Shows a colour; emits nothing.

@@ -2,6 +2,7 @@
 
 #include "ui/controls/ControlAccessibility.h"
 #include "ui/controls/StylePainting.h"
+#include "ui/controls/TypeScale.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -59,19 +60,21 @@ void ContinuousSlider::moveTo(double value) {
     Q_EMIT moved(std::clamp(value, range_.least, range_.most));
 }
 
-QSize ContinuousSlider::sizeHint() const { return {comfortableWidth, knobSize_ + 2}; }
+int ContinuousSlider::knobSize() const { return grownWithText(knobSize_); }
 
-QSize ContinuousSlider::minimumSizeHint() const { return {leastWidth, knobSize_ + 2}; }
+QSize ContinuousSlider::sizeHint() const { return {comfortableWidth, knobSize() + 2}; }
+
+QSize ContinuousSlider::minimumSizeHint() const { return {leastWidth, knobSize() + 2}; }
 
 double ContinuousSlider::knobCenter() const {
     QStyleOptionSlider option;
     initStyleOption(&option);
-    return sliderKnobCenter(option, knobSize_);
+    return sliderKnobCenter(option, knobSize());
 }
 
 double ContinuousSlider::valueAt(double x) const {
     const double forward =
-        std::clamp((x - knobSize_ / 2.0) / std::max(width() - knobSize_, 1), 0.0, 1.0);
+        std::clamp((x - knobSize() / 2.0) / std::max(width() - knobSize(), 1), 0.0, 1.0);
     const double share = isRightToLeft() ? 1 - forward : forward;
     return range_.least + share * (range_.most - range_.least);
 }
@@ -118,7 +121,7 @@ void ContinuousSlider::mousePressEvent(QMouseEvent* event) {
     const double x = event->position().x();
     const double toKnob = knobCenter() - x;
     setSliderDown(true);
-    grabOffset_ = std::abs(toKnob) <= knobSize_ / 2.0 ? toKnob : 0;
+    grabOffset_ = std::abs(toKnob) <= knobSize() / 2.0 ? toKnob : 0;
     update();
     if (grabOffset_ == 0 && toKnob != 0) moveTo(valueAt(x));
 }

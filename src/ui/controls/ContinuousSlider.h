@@ -30,8 +30,8 @@ public:
     /// The value as text, for assistive technology.
     const QString& valueInWords() const { return inWords_; }
 
-    /// The diameter, in view points.
-    int knobSize() const { return knobSize_; }
+    /// The diameter, in view points. It grows with the text.
+    int knobSize() const;
 
     /// Shows a value; emits nothing.
     void showValue(double value, const QString& inWords);

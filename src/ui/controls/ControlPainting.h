@@ -15,6 +15,11 @@ inline constexpr double restingFill = 0.06;
 inline constexpr double hoveredFill = 0.12;
 inline constexpr double pressedFill = 0.25;
 inline constexpr double outlineOpacity = 0.35;
+inline constexpr double swatchOutline = 0.3;
+inline constexpr double hoveredSwatchOutline = 0.6;
+inline constexpr double thumbnailOutline = 0.25;
+inline constexpr double thumbnailPlaceholder = 0.08;
+inline constexpr double inactiveDot = 0.15;
 
 struct Outline {
     QColor color;

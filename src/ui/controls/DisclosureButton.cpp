@@ -6,8 +6,11 @@
 #include "ui/controls/TypeScale.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace marlevo {
 
@@ -20,14 +23,17 @@ constexpr double focusRadius = 6;
 
 constexpr double quarterTurn = 90;
 
+int chevronRoom() { return iconSide(TypeStyle::caption2) + gap; }
+
 }  // namespace
 
 DisclosureButton::DisclosureButton(const QString& name, const QList<QWidget*>& header,
                                    QWidget* parent)
-    : ToolButton(Look::custom, name, parent), row_(new QHBoxLayout(this)) {
+    : ToolButton(Look::custom, name, parent), row_(new QHBoxLayout(this)),
+      roomForChevron_(new QSpacerItem(chevronRoom(), 0)) {
     row_->setContentsMargins(0, 0, 0, 0);
     row_->setSpacing(gap);
-    row_->addSpacing(iconSide(TypeStyle::caption2) + gap);
+    row_->addSpacerItem(roomForChevron_);
     for (QWidget* part : header) {
         part->setAttribute(Qt::WA_TransparentForMouseEvents);
         row_->addWidget(part);
@@ -50,8 +56,20 @@ void DisclosureButton::showOpening(double share) {
 
 QSize DisclosureButton::sizeHint() const { return row_->sizeHint().expandedTo({0, leastHeight}); }
 
+int DisclosureButton::heightForWidth(int width) const {
+    return std::max(leastHeight, row_->hasHeightForWidth() ? row_->heightForWidth(width)
+                                                           : row_->sizeHint().height());
+}
+
 QSize DisclosureButton::minimumSizeHint() const {
     return row_->minimumSize().expandedTo({0, leastHeight});
+}
+
+void DisclosureButton::changeEvent(QEvent* event) {
+    ToolButton::changeEvent(event);
+    if (event->type() != QEvent::FontChange) return;
+    roomForChevron_->changeSize(chevronRoom(), 0);
+    row_->invalidate();
 }
 
 void DisclosureButton::paintEvent(QPaintEvent*) {

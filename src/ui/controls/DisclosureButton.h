@@ -5,6 +5,7 @@
 #include <QList>
 
 class QHBoxLayout;
+class QSpacerItem;
 
 namespace marlevo {
 
@@ -25,12 +26,15 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QHBoxLayout* row_;
+    QSpacerItem* roomForChevron_;
     double opening_ = 0;
     bool isOpen_ = false;
 };

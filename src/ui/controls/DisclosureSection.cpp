@@ -21,7 +21,9 @@ DisclosureSection::DisclosureSection(const QString& name, const QList<QWidget*>&
                                      QWidget* content, Start start, QWidget* parent)
     : QWidget(parent), button_(name, header, this), clip_(this), content_(content) {
     content_->setParent(&clip_);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     motion_.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&motion_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& share) { showOpening(share.toDouble()); });
@@ -56,34 +58,49 @@ void DisclosureSection::showOpening(double share) {
     layOut();
 }
 
-int DisclosureSection::contentHeight() const {
-    return int(std::lround(opening_ * content_->sizeHint().height()));
+/// Of the open content in a section of this width.
+int DisclosureSection::contentHeight(int width) const {
+    return content_->hasHeightForWidth() ? content_->heightForWidth(width - contentIndent)
+                                         : content_->sizeHint().height();
+}
+
+/// Of the part that is seen.
+int DisclosureSection::clipHeight(int width) const {
+    return int(std::lround(opening_ * contentHeight(width)));
+}
+
+int DisclosureSection::heightForWidth(int width) const {
+    return button_.heightForWidth(width) + clipHeight(width);
 }
 
 QSize DisclosureSection::sizeHint() const {
     const QSize header = button_.sizeHint();
     const QSize content = content_->sizeHint();
-    return {std::max(header.width(), content.width() + contentIndent),
-            header.height() + contentHeight()};
+    const int width = std::max(header.width(), content.width() + contentIndent);
+    return {width, heightForWidth(width)};
 }
 
 QSize DisclosureSection::minimumSizeHint() const {
     const int content = content_->minimumSizeHint().width() + contentIndent;
-    return {std::max(button_.minimumSizeHint().width(), content), sizeHint().height()};
+    return {std::max(button_.minimumSizeHint().width(), content),
+            button_.minimumSizeHint().height()};
 }
 
 void DisclosureSection::layOut() {
-    const int header = button_.sizeHint().height();
+    const int header = button_.heightForWidth(width());
     button_.setGeometry(0, 0, width(), header);
-    const QRect place(contentIndent, header, width() - contentIndent, contentHeight());
+    const QRect place(contentIndent, header, width() - contentIndent, clipHeight(width()));
     clip_.setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
-    content_->setGeometry(0, 0, place.width(), content_->sizeHint().height());
+    content_->setGeometry(0, 0, place.width(), contentHeight(width()));
 }
 
 void DisclosureSection::resizeEvent(QResizeEvent*) { layOut(); }
 
 bool DisclosureSection::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutDirectionChange) layOut();
+    // The button's size has changed.
+    if (event->type() == QEvent::LayoutRequest) updateGeometry();
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::LayoutDirectionChange)
+        layOut();
     return QWidget::event(event);
 }
 

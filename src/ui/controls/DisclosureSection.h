@@ -23,6 +23,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -31,7 +32,8 @@ protected:
 
 private:
     void showOpening(double share);
-    int contentHeight() const;
+    int contentHeight(int width) const;
+    int clipHeight(int width) const;
     void layOut();
 
     DisclosureButton button_;

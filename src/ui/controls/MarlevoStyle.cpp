@@ -143,7 +143,7 @@ QRect MarlevoStyle::subElementRect(SubElement element, const QStyleOption* optio
 
 int MarlevoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                               const QWidget* widget) const {
-    if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight) return checkBoxSide;
+    if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight) return checkBoxSide();
     if (metric == PM_ScrollBarExtent) return scrollBarWidth;
     if (metric == PM_ScrollBarSliderMin) return leastKnobLength;
     return QProxyStyle::pixelMetric(metric, option, widget);

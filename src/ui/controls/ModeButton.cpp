@@ -1,8 +1,8 @@
 #include "ui/controls/ModeButton.h"
 
-#include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/IconEngine.h"
 #include "ui/controls/TypeScale.h"
+#include "ui/controls/WrapText.h"
 
 #include <QStyleOptionToolButton>
 
@@ -20,36 +20,41 @@ constexpr int verticalPadding = 7;
 }  // namespace
 
 ModeButton::ModeButton(Kind kind, Icon icon, const QString& label, QWidget* parent)
-    : ChoiceButton(kind == Kind::primary ? Look::primaryTool : Look::secondaryTool, label, parent) {
+    : ChoiceButton(kind == Kind::primary ? Look::primaryTool : Look::secondaryTool,
+                   withoutSoftHyphens(label), parent) {
     setText(label);
     setIcon(makeIcon(icon));
     setTypeStyle(*this, TypeStyle::caption, QFont::Medium);
-    new ElidedToolTip(this, [this] { return labelWidth() > roomForLabel() ? text() : QString(); });
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
-int ModeButton::labelWidth() const { return fontMetrics().horizontalAdvance(text()) + 1; }
-
-int ModeButton::widthAround(int labelWidth, int padding) const {
-    return padding + iconSide(TypeStyle::caption) + iconGap + labelWidth + padding;
+/// In lines for a button of this width.
+QString ModeButton::labelFor(int width) const {
+    return wrapText(text(), font(), width - sizeAround({}, leastSidePadding).width());
 }
 
-QSize ModeButton::sizeHint() const {
-    const int line = std::max(fontMetrics().height(), iconSide(TypeStyle::caption));
-    return {widthAround(labelWidth(), sidePadding), line + 2 * verticalPadding};
+QSize ModeButton::sizeAround(const QString& label, int padding) const {
+    const int icon = iconSide(TypeStyle::caption);
+    const QSize text = fontMetrics().size(0, label);
+    return {padding + icon + iconGap + text.width() + 1 + padding,
+            std::max(text.height(), icon) + 2 * verticalPadding};
 }
+
+QSize ModeButton::sizeHint() const { return sizeAround(withoutSoftHyphens(text()), sidePadding); }
 
 QSize ModeButton::minimumSizeHint() const {
-    const int fewLetters = fontMetrics().horizontalAdvance(QStringLiteral("nn…"));
-    return {widthAround(std::min(labelWidth(), fewLetters), leastSidePadding), sizeHint().height()};
+    return sizeAround(withoutSoftHyphens(text()), leastSidePadding);
 }
 
-int ModeButton::tightWidth() const { return widthAround(labelWidth(), leastSidePadding); }
-
-int ModeButton::roomForLabel() const { return width() - widthAround(0, leastSidePadding); }
+int ModeButton::heightForWidth(int width) const {
+    return sizeAround(labelFor(width), leastSidePadding).height();
+}
 
 void ModeButton::initStyleOption(QStyleOptionToolButton* option) const {
     ChoiceButton::initStyleOption(option);
-    option->text = fontMetrics().elidedText(text(), Qt::ElideRight, roomForLabel());
+    option->text = labelFor(width());
 }
 
 }  // namespace marlevo

@@ -5,8 +5,8 @@
 
 namespace marlevo {
 
-/// A button for one of the tools: an icon and a label on a rounded rectangle. A label that does not
-/// fit is elided and shown whole in a tooltip.
+/// A button for one of the tools: an icon and a label on a rounded rectangle. In a button that is
+/// too narrow even for its tighter padding, the label takes more lines (WrapText.h).
 class ModeButton final : public ChoiceButton {
     Q_OBJECT
 
@@ -16,24 +16,22 @@ public:
     /// Between icon and label, in view points.
     static constexpr int iconGap = 5;
 
-    /// `label` is the accessible name too.
+    /// `label` without its soft hyphens is the accessible name too.
     ModeButton(Kind kind, Icon icon, const QString& label, QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
 
-    /// The label shortened to a few letters, in narrower padding.
+    /// The whole label in one line in the tighter padding.
     QSize minimumSizeHint() const override;
 
-    /// The width of the whole label in the narrower padding.
-    int tightWidth() const;
+    int heightForWidth(int width) const override;
 
 protected:
     void initStyleOption(QStyleOptionToolButton* option) const override;
 
 private:
-    int labelWidth() const;
-    int widthAround(int labelWidth, int padding) const;
-    int roomForLabel() const;
+    QString labelFor(int width) const;
+    QSize sizeAround(const QString& label, int padding) const;
 };
 
 }  // namespace marlevo

@@ -6,26 +6,14 @@
 
 namespace marlevo {
 
-/// Tool buttons side by side, which divide the width of the row (DistributeWidth.h).
+/// Tool buttons that divide the width of the row (DistributeWidth.h) or, in a narrow row, of each
+/// of its lines (FlowLayout.h).
 class ModeButtonRow final : public QWidget {
     Q_OBJECT
 
 public:
     /// Takes ownership of the buttons.
-    explicit ModeButtonRow(std::vector<ModeButton*> buttons, QWidget* parent = nullptr);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-    bool event(QEvent* event) override;
-
-private:
-    QSize total(QSize (ModeButton::*hint)() const) const;
-    void layOut();
-
-    std::vector<ModeButton*> buttons_;
+    explicit ModeButtonRow(const std::vector<ModeButton*>& buttons, QWidget* parent = nullptr);
 };
 
 }  // namespace marlevo

@@ -18,9 +18,10 @@ namespace marlevo {
 namespace {
 
 // View points.
+constexpr int boxSide = 15;
 constexpr double boxRadius = 3.5;
 constexpr int labelGap = 6;
-constexpr QSize switchTrack(34, 20);
+constexpr QSize usualSwitchTrack(34, 20);
 constexpr int knobMargin = 2;
 constexpr int switchGap = 8;
 constexpr int rowSidePadding = 10;
@@ -31,16 +32,21 @@ constexpr double rowRadius = 8;
 constexpr double chosenRow = 0.1;
 constexpr double hoveredRow = 0.05;
 
-int textWidth(const QStyleOptionButton& button) {
-    return button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
+/// Of a text in one line or more.
+QSize textSize(const QStyleOptionButton& button) {
+    return button.fontMetrics.size(Qt::TextShowMnemonic, button.text);
 }
 
-/// Elided where it has no room, at the leading side.
+/// At the leading side.
+int textAlignment(const QStyleOptionButton& button) {
+    return QStyle::visualAlignment(button.direction, Qt::AlignLeft) | Qt::AlignVCenter |
+           Qt::TextShowMnemonic;
+}
+
+/// Elided where it has no room.
 void paintText(QPainter& painter, const QStyleOptionButton& button, const QRect& place) {
-    const int alignment = QStyle::visualAlignment(button.direction, Qt::AlignLeft) |
-                          Qt::AlignVCenter | Qt::TextShowMnemonic;
     painter.setPen(semanticColor(SemanticColor::primary));
-    painter.drawText(place, alignment,
+    painter.drawText(place, textAlignment(button),
                      button.fontMetrics.elidedText(button.text, Qt::ElideRight, place.width(),
                                                    Qt::TextShowMnemonic));
 }
@@ -60,22 +66,34 @@ void paintCheckMark(QPainter& painter, const QRectF& box, bool isPartial) {
     painter.drawPath(mark);
 }
 
+QSize switchTrack() {
+    return {grownWithText(usualSwitchTrack.width()), grownWithText(usualSwitchTrack.height())};
+}
+
 int checkBoxLabelLeft(const QStyleOptionButton& button) {
     const int icon = button.icon.isNull() ? 0 : iconSide(TypeStyle::callout) + labelGap;
-    return CheckBox::focusRoom + checkBoxSide + labelGap + icon;
+    return CheckBox::focusRoom + checkBoxSide() + labelGap + icon;
 }
 
 }  // namespace
 
+int checkBoxSide() { return grownWithText(boxSide); }
+
 QSize checkBoxSize(const QStyleOptionButton& button) {
-    return {checkBoxLabelLeft(button) + textWidth(button) + 1 + CheckBox::focusRoom,
-            std::max(button.fontMetrics.height(), checkBoxSide) + 2 * CheckBox::focusRoom};
+    const QSize text = textSize(button);
+    return {checkBoxLabelLeft(button) + text.width() + 1 + CheckBox::focusRoom,
+            std::max(text.height(), checkBoxSide()) + 2 * CheckBox::focusRoom};
+}
+
+int checkBoxLabelRoom(const QStyleOptionButton& button, int width) {
+    return width - checkBoxLabelLeft(button) - 1 - CheckBox::focusRoom;
 }
 
 QSize leastCheckBoxSize(const QStyleOptionButton& button) {
+    QStyleOptionButton shortened = button;
+    shortened.text = QStringLiteral("nn…");
     const QSize whole = checkBoxSize(button);
-    const int fewLetters = button.fontMetrics.horizontalAdvance(QStringLiteral("nn…"));
-    return {std::min(whole.width(), checkBoxLabelLeft(button) + fewLetters), whole.height()};
+    return {std::min(whole.width(), checkBoxSize(shortened).width()), whole.height()};
 }
 
 void paintCheckIndicator(QPainter& painter, const QStyleOption& indicator) {
@@ -103,7 +121,8 @@ void paintCheckBox(QPainter& painter, const QStyleOptionButton& button) {
                                   place.translated(button.rect.topLeft()));
     };
     QStyleOption indicator = button;
-    indicator.rect = mirrored(CheckBox::focusRoom, checkBoxSide, checkBoxSide);
+    const int box = checkBoxSide();
+    indicator.rect = mirrored(CheckBox::focusRoom, box, box);
     paintCheckIndicator(painter, indicator);
 
     painter.save();
@@ -115,16 +134,17 @@ void paintCheckBox(QPainter& painter, const QStyleOptionButton& button) {
         const QRect place = mirrored(left - labelGap - side, side, side);
         button.icon.paint(&painter, place);
     }
-    const int room = button.rect.width() - left - CheckBox::focusRoom + 1;
-    paintText(painter, button, mirrored(left, room, button.rect.height()));
+    const QRect label = mirrored(left, button.rect.width() - left, button.rect.height());
+    painter.setPen(semanticColor(SemanticColor::primary));
+    painter.drawText(label, textAlignment(button), button.text);
     painter.restore();
     if (button.state.testFlag(QStyle::State_HasFocus))
         paintFocusRing(painter, button.rect, boxRadius + CheckBox::focusRoom);
 }
 
 QSize switchSize(const QStyleOptionButton& button) {
-    return {textWidth(button) + switchGap + switchTrack.width(),
-            std::max(button.fontMetrics.height(), switchTrack.height()) + 4};
+    return {textSize(button).width() + switchGap + switchTrack().width(),
+            std::max(button.fontMetrics.height(), switchTrack().height()) + 4};
 }
 
 void paintSwitch(QPainter& painter, const QStyleOptionButton& button) {
@@ -134,7 +154,7 @@ void paintSwitch(QPainter& painter, const QStyleOptionButton& button) {
 
     const bool isOn = button.state.testFlag(QStyle::State_On);
     const QRectF track = QStyle::alignedRect(button.direction, Qt::AlignTrailing | Qt::AlignVCenter,
-                                             switchTrack, button.rect);
+                                             switchTrack(), button.rect);
     const double radius = track.height() / 2;
     paintRoundedRect(painter, track, radius,
                      semanticColor(isOn ? SemanticColor::blue : SemanticColor::gray));
@@ -148,7 +168,7 @@ void paintSwitch(QPainter& painter, const QStyleOptionButton& button) {
 
 QSize choiceRowSize(const QStyleOptionButton& button) {
     const int mark = iconSide(TypeStyle::title3);
-    return {textWidth(button) + rowMarkGap + mark + 2 * rowSidePadding,
+    return {textSize(button).width() + rowMarkGap + mark + 2 * rowSidePadding,
             std::max(button.fontMetrics.height(), mark) + 2 * rowPadding};
 }
 

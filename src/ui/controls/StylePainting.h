@@ -32,13 +32,16 @@ void paintField(QPainter& painter, const QStyleOptionFrame& field);
 /// Between a field's frame and its text on each side, in view points.
 inline constexpr int fieldPadding = 3;
 
-inline constexpr int checkBoxSide = 15;
+int checkBoxSide();
 /// A square of that side.
 void paintCheckIndicator(QPainter& painter, const QStyleOption& indicator);
 void paintCheckBox(QPainter& painter, const QStyleOptionButton& button);
+/// With the text in its lines.
 QSize checkBoxSize(const QStyleOptionButton& button);
 /// With a few letters of the label.
 QSize leastCheckBoxSize(const QStyleOptionButton& button);
+/// The width of a label in a check box of this width.
+int checkBoxLabelRoom(const QStyleOptionButton& button, int width);
 void paintSwitch(QPainter& painter, const QStyleOptionButton& button);
 QSize switchSize(const QStyleOptionButton& button);
 void paintChoiceRow(QPainter& painter, const QStyleOptionButton& button);

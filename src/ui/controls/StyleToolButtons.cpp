@@ -95,7 +95,7 @@ void paintTool(QPainter& painter, const QStyleOptionToolButton& button, Look loo
                          withOpacity(gray, state.isDown ? pressedFill : hoveredFill));
 
     const int side = iconSideOf(look);
-    const int labelWidth = button.fontMetrics.horizontalAdvance(button.text) + 1;
+    const int labelWidth = button.fontMetrics.size(0, button.text).width() + 1;
     const int height = button.rect.height();
     QRect content(0, 0, side + ModeButton::iconGap + labelWidth, height);
     content.moveCenter(button.rect.center());
@@ -107,7 +107,7 @@ void paintTool(QPainter& painter, const QStyleOptionToolButton& button, Look loo
     const QColor color = isOnBlue ? QColor(Qt::white) : semanticColor(SemanticColor::primary);
     paintIconAt(painter, button.icon, mirrored(icon).topLeft(), side, color);
     painter.setPen(color);
-    painter.drawText(mirrored(label), Qt::AlignCenter | Qt::TextSingleLine, button.text);
+    painter.drawText(mirrored(label), Qt::AlignCenter, button.text);
 }
 
 void paintMenuRow(QPainter& painter, const QStyleOptionToolButton& button) {

@@ -2,6 +2,7 @@
 
 #include "ui/controls/ControlPainting.h"
 #include "ui/controls/ElidedToolTip.h"
+#include "ui/controls/WrapText.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -13,6 +14,7 @@ namespace marlevo {
 TextLabel::TextLabel(const QString& text, Look look, QWidget* parent)
     : QLabel(text, parent), look_(look) {
     setTextFormat(Qt::PlainText);
+    if (text.contains(QChar::SoftHyphen)) setAccessibleName(withoutSoftHyphens(text));
     setTypeStyle(*this, look.style, look.weight);
     new ElidedToolTip(this, [this] { return isElided() ? this->text() : QString(); });
 }
@@ -43,20 +45,34 @@ QSize TextLabel::minimumSizeHint() const {
             sizeHint().height()};
 }
 
-bool TextLabel::isElided() const { return width() < sizeHint().width(); }
+int TextLabel::heightForWidth(int width) const {
+    if (!wordWrap()) return -1;
+    const QMargins margins = contentsMargins();
+    return fontMetrics().size(0, wrapped(width)).height() + margins.top() + margins.bottom();
+}
+
+/// In lines for a label of this width.
+QString TextLabel::wrapped(int width) const {
+    const QMargins margins = contentsMargins();
+    return wrapText(shownText(), font(), width - margins.left() - margins.right());
+}
+
+bool TextLabel::isElided() const { return !wordWrap() && width() < sizeHint().width(); }
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!isEnabled()) painter.setOpacity(disabledOpacity);
     painter.setPen(semanticColor(look_.color));
     const QString shown = shownText();
-    if (look_.digits == Digits::monospaced && !isElided()) return paintCharacters(painter, shown);
+    if (look_.digits == Digits::monospaced && width() >= sizeHint().width())
+        return paintCharacters(painter, shown);
     const QString fitting =
-        isElided() ? fontMetrics().elidedText(shown, Qt::ElideRight, contentsRect().width())
-                   : shown;
+        wordWrap()   ? wrapped(width())
+        : isElided() ? fontMetrics().elidedText(shown, Qt::ElideRight, contentsRect().width())
+                     : shown;
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
-    painter.drawText(contentsRect(), int(alignment | Qt::AlignVCenter | Qt::TextSingleLine),
-                     fitting);
+    const int lines = wordWrap() ? 0 : Qt::TextSingleLine;
+    painter.drawText(contentsRect(), int(alignment | Qt::AlignVCenter) | lines, fitting);
 }
 
 void TextLabel::paintCharacters(QPainter& painter, const QString& shown) const {
@@ -70,8 +86,5 @@ void TextLabel::paintCharacters(QPainter& painter, const QString& shown) const {
         left += cell;
     }
 }
-
-SectionHeader::SectionHeader(const QString& title, QWidget* parent)
-    : TextLabel(title, textlook::captionTitle, parent) {}
 
 }  // namespace marlevo

@@ -4,12 +4,12 @@
 #include "ui/controls/TypeScale.h"
 
 #include <QLabel>
-#include <QLocale>
 
 namespace marlevo {
 
-/// One line of text in a semantic colour. A text that does not fit is elided and shown whole in
-/// a tooltip.
+/// Text in a semantic colour. Without wordWrap(), a text that does not fit in one line is elided
+/// and shown whole in a tooltip; with it, the text takes more lines (WrapText.h). The name for
+/// assistive technology has no soft hyphens.
 class TextLabel : public QLabel {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     /// The text as it is painted. Assistive technology reads text().
@@ -39,6 +40,7 @@ protected:
 
 private:
     bool isElided() const;
+    QString wrapped(int width) const;
     int digitWidth() const;
     int widthOf(const QString& shown) const;
     void paintCharacters(QPainter& painter, const QString& shown) const;
@@ -58,16 +60,5 @@ inline constexpr TextLabel::Look captionTitle{TypeStyle::caption, QFont::DemiBol
 inline constexpr TextLabel::Look captionNumber{
     TypeStyle::caption, QFont::Normal, SemanticColor::secondary, TextLabel::Digits::monospaced};
 }  // namespace textlook
-
-/// The title of a section of the sidebar, painted in upper case.
-class SectionHeader final : public TextLabel {
-    Q_OBJECT
-
-public:
-    explicit SectionHeader(const QString& title, QWidget* parent = nullptr);
-
-protected:
-    QString shownText() const override { return locale().toUpper(text()); }
-};
 
 }  // namespace marlevo

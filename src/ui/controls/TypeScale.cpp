@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
 namespace marlevo {
@@ -46,6 +47,12 @@ QFont typeFont(TypeStyle style, QFont::Weight weight) {
 int iconSide(TypeStyle style) {
     // Larger than the font, because letters do not fill its height.
     return int(std::lround(QFontInfo(typeFont(style)).pixelSize() * 1.2));
+}
+
+int grownWithText(int points) {
+    constexpr int largestUsualFont = 16;
+    const int font = QFontInfo(QApplication::font()).pixelSize();
+    return points * std::max(font, largestUsualFont) / largestUsualFont;
 }
 
 void setTypeStyle(QWidget& widget, TypeStyle style, QFont::Weight weight) {

@@ -3,8 +3,7 @@
 #include "io/Export.h"
 #include "io/Save.h"
 #include "model/DrawingDocument.h"
-
-#include <QHBoxLayout>
+#include "ui/controls/FlowLayout.h"
 
 namespace marlevo {
 
@@ -23,14 +22,10 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
       export_(Icon::trayArrowDown, tr("Export"), IconButton::Look::borderless),
       historyFollower_(document.changeRegistry(), [this] { showHistory(); }) {
     export_.setOpensPopover(true);
-    auto* row = new QHBoxLayout(this);
+    auto* row = new FlowLayout(FlowLayout::Fill::ends, spacing, this);
     row->setContentsMargins(0, verticalPadding, 0, verticalPadding);
-    row->setSpacing(spacing);
-    row->addWidget(&undo_);
-    row->addWidget(&redo_);
-    row->addStretch(1);
-    row->addWidget(&save_);
-    row->addWidget(&export_);
+    row->addLayout(groupOf({&undo_, &redo_}, spacing));
+    row->addLayout(groupOf({&save_, &export_}, spacing));
 
     connect(&undo_, &IconButton::clicked, this, [this] { document_.undo(); });
     connect(&redo_, &IconButton::clicked, this, [this] { document_.redo(); });

@@ -3,13 +3,8 @@
 #include "model/DrawingDocument.h"
 #include "ui/controls/AppearanceNotifier.h"
 #include "ui/controls/Colors.h"
-#include "ui/controls/ControlPainting.h"
-#include "ui/controls/SemanticColors.h"
+#include "ui/controls/FlowLayout.h"
 #include "ui/sidebar/QuickColors.h"
-
-#include <QHBoxLayout>
-#include <QPainter>
-#include <QStyle>
 
 namespace marlevo {
 
@@ -17,7 +12,6 @@ namespace {
 
 constexpr int spacing = 8;
 constexpr int swatchSpacing = 2;  // the swatches have a point of room on each side
-constexpr int circle = 18;
 constexpr int wellWidth = 24;
 
 }  // namespace
@@ -27,14 +21,9 @@ ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
       well_(tr("Color"), ColorWell::Opacity::fixed, wellWidth),
       colorFollower_(document.changeRegistry(), [this] { showColor(); }),
       swatchesFollower_(document.changeRegistry(), [this] { showSwatches(); }) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    row->addSpacing(circle + spacing);
-    row->addWidget(&well_);
-    row->addSpacing(spacing);
-    row->addStretch(1);
-    addSwatches(*row);
+    auto* row = new FlowLayout(FlowLayout::Fill::ends, spacing, this);
+    row->addLayout(groupOf({&circle_, &well_}, spacing));
+    row->addLayout(makeSwatches());
     swatchesFollower_.refresh();
     connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
             [this] { swatchesFollower_.refresh(); });
@@ -42,20 +31,18 @@ ColorRow::ColorRow(DrawingDocument& document, QWidget* parent)
             [this](const Color& color) { document_.selectedColor = color; });
 }
 
-void ColorRow::addSwatches(QHBoxLayout& row) {
-    auto* strip = new QHBoxLayout;
-    strip->setSpacing(0);
+QLayout* ColorRow::makeSwatches() {
+    auto* swatches = new FlowLayout(FlowLayout::Fill::none, swatchSpacing);
+    // The gaps shrink in a narrow sidebar before the swatches take a line of their own.
+    swatches->setLeastSpacing(0);
     for (const QuickColor& quick : quickColors()) {
         auto* swatch = new ColorSwatch(quick.name, quick.color);
         connect(swatch, &ColorSwatch::chosen, this, [this, swatch] { choose(swatch->color()); });
-        // The gaps give way in a narrow sidebar.
-        if (!swatches_.empty())
-            strip->addSpacerItem(new QSpacerItem(swatchSpacing, 0, QSizePolicy::Maximum));
         swatches_.push_back(swatch);
-        strip->addWidget(swatch);
+        swatches->addWidget(swatch);
     }
     swatchFocus_.setMembers({swatches_.begin(), swatches_.end()});
-    row.addLayout(strip);
+    return swatches;
 }
 
 void ColorRow::choose(const Color& color) {
@@ -65,9 +52,9 @@ void ColorRow::choose(const Color& color) {
 }
 
 void ColorRow::showColor() {
+    circle_.showColor(toQColor(document_.selectedColor));
     well_.showColor(document_.selectedColor);
     well_.setEnabled(!document_.isEraser && !document_.isFillTool);
-    update();
 }
 
 void ColorRow::showSwatches() {
@@ -79,14 +66,6 @@ void ColorRow::showSwatches() {
         const bool isSelected = swatch->color() == selected && !erases;
         swatch->setSelection(!isSelected ? none : fills ? sameColor : active);
     }
-}
-
-void ColorRow::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const QRect place(0, (height() - circle) / 2, circle, circle);
-    paintRoundedRect(painter, QStyle::visualRect(layoutDirection(), rect(), place), circle / 2.0,
-                     toQColor(document_.selectedColor),
-                     {semanticColor(SemanticColor::separator), 1});
 }
 
 }  // namespace marlevo

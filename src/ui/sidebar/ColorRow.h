@@ -4,10 +4,9 @@
 #include "ui/controls/ColorSwatch.h"
 #include "ui/controls/ColorWell.h"
 #include "ui/controls/FocusGroup.h"
+#include "ui/sidebar/ColorCircle.h"
 
 #include <vector>
-
-class QHBoxLayout;
 
 namespace marlevo {
 
@@ -21,16 +20,14 @@ public:
     /// The document must outlive the row.
     explicit ColorRow(DrawingDocument& document, QWidget* parent = nullptr);
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
-    void addSwatches(QHBoxLayout& row);
+    QLayout* makeSwatches();
     void showColor();
     void showSwatches();
     void choose(const Color& color);
 
     DrawingDocument& document_;
+    ColorCircle circle_;
     ColorWell well_;
     std::vector<ColorSwatch*> swatches_;
     FocusGroup swatchFocus_;

@@ -4,7 +4,7 @@
 #include "tools/ToolChoice.h"
 #include "ui/controls/ModeButtonRow.h"
 #include "ui/controls/ToolNames.h"
-#include "ui/sidebar/SidebarMeasures.h"
+#include "ui/sidebar/SectionHeader.h"
 
 #include <QVBoxLayout>
 
@@ -34,10 +34,7 @@ DrawingSection::DrawingSection(DrawingDocument& document, QWidget* parent)
     connect(&opacity_, &LabeledSlider::moved, this,
             [this](double opacity) { document_.brushOpacity = opacity; });
 
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, sectionPadding, 0, sectionPadding);
-    column->setSpacing(sectionSpacing);
-    column->addWidget(new SectionHeader(tr("Drawing")));
+    QVBoxLayout* const column = makeSectionColumn(*this, tr("Drawing"));
     column->addWidget(&colors_);
     column->addWidget(&size_);
     column->addWidget(&opacity_);

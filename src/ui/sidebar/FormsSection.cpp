@@ -3,9 +3,8 @@
 #include "model/DrawingDocument.h"
 #include "tools/ToolChoice.h"
 #include "ui/controls/ModeButtonRow.h"
-#include "ui/controls/TextLabel.h"
 #include "ui/controls/ToolNames.h"
-#include "ui/sidebar/SidebarMeasures.h"
+#include "ui/sidebar/SectionHeader.h"
 
 #include <QVBoxLayout>
 
@@ -15,14 +14,11 @@ FormsSection::FormsSection(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document) {
     using ShapeType = Stroke::ShapeType;
     const ToolNames names = toolNames();
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, sectionPadding, 0, sectionPadding);
-    column->setSpacing(sectionSpacing);
-    column->addWidget(new SectionHeader(tr("Forms")));
-    column->addWidget(
-        new ModeButtonRow({makeButton(Icon::lineDiagonal, names.line, ShapeType::line),
-                           makeButton(Icon::rectangle, names.rectangle, ShapeType::rect),
-                           makeButton(Icon::circle, names.ellipse, ShapeType::ellipse)}));
+    makeSectionColumn(*this, tr("Forms"))
+        ->addWidget(
+            new ModeButtonRow({makeButton(Icon::lineDiagonal, names.line, ShapeType::line),
+                               makeButton(Icon::rectangle, names.rectangle, ShapeType::rect),
+                               makeButton(Icon::circle, names.ellipse, ShapeType::ellipse)}));
     const auto buttons = findChildren<QAbstractButton*>();
     focus_.setMembers({buttons.begin(), buttons.end()});
 }

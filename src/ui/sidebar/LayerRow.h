@@ -13,14 +13,15 @@ class EyeButton final : public ToolButton {
 public:
     explicit EyeButton(QWidget* parent = nullptr);
 
-    void showLayer(const QString& name, bool isVisible);
+    void showLayer(const Layer& layer);
 
 private:
     QString layerName_;
     bool isLayerVisible_ = true;
 };
 
-/// One layer in the list of layers; pressing it makes the layer the active one.
+/// One layer in the list of layers; pressing it makes the layer the active one. The name is beside
+/// the thumbnail, or below it where only a few letters would have room. A long name is elided.
 class LayerRow final : public ChoiceButton {
     Q_OBJECT
 
@@ -31,7 +32,10 @@ public:
 
     const Uuid& layerID() const { return layerID_; }
 
-    void showLayer(const Layer& layer, CanvasSize canvas, bool isActive);
+    void showLayer(const Layer& layer, CanvasSize canvas);
+
+    /// Marks the layer as the active one, or not.
+    void showActive(bool isActive);
 
     /// Puts the row and its eye button after `previous`, if not null, in the order of Tab. Returns
     /// the last of them.
@@ -39,18 +43,26 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 Q_SIGNALS:
     void visibilityToggled();
 
 protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int roomBesideThumbnail(int width) const;
+    bool isNameBelow(int width) const;
+    void layOut();
+
     Uuid layerID_;
     LayerThumbnailView thumbnail_;
     TextLabel name_;
     EyeButton eye_;
+    QRect dot_;  ///< before mirroring
 };
 
 }  // namespace marlevo

@@ -38,8 +38,11 @@ void LayerRows::showLayers() {
     const LayerList& layers = document_.layers;
     const std::int64_t active = document_.activeLayerIndex;
     const CanvasSize canvas = document_.canvasSize;
-    for (std::int64_t index = 0; index < std::ssize(layers); ++index)
-        rows_[rows_.size() - 1 - index]->showLayer(layers[index], canvas, index == active);
+    for (std::int64_t index = 0; index < std::ssize(layers); ++index) {
+        LayerRow& row = *rows_[rows_.size() - 1 - index];
+        row.showLayer(layers[index], canvas);
+        row.showActive(index == active);
+    }
 }
 
 /// Makes one row for each layer. A layer keeps its row, and so its thumbnail, when it moves.

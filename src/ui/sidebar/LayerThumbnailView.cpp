@@ -25,12 +25,16 @@ LayerThumbnailView::LayerThumbnailView(const Services& services, ImageCache& ima
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void LayerThumbnailView::showLayer(const Layer& layer, CanvasSize canvas, bool isActive) {
+void LayerThumbnailView::showLayer(const Layer& layer, CanvasSize canvas) {
     layer_ = layer;
     canvas_ = canvas;
-    isActive_ = isActive;
     setAccessibleName(QString::fromStdString(layer.name));
     if (isVisible()) thumbnail_.show(layer, canvas);
+    update();
+}
+
+void LayerThumbnailView::setActive(bool isActive) {
+    isActive_ = isActive;
     update();
 }
 
@@ -45,7 +49,7 @@ void LayerThumbnailView::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const QColor gray = semanticColor(SemanticColor::gray);
     const Outline outline = isActive_ ? Outline{semanticColor(SemanticColor::blue), 2}
-                                      : Outline{withOpacity(gray, 0.25), 1};
+                                      : Outline{withOpacity(gray, thumbnailOutline), 1};
     QPainterPath shape;
     shape.addRoundedRect(rect(), radius, radius);
     if (const auto& picture = thumbnail_.cgImage()) {
@@ -53,7 +57,7 @@ void LayerThumbnailView::paintEvent(QPaintEvent*) {
         painter.drawImage(rect(), qImageFrom(*picture));
         painter.setClipping(false);
     } else {
-        painter.fillPath(shape, withOpacity(gray, 0.08));
+        painter.fillPath(shape, withOpacity(gray, thumbnailPlaceholder));
     }
     paintRoundedRect(painter, rect(), radius, Qt::transparent, outline);
 }

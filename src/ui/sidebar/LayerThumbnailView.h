@@ -17,7 +17,10 @@ public:
     LayerThumbnailView(const Services& services, ImageCache& images, QWidget* parent = nullptr);
 
     /// To be called whenever the layer or the canvas may have changed.
-    void showLayer(const Layer& layer, CanvasSize canvas, bool isActive);
+    void showLayer(const Layer& layer, CanvasSize canvas);
+
+    /// Whether the frame marks the layer as the active one.
+    void setActive(bool isActive);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -2,8 +2,8 @@
 
 #include "model/DrawingDocument.h"
 #include "model/LayerOperations.h"
+#include "ui/controls/FlowLayout.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace marlevo {
@@ -23,19 +23,16 @@ LayersSection::LayersSection(DrawingDocument& document, ImageCache& images, QWid
       moveUp_(Icon::arrowUp, tr("Move layer up"), IconButton::Look::bordered),
       moveDown_(Icon::arrowDown, tr("Move layer down"), IconButton::Look::bordered),
       buttonsFollower_(document.changeRegistry(), [this] { showButtons(); }) {
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(buttonSpacing);
-    buttons->addWidget(&add_);
-    buttons->addWidget(&delete_);
-    buttons->addStretch(1);
-    buttons->addWidget(&moveUp_);
-    buttons->addWidget(&moveDown_);
+    auto* buttons = new QWidget;
+    auto* row = new FlowLayout(FlowLayout::Fill::ends, buttonSpacing, buttons);
+    row->addLayout(groupOf({&add_, &delete_}, buttonSpacing));
+    row->addLayout(groupOf({&moveUp_, &moveDown_}, buttonSpacing));
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, topPadding, 0, 0);
     column->setSpacing(listSpacing);
     column->addWidget(&rows_);
-    column->addLayout(buttons);
+    column->addWidget(buttons);
 
     connect(&add_, &IconButton::clicked, this, [this] { document_.addLayer(); });
     connect(&delete_, &IconButton::clicked, this, [this] { deleteActiveLayer(document_); });

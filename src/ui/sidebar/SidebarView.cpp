@@ -9,6 +9,7 @@
 #include "ui/sidebar/FormsSection.h"
 #include "ui/sidebar/LayerCount.h"
 #include "ui/sidebar/LayersSection.h"
+#include "ui/sidebar/SectionHeader.h"
 #include "ui/sidebar/SidebarAccessibility.h"
 #include "ui/sidebar/ViewSection.h"
 
@@ -67,10 +68,7 @@ void SidebarView::addSections(DrawingDocument& document, ImageCache& images) {
 
 QSize SidebarView::sizeHint() const { return {idealWidth, column_->sizeHint().height()}; }
 
-QSize SidebarView::minimumSizeHint() const {
-    const int content = column_->minimumSizeHint().width();
-    return {std::clamp(content, leastWidth, idealWidth), 0};
-}
+QSize SidebarView::minimumSizeHint() const { return {leastWidth, 0}; }
 
 void SidebarView::updateColors() { setPalette(semanticPalette(SemanticColor::controlBackground)); }
 
@@ -90,8 +88,8 @@ bool SidebarView::event(QEvent* event) {
 }
 
 bool SidebarView::eventFilter(QObject* watched, QEvent* event) {
-    const bool comesOrGoes = event->type() == QEvent::Show || event->type() == QEvent::Hide;
-    if (watched == verticalScrollBar() && comesOrGoes) makeRoomForScrollBar();
+    const bool isShownOrHidden = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (watched == verticalScrollBar() && isShownOrHidden) makeRoomForScrollBar();
     return QScrollArea::eventFilter(watched, event);
 }
 

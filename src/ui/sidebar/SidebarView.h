@@ -23,7 +23,6 @@ public:
     /// The document and the cache, for its thumbnails, must outlive the view.
     SidebarView(DrawingDocument& document, ImageCache& images, QWidget* parent = nullptr);
 
-    /// As wide as the content needs, within the limits.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

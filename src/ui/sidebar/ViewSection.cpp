@@ -1,6 +1,7 @@
 #include "ui/sidebar/ViewSection.h"
 
 #include "model/DrawingDocument.h"
+#include "ui/controls/WrapText.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -18,7 +19,8 @@ constexpr int wellWidth = 22;
 
 ViewSection::ViewSection(DrawingDocument& document, QWidget* parent)
     : QWidget(parent), document_(document), grid_(tr("Grid"), Icon::grid),
-      background_(tr("Background color"), ColorWell::Opacity::choosable, wellWidth),
+      background_(withoutSoftHyphens(tr("Background color")), ColorWell::Opacity::choosable,
+                  wellWidth),
       backgroundLabel_(tr("Background color"), {TypeStyle::callout}),
       transparent_(tr("Transparent background")),
       gridFollower_(document.changeRegistry(), [this] { grid_.showChecked(document_.showGrid); }),
@@ -27,6 +29,7 @@ ViewSection::ViewSection(DrawingDocument& document, QWidget* parent)
       transparentFollower_(document.changeRegistry(), [this] {
           transparent_.showChecked(document_.backgroundIsTransparent);
       }) {
+    backgroundLabel_.setWordWrap(true);
     auto* color = new QHBoxLayout;
     color->setSpacing(rowSpacing);
     color->addWidget(&background_);
