@@ -1,5 +1,7 @@
 // Draws in a real window with the mouse and saves pictures of it: make_pictures <folder>. With a
 // scale factor, or in a language other than English, only the windows that differ are saved.
+// With "fonts" as second argument it saves a series instead: the smallest window with the narrowest
+// sidebar, and the whole of that sidebar, at several sizes of the desktop's font, light and dark.
 
 #include "pictures/Landscape.h"
 #include "platform/BackgroundThread.h"
@@ -14,6 +16,7 @@
 #include "ui/controls/SemanticColors.h"
 #include "ui/sidebar/ActionRow.h"
 #include "ui/sidebar/ExportPopover.h"
+#include "ui/sidebar/SidebarView.h"
 #include "ui/windows/MarlevoApp.h"
 #include "ui/windows/SettingsWindow.h"
 #include "ui/windows/Translations.h"
@@ -23,6 +26,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPalette>
+#include <QSplitter>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -60,6 +64,11 @@ public:
     Pictures(DocumentWindow& window, const QString& folder) : window_(window), folder_(folder) {}
 
     void ofTheWindow(const QString& name) { save(shot(window_), name); }
+
+    /// All that the sidebar shows when it is scrolled.
+    void ofTheWholeSidebar(const QString& name) {
+        save(shot(*window_.findChild<SidebarView*>()->widget()), name);
+    }
 
     void ofTheExportPopover(const QString& name) {
         for (auto* button : window_.findChildren<QAbstractButton*>())
@@ -122,6 +131,26 @@ QPalette darkPalette() {
     return palette;
 }
 
+constexpr QSize smallestWindow(700, 560);
+constexpr int fontSizes[] = {10, 16, 20};  // points
+
+void saveSeries(DocumentWindow& window, Pictures& pictures, const QString& suffix) {
+    window.resize(smallestWindow);
+    window.findChild<QSplitter*>()->setSizes({SidebarView::leastWidth, window.width()});
+    for (const bool isDark : {false, true}) {
+        QApplication::setPalette(isDark ? darkPalette() : QPalette());
+        for (const int points : fontSizes) {
+            QFont font = QApplication::font();
+            font.setPointSize(points);
+            QApplication::setFont(font);
+            const QString name =
+                QStringLiteral("%1pt%2%3").arg(points).arg(isDark ? "-dark" : "", suffix);
+            pictures.ofTheWindow("window-" + name);
+            pictures.ofTheWholeSidebar("sidebar-" + name);
+        }
+    }
+}
+
 void openAllSections(DocumentWindow& window) {
     for (auto* section : window.findChildren<DisclosureSection*>())
         section->setOpen(true);
@@ -166,6 +195,10 @@ int main(int argc, char* argv[]) {
     window.content().setShowNewCanvas(false);
     openAllSections(window);
     Landscape(window).draw();
+    if (application.arguments().value(2) == QLatin1String("fonts")) {
+        saveSeries(window, pictures, suffix);
+        return 0;
+    }
     pictures.ofTheWindow("window" + suffix);
     if (isPlain) {
         pictures.ofTheExportPopover("export");
