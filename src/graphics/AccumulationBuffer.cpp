@@ -1,15 +1,13 @@
 #include "graphics/AccumulationBuffer.h"
 
-#include "graphics/AccumulationSweep.h"
-#include "graphics/RasterScratch.h"
-
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace marlevo {
 
 namespace {
+
+constexpr std::int32_t subpixels = Edge::subpixels;
 
 /// Number of fractional bits of a slope. The product with a length within ±2³¹ fits 64 bits.
 constexpr int slopeBits = 30;
@@ -24,6 +22,9 @@ std::int32_t along(std::int32_t start, std::int64_t slope, std::int32_t distance
     return start + static_cast<std::int32_t>((slope * distance + half) >> slopeBits);
 }
 
+/// The row or column of pixels that contains a position in subpixels.
+std::int32_t pixelAt(std::int32_t position) { return position >> Edge::subpixelBits; }
+
 /// Adds without undefined overflow: sums wrap where an outline winds more than 16,000 times around
 /// a pixel.
 void addWrapping(std::int32_t& sum, std::int32_t term) {
@@ -31,204 +32,176 @@ void addWrapping(std::int32_t& sum, std::int32_t term) {
                                     static_cast<std::uint32_t>(term));
 }
 
-}  // namespace
-
 /// The points of an edge on the borders of rows and columns. Each is computed from the edge's upper
 /// end: computed from the border before, it would depend on the band.
-struct AccumulationBuffer::EdgeLine {
+struct EdgeLine {
+    explicit EdgeLine(const Edge& of) : edge(of) {
+        // A slope is not used, and its division is spared, within one row or column.
+        const std::int32_t dx = edge.x1 - edge.x0;
+        const std::int32_t dy = edge.y1 - edge.y0;
+        if (pixelAt(edge.y0) != pixelAt(edge.y1 - 1)) xPerY = slopeOf(dx, dy);
+        if (pixelAt(edge.x0) != pixelAt(edge.x1)) yPerX = slopeOf(dy, dx);
+    }
+
+    std::int32_t xAt(std::int32_t y) const {
+        return y == edge.y1 ? edge.x1 : along(edge.x0, xPerY, y - edge.y0);
+    }
+    std::int32_t yAt(std::int32_t x) const { return along(edge.y0, yPerX, x - edge.x0); }
+
     Edge edge;
     std::int64_t xPerY = 0;
     std::int64_t yPerX = 0;
-
-    explicit EdgeLine(const Edge& of) : edge(of) {
-        const std::int32_t dx = edge.x1 - edge.x0;
-        const std::int32_t dy = edge.y1 - edge.y0;
-        xPerY = slopeOf(dx, dy);
-        if (dx != 0) yPerX = slopeOf(dy, dx);
-    }
-
-    std::int32_t xAt(std::int32_t y) const { return y == edge.y1 ? edge.x1 : xBetweenEnds(y); }
-    std::int32_t xBetweenEnds(std::int32_t y) const { return along(edge.x0, xPerY, y - edge.y0); }
-    /// Limited to the part of the edge in one row.
-    std::int32_t yAt(std::int32_t x, std::int32_t topY, std::int32_t bottomY) const {
-        return std::clamp(along(edge.y0, yPerX, x - edge.x0), topY, bottomY);
-    }
 };
 
 /// The part of an edge in one row, from left to right.
-struct AccumulationBuffer::EdgePiece {
-    std::int32_t topY;
-    std::int32_t bottomY;
-    bool leansRight;
+struct EdgePiece {
+    /// From (xa, ya) down to (xb, yb).
+    EdgePiece(std::int32_t xa, std::int32_t ya, std::int32_t xb, std::int32_t yb,
+              const EdgeLine& of)
+        : line(of), top(ya), bottom(yb), winding(xa < xb ? of.edge.winding : -of.edge.winding),
+          left(std::min(xa, xb)), right(std::max(xa, xb)), leftY(xa < xb ? ya : yb),
+          rightY(xa < xb ? yb : ya) {}
+
+    std::int32_t yAt(std::int32_t x) const { return std::clamp(line.yAt(x), top, bottom); }
+
+    const EdgeLine& line;
+    std::int32_t top;
+    std::int32_t bottom;
     std::int32_t winding;  ///< of the piece from left to right
     std::int32_t left;
     std::int32_t right;
     std::int32_t leftY;
     std::int32_t rightY;
-    std::int32_t firstColumn;  ///< counted from the left of the area
-    std::int32_t lastColumn;
-    std::int32_t enteredAt;  ///< distance of the left end from its cell's left side
-
-    /// From (xa, ya) down to (xb, yb), of an edge with this winding.
-    EdgePiece(std::int32_t xa, std::int32_t ya, std::int32_t xb, std::int32_t yb,
-              std::int32_t edgeWinding, int areaLeft)
-        : topY(ya), bottomY(yb), leansRight(xa < xb),
-          winding(leansRight ? edgeWinding : -edgeWinding), left(std::min(xa, xb)),
-          right(std::max(xa, xb)), leftY(leansRight ? ya : yb), rightY(leansRight ? yb : ya),
-          firstColumn((left >> subpixelBits) - areaLeft),
-          lastColumn((right >> subpixelBits) - areaLeft), enteredAt(left & (subpixels - 1)) {}
 };
 
-/// The cells and marks of a row.
-struct AccumulationBuffer::RowStart {
-    std::int32_t* cells;
-    std::uint8_t* dirty;
-
-    void markDirty(std::int32_t column) const { dirty[column / cellsPerMark] = dirtyMark; }
-};
-
-void AccumulationBuffer::reset(const IntRect& area) {
-    area_ = area;
-    // An edge in the last column writes to the two cells after it.
-    const std::size_t blocks =
-        (static_cast<std::size_t>(area.width()) + 1 + cellsPerMark) / cellsPerMark;
-    const auto rows = static_cast<std::size_t>(area.height());
-    rowCells_ = blocks * cellsPerMark;
-    rowMarks_ = (blocks + markGroup - 1) / markGroup * markGroup;
-    // Blending sets everything to 0, so that memory can be reused for rows of another length.
-    const auto reserve = [](auto& values, std::size_t count) {
-        if (values.size() < count) values.resize(count);
-    };
-    reserve(cells_, rows * rowCells_);
-    reserve(leftCover_, rows);
-    reserve(dirty_, rows * rowMarks_);
+/// Adds a piece that touches at most two cells, both in the area: the most frequent kind. Without
+/// branches, because one cell or two cannot be predicted.
+inline void addPair(const SumRow& row, const EdgePiece& piece) {
+    const std::int32_t column = pixelAt(piece.left);
+    const std::int32_t border = (column + 1) * subpixels;
+    const std::int32_t beyond = std::max(piece.right - border, 0);
+    const std::int32_t borderY = piece.yAt(std::min(border, piece.right));
+    // All bits are set if the piece crosses the border, else none.
+    const std::int32_t crossesBorder = -static_cast<std::int32_t>(beyond > 0);
+    const std::int32_t second = (piece.rightY - borderY) & crossesBorder;
+    const std::int32_t first = piece.rightY - piece.leftY - second;
+    const std::int32_t firstX = piece.left + piece.right - beyond - 2 * (border - subpixels);
+    std::int32_t* const cell = row.cells + column;
+    addWrapping(cell[0], first * piece.winding * (2 * subpixels - firstX));
+    addWrapping(cell[1], piece.winding * (first * firstX + second * (2 * subpixels - beyond)));
+    addWrapping(cell[2], second * piece.winding * beyond);
+    row.markDirty(static_cast<std::size_t>(column));
+    row.markDirty(static_cast<std::size_t>(pixelAt(piece.right) + 1));
 }
 
-void AccumulationBuffer::add(const Edge& edge) {
-    const std::int32_t top = std::max(edge.y0, area_.top * subpixels);
-    const std::int32_t bottom = std::min(edge.y1, area_.bottom * subpixels);
-    if (top >= bottom || std::min(edge.x0, edge.x1) >= area_.right * subpixels) return;
-
-    const EdgeLine line(edge);
-    const std::int32_t width = area_.width();
-    const std::int32_t bottomX = line.xAt(bottom);
-    auto row = static_cast<std::size_t>((top >> subpixelBits) - area_.top);
-    std::int32_t rowBottom = ((top >> subpixelBits) + 1) * subpixels;
-    std::int32_t y = top;
-    std::int32_t x = line.xAt(top);
-    for (bool isLastRow = false; !isLastRow; ++row, rowBottom += subpixels) {
-        isLastRow = rowBottom >= bottom;
-        const std::int32_t nextY = isLastRow ? bottom : rowBottom;
-        const std::int32_t nextX = isLastRow ? bottomX : line.xBetweenEnds(rowBottom);
-        const EdgePiece piece(x, y, nextX, nextY, edge.winding, area_.left);
-        if (piece.firstColumn >= 0 && piece.lastColumn < width &&
-            piece.lastColumn - piece.firstColumn <= 1)
-            addPair({&cells_[row * rowCells_], &dirty_[row * rowMarks_]}, piece, line);
-        else
-            addPiece(row, piece, line);
+/// Adds any piece, cell by cell from left to right.
+void addPiece(const SumRow& row, std::int32_t& leftCover, std::int32_t width,
+              const EdgePiece& piece) {
+    const std::int32_t lastColumn = pixelAt(piece.right);
+    std::int32_t x = piece.left;
+    std::int32_t y = piece.leftY;
+    if (x < 0) {
+        const std::int32_t nextY = lastColumn < 0 ? piece.rightY : piece.yAt(0);
+        addWrapping(leftCover, (nextY - y) * piece.winding * 2 * subpixels);
+        x = 0;
+        y = nextY;
+    }
+    for (std::int32_t column = pixelAt(x); column <= lastColumn && column < width; ++column) {
+        const std::int32_t columnX = column * subpixels;
+        const bool isLast = column == lastColumn;
+        const std::int32_t nextX = isLast ? piece.right : columnX + subpixels;
+        const std::int32_t nextY = isLast ? piece.rightY : piece.yAt(nextX);
+        const std::int32_t cover = (nextY - y) * piece.winding;
+        const std::int32_t positions = x + nextX - 2 * columnX;
+        addWrapping(row.cells[column], cover * (2 * subpixels - positions));
+        addWrapping(row.cells[column + 1], cover * positions);
+        row.markDirty(static_cast<std::size_t>(column));
+        row.markDirty(static_cast<std::size_t>(column + 1));
         x = nextX;
         y = nextY;
     }
 }
 
-/// Adds a piece that touches at most two cells, both in the area: the most frequent kind. Without
-/// branches, because one cell or two cannot be predicted.
-inline void AccumulationBuffer::addPair(RowStart row, const EdgePiece& piece,
-                                        const EdgeLine& line) {
-    const std::int32_t border = piece.left - piece.enteredAt + subpixels;
-    const std::int32_t beyond = std::max(piece.right - border, 0);
-    const std::int32_t atBorder =
-        line.yAt(std::min(border, piece.right), piece.topY, piece.bottomY);
-    // All bits are set if the piece crosses the border, else none.
-    const std::int32_t crossesBorder = -static_cast<std::int32_t>(beyond > 0);
-    const std::int32_t second = (piece.rightY - atBorder) & crossesBorder;
-    const std::int32_t first = piece.rightY - piece.leftY - second;
-    const std::int32_t firstX = piece.enteredAt + piece.right - beyond - (border - subpixels);
-    std::int32_t* const cell = row.cells + piece.firstColumn;
-    addWrapping(cell[0], first * piece.winding * (2 * subpixels - firstX));
-    addWrapping(cell[1], piece.winding * (first * firstX + second * (2 * subpixels - beyond)));
-    addWrapping(cell[2], second * piece.winding * beyond);
-    row.markDirty(piece.firstColumn);
-    row.markDirty(piece.lastColumn + 1);
+}  // namespace
+
+inline SumRow AccumulationBuffer::row(std::size_t index) {
+    const std::size_t mark = index * marksPerRow_;
+    return {&cells_[mark * SumRow::cellsPerMark], &marks_[mark], marksPerRow_, leftCover_[index]};
 }
 
-/// Adds any piece, cell by cell from left to right.
-///
-/// Parameters by value: the compiler keeps them in registers (measured).
-void AccumulationBuffer::addPiece(std::size_t row, EdgePiece piece, EdgeLine line) {
-    const std::int32_t width = area_.width();
-    if (piece.lastColumn < 0) {
-        addWrapping(leftCover_[row], (piece.rightY - piece.leftY) * piece.winding * 2 * subpixels);
-        return;
-    }
-    if (piece.firstColumn >= width) return;
-
-    std::int32_t* const cells = &cells_[row * rowCells_];
-    const RowStart start{cells, &dirty_[row * rowMarks_]};
-    std::int32_t column = piece.firstColumn;
-    std::int32_t y = piece.leftY;
-    std::int32_t enteredAt = piece.enteredAt;
-    if (column < 0) {
-        const std::int32_t nextY = line.yAt(area_.left * subpixels, piece.topY, piece.bottomY);
-        addWrapping(leftCover_[row], (nextY - y) * piece.winding * 2 * subpixels);
-        column = 0;
-        enteredAt = 0;
-        y = nextY;
-    }
-    const auto addToCell = [&](std::int32_t nextY, std::int32_t leftAt) {
-        const std::int32_t cover = (nextY - y) * piece.winding;
-        addWrapping(cells[column], cover * (2 * subpixels - enteredAt - leftAt));
-        addWrapping(cells[column + 1], cover * (enteredAt + leftAt));
-        enteredAt = 0;
-        y = nextY;
+void AccumulationBuffer::reset(const IntRect& area) {
+    area_ = area;
+    // An edge in the last column writes to the two cells after it.
+    marksPerRow_ = (static_cast<std::size_t>(area.width()) + 1) / SumRow::cellsPerMark + 1;
+    const auto rows = static_cast<std::size_t>(area.height());
+    // Blending sets everything to 0, so that memory can be reused for rows of another length.
+    const auto reserve = [](auto& values, std::size_t count) {
+        if (values.size() < count) values.resize(count);
     };
-    for (std::int32_t block = column; block <= std::min(piece.lastColumn, width - 1);
-         block += cellsPerMark)
-        start.markDirty(block);
-    start.markDirty(std::min(piece.lastColumn, width - 1) + 1);
-    std::int32_t nextX = (column + area_.left + 1) * subpixels;
-    for (const std::int32_t end = std::min(piece.lastColumn, width); column < end; ++column) {
-        addToCell(line.yAt(nextX, piece.topY, piece.bottomY), subpixels);
-        nextX += subpixels;
+    reserve(cells_, rows * marksPerRow_ * SumRow::cellsPerMark);
+    reserve(leftCover_, rows);
+    reserve(marks_, rows * marksPerRow_);
+}
+
+void AccumulationBuffer::add(const Edge& edge) {
+    const std::int32_t left = area_.left * subpixels;
+    const std::int32_t top = area_.top * subpixels;
+    const std::int32_t width = area_.width();
+    const std::int32_t end = std::min(edge.y1 - top, area_.height() * subpixels);
+    std::int32_t y = std::max(edge.y0 - top, 0);
+    if (y >= end || std::min(edge.x0, edge.x1) - left >= width * subpixels) return;
+
+    const EdgeLine line(
+        {edge.x0 - left, edge.y0 - top, edge.x1 - left, edge.y1 - top, edge.winding});
+    std::int32_t x = line.xAt(y);
+    while (y < end) {
+        const auto index = static_cast<std::size_t>(pixelAt(y));
+        const std::int32_t nextY = std::min((pixelAt(y) + 1) * subpixels, end);
+        const std::int32_t nextX = line.xAt(nextY);
+        const EdgePiece piece(x, y, nextX, nextY, line);
+        const std::int32_t first = pixelAt(piece.left);
+        const std::int32_t last = pixelAt(piece.right);
+        if (first >= 0 && last < width && last - first <= 1)
+            addPair(row(index), piece);
+        else
+            addPiece(row(index), leftCover_[index], width, piece);
+        x = nextX;
+        y = nextY;
     }
-    if (column < width) addToCell(piece.rightY, piece.right & (subpixels - 1));
+}
+
+void AccumulationBuffer::add(const AccumulationBuffer& other) {
+    constexpr int blockCells = SumRow::cellsPerMark;
+    const int bottom = std::min(area_.bottom, other.area_.bottom);
+    for (int y = std::max(area_.top, other.area_.top); y < bottom; ++y) {
+        const auto index = static_cast<std::size_t>(y - area_.top);
+        const SumRow to = row(index);
+        const std::size_t firstMark =
+            static_cast<std::size_t>(y - other.area_.top) * other.marksPerRow_;
+        for (std::size_t mark = 0; mark < other.marksPerRow_; ++mark) {
+            if (other.marks_[firstMark + mark] == 0) continue;
+            const std::int32_t* const sums = &other.cells_[(firstMark + mark) * blockCells];
+            const int column = other.area_.left - area_.left + static_cast<int>(mark) * blockCells;
+            const int first = std::clamp(-column, 0, blockCells);
+            const int end = std::clamp(area_.width() - column, first, blockCells);
+            for (int i = 0; i < first; ++i)
+                addWrapping(leftCover_[index], sums[i]);
+            for (int i = first; i < end; ++i)
+                addWrapping(to.cells[column + i], sums[i]);
+            if (first == end) continue;
+            to.markDirty(static_cast<std::size_t>(column + first));
+            to.markDirty(static_cast<std::size_t>(column + end - 1));
+        }
+    }
 }
 
 void AccumulationBuffer::blendInto(const PixelBuffer& target, PackedColor color) {
-    const auto width = static_cast<std::size_t>(area_.width());
     for (int y = area_.top; y < area_.bottom; ++y) {
-        const auto row = static_cast<std::size_t>(y - area_.top);
-        sweepRow({&cells_[row * rowCells_], &dirty_[row * rowMarks_], rowMarks_,
-                  std::exchange(leftCover_[row], 0)},
-                 target.pixel(area_.left, y), width, color);
+        const auto index = static_cast<std::size_t>(y - area_.top);
+        sweepRow(row(index), target.pixel(area_.left, y), static_cast<std::size_t>(area_.width()),
+                 color);
+        leftCover_[index] = 0;
     }
-}
-
-std::int32_t AccumulationBuffer::rowSum(int y) const { return sumOfCells(y, rowCells_); }
-
-std::int32_t AccumulationBuffer::sumOfCells(int y, std::size_t count) const {
-    const std::int32_t* const cells = &cells_[static_cast<std::size_t>(y - area_.top) * rowCells_];
-    std::uint32_t sum = 0;
-    for (std::size_t i = 0; i < count; ++i)
-        sum += static_cast<std::uint32_t>(cells[i]);
-    return static_cast<std::int32_t>(sum);
-}
-
-void AccumulationBuffer::blendRow(int y, int left, int right, std::int32_t before,
-                                  std::uint8_t* pixels, PackedColor color) const {
-    // A copy, because the sweep clears its row.
-    auto& [copy, dirty] = RasterScratch::ofThread().row;
-    const std::size_t first = static_cast<std::size_t>(left - area_.left);
-    const std::size_t count = static_cast<std::size_t>(right - left);
-    const std::size_t blocks = (count + cellsPerMark) / cellsPerMark;  // and one cell more
-    const std::size_t marks = (blocks + markGroup - 1) / markGroup * markGroup;
-    if (copy.size() < blocks * cellsPerMark) copy.resize(blocks * cellsPerMark);
-    if (dirty.size() < marks) dirty.resize(marks);
-    const std::int32_t* const cells = &cells_[static_cast<std::size_t>(y - area_.top) * rowCells_];
-    std::copy_n(cells + first, count, copy.begin());
-    std::fill_n(dirty.begin(), blocks, dirtyMark);
-    addWrapping(before, sumOfCells(y, first));
-    sweepRow({copy.data(), dirty.data(), marks, before}, pixels, count, color);
 }
 
 }  // namespace marlevo

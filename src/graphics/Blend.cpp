@@ -1,6 +1,7 @@
 #include "graphics/Blend.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -14,45 +15,24 @@
 HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 
-// A span is blended in the widest vectors, its rest in short ones.
-using WideVector = hn::ScalableTag<std::uint32_t>;
-using ShortVector = hn::CappedTag<std::uint32_t, 4>;
-
-/// Blends as many whole vectors of `d32` as fit and returns the number of pixels done.
-template <class D32>
-HWY_INLINE std::size_t blendCovered(D32 d32, std::uint8_t* HWY_RESTRICT pixels,
-                                    const std::uint8_t* HWY_RESTRICT coverage, std::size_t count,
-                                    PackedColor color) {
-    const hn::Rebind<std::uint8_t, D32> dCoverage;
-    const ColorBlender<D32> blender(color);
-    const std::size_t lanes = hn::Lanes(d32);
-    std::size_t done = 0;
-    for (; done + lanes <= count; done += lanes)
-        blender.blend(hn::PromoteTo(d32, hn::LoadU(dCoverage, coverage + done)), pixels + 4 * done);
-    return done;
+void blendCovered(std::uint8_t* HWY_RESTRICT pixels, const std::uint8_t* HWY_RESTRICT coverage,
+                  std::size_t count, PackedColor color) {
+    const Pixels d;
+    const hn::Rebind<std::uint8_t, Pixels> dCoverage;
+    const ColorBlender<> blender(color);
+    for (std::size_t at = 0; at < count; at += hn::Lanes(d)) {
+        std::array<std::uint8_t, maxPixelsPerVector> covered{};
+        std::memcpy(covered.data(), coverage + at, std::min(hn::Lanes(d), count - at));
+        blender.blend(hn::PromoteTo(d, hn::LoadU(dCoverage, covered.data())), pixels + 4 * at,
+                      count - at);
+    }
 }
 
-template <class D32>
-HWY_INLINE std::size_t blendFully(D32 d32, std::uint8_t* pixels, std::size_t count,
-                                  PackedColor color) {
-    const ColorBlender<D32> blender(color);
-    const std::size_t lanes = hn::Lanes(d32);
-    std::size_t done = 0;
-    for (; done + lanes <= count; done += lanes)
-        blender.blendFully(pixels + 4 * done);
-    return done;
-}
-
-std::size_t blendCoveredVectors(std::uint8_t* pixels, const std::uint8_t* coverage,
-                                std::size_t count, PackedColor color) {
-    const std::size_t done = blendCovered(WideVector(), pixels, coverage, count, color);
-    return done +
-           blendCovered(ShortVector(), pixels + 4 * done, coverage + done, count - done, color);
-}
-
-std::size_t blendSolidVectors(std::uint8_t* pixels, std::size_t count, PackedColor color) {
-    const std::size_t done = blendFully(WideVector(), pixels, count, color);
-    return done + blendFully(ShortVector(), pixels + 4 * done, count - done, color);
+void blendFully(std::uint8_t* pixels, std::size_t count, PackedColor color) {
+    const Pixels d;
+    const ColorBlender<> blender(color);
+    for (std::size_t at = 0; at < count; at += hn::Lanes(d))
+        blender.blend(hn::Set(d, 255), pixels + 4 * at, count - at);
 }
 
 }  // namespace marlevo::HWY_NAMESPACE
@@ -61,8 +41,8 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace marlevo {
 
-HWY_EXPORT(blendCoveredVectors);
-HWY_EXPORT(blendSolidVectors);
+HWY_EXPORT(blendCovered);
+HWY_EXPORT(blendFully);
 
 namespace {
 
@@ -95,21 +75,16 @@ PackedColor packColor(const Color& color, double alpha, PixelOrder order) {
 
 void blendSpan(std::uint8_t* pixels, const std::uint8_t* coverage, std::size_t count,
                PackedColor color) {
-    if (color.alpha == 0) return;
-    std::size_t i = HWY_DYNAMIC_DISPATCH(blendCoveredVectors)(pixels, coverage, count, color);
-    for (; i < count; ++i)
-        blendPixel(pixels + 4 * i, color, coverage[i]);
+    HWY_DYNAMIC_DISPATCH(blendCovered)(pixels, coverage, count, color);
 }
 
 void blendSolid(std::uint8_t* pixels, std::size_t count, PackedColor color) {
-    if (color.alpha == 0) return;
+    if (color.alpha == 0 || count == 0) return;
     if (color.alpha == 255) {
         fillPixels(pixels, count, color);
-        return;
+    } else {
+        HWY_DYNAMIC_DISPATCH(blendFully)(pixels, count, color);
     }
-    std::size_t i = HWY_DYNAMIC_DISPATCH(blendSolidVectors)(pixels, count, color);
-    for (; i < count; ++i)
-        blendPixel(pixels + 4 * i, color, 255);
 }
 
 }  // namespace marlevo

@@ -5,6 +5,9 @@
 
 #include <hwy/highway.h>
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 #if defined(MARLEVO_GRAPHICS_BLEND_VECTOR_INL_H) == defined(HWY_TARGET_TOGGLE)
@@ -18,6 +21,9 @@ HWY_BEFORE_NAMESPACE();
 namespace marlevo::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
+
+/// The widest vectors of pixels, one per lane.
+using Pixels = hn::CappedTag<std::uint32_t, maxPixelsPerVector>;
 
 #if HWY_TARGET != HWY_SCALAR
 
@@ -57,27 +63,36 @@ HWY_INLINE void compositeOver(D32 d32, std::uint8_t* pixels, UnpackedPixels<V16>
     hn::StoreU(hn::BitCast(dBytes, blended), dBytes, pixels);
 }
 
-/// Blends one colour onto vectors of pixels, one pixel per 32-bit lane.
-template <class D32>
+/// As compositeOver(), for no more than the first `count` pixels of the vector.
+template <class D32, class V16>
+HWY_INLINE void compositeFirst(D32 d32, std::uint8_t* pixels, std::size_t count,
+                               UnpackedPixels<V16> source, V16 keep) {
+    if (count >= hn::Lanes(d32)) {
+        compositeOver(d32, pixels, source, keep);
+        return;
+    }
+    std::array<std::uint8_t, 4 * maxPixelsPerVector> part{};
+    std::memcpy(part.data(), pixels, 4 * count);
+    compositeOver(d32, part.data(), source, keep);
+    std::memcpy(pixels, part.data(), 4 * count);
+}
+
+/// Blends one colour onto vectors of pixels.
+template <class D32 = Pixels>
 class ColorBlender {
 public:
     explicit ColorBlender(PackedColor color)
         : color_(unpackBytes(D32(), pixelOf(color))), alpha_(hn::Set(D16(), color.alpha)) {}
 
-    /// `coverage` lanes are 0 … 255.
-    HWY_INLINE void blend(hn::VFromD<D32> coverage, std::uint8_t* pixels) const {
+    /// Blends no more than the first `count` pixels of a vector. `coverage` lanes are 0 … 255.
+    HWY_INLINE void blend(hn::VFromD<D32> coverage, std::uint8_t* pixels, std::size_t count) const {
         const D16 d16;
         const auto cover = hn::BitCast(d16, hn::Or(coverage, hn::ShiftLeft<16>(coverage)));
         const auto keep = hn::Sub(hn::Set(d16, std::uint16_t{255}), mulDiv255(d16, alpha_, cover));
-        compositeOver(D32(), pixels,
-                      UnpackedPixels<V16>{mulDiv255(d16, color_.even, cover),
-                                          mulDiv255(d16, color_.odd, cover)},
-                      keep);
-    }
-
-    /// As blend() with a coverage of 255.
-    HWY_INLINE void blendFully(std::uint8_t* pixels) const {
-        compositeOver(D32(), pixels, color_, hn::Sub(hn::Set(D16(), std::uint16_t{255}), alpha_));
+        compositeFirst(D32(), pixels, count,
+                       UnpackedPixels<V16>{mulDiv255(d16, color_.even, cover),
+                                           mulDiv255(d16, color_.odd, cover)},
+                       keep);
     }
 
 private:
@@ -97,15 +112,14 @@ private:
 #else
 
 /// Vectors of a single pixel.
-template <class D32>
+template <class D32 = Pixels>
 class ColorBlender {
 public:
     explicit ColorBlender(PackedColor color) : color_(color) {}
 
-    void blend(hn::VFromD<D32> coverage, std::uint8_t* pixel) const {
+    void blend(hn::VFromD<D32> coverage, std::uint8_t* pixel, std::size_t /*count*/) const {
         blendPixel(pixel, color_, static_cast<std::uint8_t>(hn::GetLane(coverage)));
     }
-    void blendFully(std::uint8_t* pixel) const { blendPixel(pixel, color_, 255); }
 
 private:
     PackedColor color_;

@@ -51,6 +51,12 @@ struct Bounds {
                bottom >= other.top;
     }
 
+    /// True if all of this box, which may be empty, is in the other one.
+    bool isWithin(const Bounds& other) const {
+        return left >= other.left && top >= other.top && right <= other.right &&
+               bottom <= other.bottom;
+    }
+
     /// The box, rounded outwards to whole pixels, within `clip`, which is not empty.
     IntRect pixelsWithin(const IntRect& clip) const {
         const auto within = [](double value, int low, int high) {

@@ -51,7 +51,8 @@ HWY_INLINE void put(const BlendSink& sink, int left, int top, const BlockCoverag
     for (int row = 0; row < BlockGrid::blockHeight; ++row) {
         std::uint8_t* const pixels = sink.target.pixel(left, top + row);
         for (std::size_t x = 0; x < BlockGrid::blockWidth; x += hn::Lanes(d32))
-            blender.blend(hn::PromoteTo(d32, hn::LoadU(dCoverage, covered + x)), pixels + 4 * x);
+            blender.blend(hn::PromoteTo(d32, hn::LoadU(dCoverage, covered + x)), pixels + 4 * x,
+                          hn::Lanes(d32));
         covered += BlockGrid::blockWidth;
     }
 }

@@ -1,7 +1,5 @@
 #include "graphics/Flatten.h"
 
-#include "graphics/ClipToBorder.h"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -15,87 +13,19 @@ constexpr int maxSegmentsPerCurve = 512;
 
 bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
-/// Builds a FlattenedPath from device points of any size.
-class ContourBuilder {
-public:
-    ContourBuilder(OpenContours openContours, FlattenedPath& out)
-        : openContours_(openContours), out_(out) {}
-
-    void moveTo(Point p) {
-        finishContour();
-        start_ = current_ = p;
-        hasCurrent_ = true;
-    }
-
-    void lineTo(Point p) {
-        if (!isDrawing_) begin();
-        if (isInRange(current_) && isInRange(p)) {
-            out_.points.push_back(p);
-        } else {
-            addAlongBorder(current_, p);
-        }
-        current_ = p;
-    }
-
-    /// Joins the contour to its start and moves the pen there.
-    void close() {
-        // Of points outside the range the joining segment needs the corners on the border, too.
-        if (!isInRange(current_) || !isInRange(start_)) lineTo(start_);
-        if (isDrawing_) out_.contours.back().closed = true;
-        moveTo(start_);
-    }
-
-    void finishContour() {
-        if (!isDrawing_) return;
-        FlattenedPath::Contour& contour = out_.contours.back();
-        if (openContours_ == OpenContours::close && !contour.closed) {
-            if (!isInRange(current_) || !isInRange(start_)) addAlongBorder(current_, start_);
-            contour.closed = true;
-        }
-        contour.count = out_.points.size() - contour.first;
-        isDrawing_ = false;
-    }
-
-    bool hasCurrent() const { return hasCurrent_; }
-    Point current() const { return current_; }
-
-private:
-    static constexpr double limit = FlattenedPath::maxCoordinate;
-
-    static bool isInRange(Point p) { return std::abs(p.x) <= limit && std::abs(p.y) <= limit; }
-
-    void begin() {
-        out_.contours.push_back({out_.points.size(), 0, false});
-        out_.points.push_back(nearestInSquare(current_, limit));
-        isDrawing_ = true;
-    }
-
-    void addAlongBorder(Point from, Point to) {
-        clipToBorder(from, to, limit, [this](Point p) { out_.points.push_back(p); });
-    }
-
-    OpenContours openContours_;
-    FlattenedPath& out_;
-    Point start_;
-    Point current_;
-    bool hasCurrent_ = false;
-    bool isDrawing_ = false;
-};
-
+/// Appends the elements of a path to a FlattenedPath, whose points are finite and of any size.
 class Flattener {
 public:
-    Flattener(const DeviceFrame& frame, double tolerance, const Bounds& cull,
-              ContourBuilder& builder)
+    Flattener(const DeviceFrame& frame, double tolerance, const Bounds& cull, FlattenedPath& out)
         : frame_(frame), tolerance_(tolerance),
           oneSegmentBendSquare_(4 * tolerance * (4 * tolerance)),
-          twoSegmentsBendSquare_(16 * tolerance * (16 * tolerance)), cull_(cull),
-          builder_(builder) {}
+          twoSegmentsBendSquare_(16 * tolerance * (16 * tolerance)), cull_(cull), out_(out) {}
 
     void add(const Path::Element& element) {
         if (!isFinite(element.point) || !isFinite(element.control)) return;
         switch (element.kind) {
         case Path::Kind::move:
-            builder_.moveTo(toDevice(element.point));
+            moveTo(toDevice(element.point));
             break;
         case Path::Kind::line:
             addLine(toDevice(element.point));
@@ -112,42 +42,67 @@ public:
         }
     }
 
+    void finishContour() {
+        if (!isDrawing_) return;
+        FlattenedPath::Contour& contour = out_.contours.back();
+        contour.count = out_.points.size() - contour.first;
+        isDrawing_ = false;
+    }
+
 private:
     // Beyond every picture, but differences of such coordinates stay finite.
     static constexpr double horizon = 1e30;
 
-    Point toDevice(Point p) const { return nearestInSquare(frame_.map(p), horizon); }
+    Point toDevice(Point p) const {
+        const Point mapped = frame_.map(p);
+        return {std::clamp(mapped.x, -horizon, horizon), std::clamp(mapped.y, -horizon, horizon)};
+    }
+
+    void moveTo(Point p) {
+        finishContour();
+        current_ = p;
+        hasCurrent_ = true;
+    }
+
+    /// Starts a contour at the current point unless one is started.
+    void begin() {
+        if (isDrawing_) return;
+        out_.contours.push_back({out_.points.size(), 0, false});
+        out_.points.push_back(current_);
+        isDrawing_ = true;
+    }
 
     void addLine(Point to) {
-        if (!builder_.hasCurrent()) builder_.moveTo(to);
-        builder_.lineTo(to);
+        if (!hasCurrent_) moveTo(to);
+        begin();
+        lineTo(to);
+    }
+
+    void lineTo(Point p) {
+        out_.points.push_back(p);
+        current_ = p;
     }
 
     void addQuadCurve(Point control, Point to) {
-        if (!builder_.hasCurrent()) builder_.moveTo(control);
-        const Point from = builder_.current();
+        if (!hasCurrent_) moveTo(control);
+        begin();
+        const Point from = current_;
         const Point bend{from.x - 2 * control.x + to.x, from.y - 2 * control.y + to.y};
         const double bendSquare = bend.x * bend.x + bend.y * bend.y;
-        // The curves of freehand lines are so short that one or two segments are enough.
-        if (bendSquare < oneSegmentBendSquare_) {
-            builder_.lineTo(to);
-            return;
-        }
         const Point slope{2 * (control.x - from.x), 2 * (control.y - from.y)};
         const auto pointAt = [&](double t) {
             return Point{from.x + t * (slope.x + t * bend.x), from.y + t * (slope.y + t * bend.y)};
         };
+        // The curves of freehand lines are so short that one or two segments are enough.
         if (bendSquare < twoSegmentsBendSquare_) {
-            builder_.lineTo(pointAt(0.5));
-            builder_.lineTo(to);
-            return;
+            if (bendSquare >= oneSegmentBendSquare_) lineTo(pointAt(0.5));
+        } else if (const Point corners[]{from, control, to}; Bounds::of(corners).touches(cull_)) {
+            const int count = segmentsPerCurve(bendSquare);
+            const double step = 1.0 / count;
+            for (int i = 1; i < count; ++i)
+                lineTo(pointAt(i * step));
         }
-        const Point corners[]{from, control, to};
-        const int count = Bounds::of(corners).touches(cull_) ? segmentsPerCurve(bendSquare) : 1;
-        const double step = 1.0 / count;
-        for (int i = 1; i < count; ++i)
-            builder_.lineTo(pointAt(i * step));
-        builder_.lineTo(to);
+        lineTo(to);
     }
 
     // Equal steps of the parameter: the distance of a piece of length h from its chord is at most
@@ -160,11 +115,11 @@ private:
     void addRect(const Rect& rect) {
         const Point a = toDevice({rect.minX(), rect.minY()});
         const Point b = toDevice({rect.maxX(), rect.maxY()});
-        builder_.moveTo(a);
-        builder_.lineTo({b.x, a.y});
-        builder_.lineTo(b);
-        builder_.lineTo({a.x, b.y});
-        builder_.close();
+        moveTo(a);
+        begin();
+        for (const Point corner : {Point{b.x, a.y}, b, Point{a.x, b.y}})
+            lineTo(corner);
+        close();
     }
 
     void addEllipse(const Rect& rect) {
@@ -180,16 +135,17 @@ private:
         const double stepCos = std::cos(step);
         const double stepSin = std::sin(step);
 
-        builder_.moveTo({center.x + radius.x, center.y});
+        moveTo({center.x + radius.x, center.y});
+        begin();
         double cos = 1;
         double sin = 0;
         for (int i = 1; i < 4 * quarter; ++i) {
             const double nextCos = cos * stepCos - sin * stepSin;
             sin = sin * stepCos + cos * stepSin;
             cos = nextCos;
-            builder_.lineTo({center.x + radius.x * cos, center.y + radius.y * sin});
+            lineTo({center.x + radius.x * cos, center.y + radius.y * sin});
         }
-        builder_.close();
+        close();
     }
 
     // The distance of a chord over the angle s from its circle of radius r is r · (1 − cos(s / 2)).
@@ -200,12 +156,22 @@ private:
         return static_cast<int>(std::min<double>(count, maxSegmentsPerCurve));
     }
 
+    /// Joins the contour to its first point, which becomes the current one.
+    void close() {
+        FlattenedPath::Contour& contour = out_.contours.back();
+        contour.closed = true;
+        moveTo(out_.points[contour.first]);
+    }
+
     const DeviceFrame& frame_;
     double tolerance_;
     double oneSegmentBendSquare_;  ///< a curve that bends less becomes its chord
     double twoSegmentsBendSquare_;
     const Bounds& cull_;
-    ContourBuilder& builder_;
+    FlattenedPath& out_;
+    Point current_;
+    bool hasCurrent_ = false;
+    bool isDrawing_ = false;
 };
 
 }  // namespace
@@ -214,11 +180,15 @@ void flatten(const Path& path, const DeviceFrame& frame, double tolerance, Flatt
              OpenContours openContours, const Bounds& cull) {
     out.clear();
     if (!frame.isUsable()) return;
-    ContourBuilder builder(openContours, out);
-    Flattener flattener(frame, tolerance, cull, builder);
+    Flattener flattener(frame, tolerance, cull, out);
     for (const Path::Element& element : path.elements())
         flattener.add(element);
-    builder.finishContour();
+    flattener.finishContour();
+    if (openContours == OpenContours::close)
+        for (FlattenedPath::Contour& contour : out.contours)
+            contour.closed = true;
+    if (!Bounds::of(out.points).isWithin(flattenedRange))
+        out = out.clippedTo(FlattenedPath::maxCoordinate);
 }
 
 }  // namespace marlevo

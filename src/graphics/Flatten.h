@@ -24,10 +24,10 @@ inline constexpr Bounds flattenedRange{-FlattenedPath::maxCoordinate, -Flattened
 /// A curve outside `cull`, a box on the device, becomes one segment, which is outside too; the
 /// points inside do not depend on `cull`.
 ///
-/// Segments beyond FlattenedPath::maxCoordinate follow that border (see clipToBorder()). An element
-/// with a coordinate that is not finite is left out; the next one starts at the last point before
-/// it. A frame that is not usable gives an empty path. A lone move draws nothing; a segment of
-/// length zero makes a contour of coinciding points.
+/// Segments beyond FlattenedPath::maxCoordinate follow that border (see
+/// FlattenedPath::clippedTo()). An element with a coordinate that is not finite is left out; the
+/// next one starts at the last point before it. A frame that is not usable gives an empty path. A
+/// lone move draws nothing; a segment of length zero makes a contour of coinciding points.
 void flatten(const Path& path, const DeviceFrame& frame, double tolerance, FlattenedPath& out,
              OpenContours openContours = OpenContours::keep, const Bounds& cull = flattenedRange);
 

@@ -32,6 +32,12 @@ public:
 
     bool isEmpty() const { return contours.empty(); }
 
+    /// The path with each point of its segments replaced by the nearest one in the square of all
+    /// coordinates from −limit to +limit. Parts outside then follow the border, so the parts inside
+    /// and the winding numbers inside stay the same. The points of this path may have any value; a
+    /// contour with one that is not finite is left out.
+    FlattenedPath clippedTo(double limit) const;
+
     /// Empties the path and keeps its memory.
     void clear() {
         points.clear();

@@ -1,14 +1,13 @@
 #include "graphics/AccumulationBuffer.h"
-#include "graphics/AccumulationSweep.h"
 #include "graphics/Bounds.h"
-#include "graphics/EdgeBuilder.h"
+#include "graphics/Edge.h"
 #include "graphics/FlattenedPath.h"
 #include "graphics/IncrementalStroke.h"
+#include "graphics/RasterScratch.h"
 #include "graphics/Stroker.h"
 #include "graphics/TileMap.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <vector>
@@ -43,43 +42,27 @@ private:
     static constexpr int tileSide = 128;
 
     struct Tile {
-        explicit Tile(const IntRect& place);
-        void updateRowSums();
+        explicit Tile(const IntRect& place) : area(place) { cells.reset(place); }
 
         IntRect area;
         AccumulationBuffer cells;
-        std::vector<std::int32_t>
-            rowSums;  ///< the contribution of each row to the tiles right of it
     };
 
     enum class Change : int { add = 1, remove = -1 };
 
-    /// The first row or column of the tile that contains a row or column.
-    static int rowOfTiles(int y) { return y & -tileSide; }
-    static int columnOfTiles(int x) { return x & -tileSide; }
+    /// The end of the row of tiles that contains a row.
+    static int endOfTileRow(int y) { return (y & -tileSide) + tileSide; }
 
     void changeBy(const FlattenedPath& line, Change change);
     void addEdge(const Edge& edge);
     FlattenedPath lastSegments() const;
-    void blendTileRow(const PixelBuffer& target, PackedColor color) const;
 
     double width_;
     TileMap<Tile, tileSide> tiles_;
-    IntRect extent_;           ///< contains all pixels that an edge touches
     std::vector<Point> tail_;  ///< the last fixed points that the stroker does not merge
     Point end_;
     FlattenedPath outline_;  ///< kept for its memory
 };
-
-IncrementalArea::Tile::Tile(const IntRect& place)
-    : area(place), rowSums(static_cast<std::size_t>(tileSide)) {
-    cells.reset(place);
-}
-
-void IncrementalArea::Tile::updateRowSums() {
-    for (int row = 0; row < tileSide; ++row)
-        rowSums[static_cast<std::size_t>(row)] = cells.rowSum(area.top + row);
-}
 
 IntRect IncrementalArea::extend(std::span<const Point> fixed, Point end) {
     std::vector<Point> affected;
@@ -103,8 +86,6 @@ IntRect IncrementalArea::extend(std::span<const Point> fixed, Point end) {
     affected.push_back(end_);
     affected.insert(affected.end(), tail_.begin(), tail_.end());
     const double reach = width_ / 2 + 1;
-    tiles_.forEachKnownTile(areaAround(affected, reach), [](Tile& tile) { tile.updateRowSums(); });
-
     const std::size_t unchanged = known > segmentsChanged ? known - segmentsChanged - 1 : 0;
     const auto oldEndAndNew = std::span(affected).first(affected.size() - tail_.size());
     const IntRect changed = areaAround(oldEndAndNew, reach)
@@ -124,7 +105,7 @@ FlattenedPath IncrementalArea::lastSegments() const {
 
 void IncrementalArea::changeBy(const FlattenedPath& line, Change change) {
     strokeOutline(line, width_, 1, 1, outline_);
-    EdgeBuilder(outline_).forEach([&](Edge edge) {
+    forEachEdge(outline_, [&](Edge edge) {
         edge.winding *= static_cast<int>(change);
         addEdge(edge);
     });
@@ -132,77 +113,39 @@ void IncrementalArea::changeBy(const FlattenedPath& line, Change change) {
 
 /// Adds the edge to the tiles that it crosses.
 void IncrementalArea::addEdge(const Edge& edge) {
-    constexpr int bits = AccumulationBuffer::subpixelBits;
+    constexpr int bits = Edge::subpixelBits;
     const double slope = double(edge.x1 - edge.x0) / double(edge.y1 - edge.y0);
     const auto xAt = [&](int row) {
         return edge.x0 + slope * (std::clamp(row << bits, edge.y0, edge.y1) - edge.y0);
     };
     const int end = ((edge.y1 - 1) >> bits) + 1;
     for (int top = edge.y0 >> bits, bottom = 0; top < end; top = bottom) {
-        bottom = std::min(rowOfTiles(top) + tileSide, end);
+        bottom = std::min(endOfTileRow(top), end);
         const auto [least, most] = std::minmax({xAt(top), xAt(bottom)});
         // A subpixel more on each side covers rounding.
         const IntRect touched{(static_cast<int>(std::floor(least)) - 1) >> bits, top,
                               ((static_cast<int>(std::ceil(most)) + 1) >> bits) + 1, bottom};
-        extent_ = extent_.unitedWith(touched);
         tiles_.forEachTile(touched, [&](Tile& tile) { tile.cells.add(edge); });
     }
 }
 
 void IncrementalArea::blendInto(const PixelBuffer& target, PackedColor color) const {
-    const IntRect seen = target.area.intersectedWith(
-        {target.area.left, extent_.top, target.area.right, extent_.bottom});
-    for (int top = seen.top, bottom = 0; top < seen.bottom; top = bottom) {
-        bottom = std::min(rowOfTiles(top) + tileSide, seen.bottom);
-        blendTileRow({target.pixel(target.area.left, top),
-                      target.stride,
-                      {target.area.left, top, target.area.right, bottom},
-                      target.order},
-                     color);
-    }
-}
-
-/// For a target within one row of tiles.
-void IncrementalArea::blendTileRow(const PixelBuffer& target, PackedColor color) const {
+    AccumulationBuffer& buffer = RasterScratch::ofThread().accumulation;
+    const ResetOnException guard(buffer);
     const IntRect& area = target.area;
-    const int firstRow = rowOfTiles(area.top);
-    std::array<std::uint32_t, tileSide> sums{};  // of all tiles further left
-    const auto pass = [&](const Tile& tile) {
-        for (int row = 0; row < tileSide; ++row)
-            sums[static_cast<std::size_t>(row)] +=
-                static_cast<std::uint32_t>(tile.rowSums[static_cast<std::size_t>(row)]);
-    };
-    const auto sumAt = [&](int y) {
-        return static_cast<std::int32_t>(sums[static_cast<std::size_t>(y - firstRow)]);
-    };
-    int done = area.left;
-    // Between tiles the sum of each row is constant.
-    const auto blendGap = [&](int right) {
-        if (right <= done) return;
-        for (int y = area.top; y < area.bottom; ++y)
-            sweepRow({nullptr, nullptr, 0, sumAt(y)}, target.pixel(done, y),
-                     static_cast<std::size_t>(right - done), color);
-        done = right;
-    };
-    const int left = std::min(extent_.left, area.left);
-    for (int column = columnOfTiles(left); column < area.right; column += tileSide) {
-        tiles_.forEachKnownTile(
-            {column, area.top, column + 1, area.top + 1}, [&](const Tile& tile) {
-                blendGap(std::min(tile.area.left, area.right));
-                const int right = std::min(tile.area.right, area.right);
-                if (right > done) {
-                    for (int y = area.top; y < area.bottom; ++y)
-                        tile.cells.blendRow(y, done, right, sumAt(y), target.pixel(done, y), color);
-                    done = right;
-                }
-                pass(tile);
-            });
+    for (int top = area.top, bottom = 0; top < area.bottom; top = bottom) {
+        bottom = std::min(endOfTileRow(top), area.bottom);
+        buffer.reset({area.left, top, area.right, bottom});
+        // Edges left of the target count, too.
+        const int left = -static_cast<int>(maxCoordinate) * 2;
+        tiles_.forEachKnownTile({left, top, area.right, bottom},
+                                [&](const Tile& tile) { buffer.add(tile.cells); });
+        buffer.blendInto(target, color);
     }
-    blendGap(area.right);
 }
 
 std::size_t IncrementalArea::bytes() const {
-    return tiles_.size() * sizeof(std::int32_t) * tileSide * (tileSide + cellsPerMark);
+    return tiles_.size() * sizeof(std::int32_t) * tileSide * (tileSide + SumRow::cellsPerMark);
 }
 
 }  // namespace

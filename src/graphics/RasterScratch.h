@@ -4,7 +4,7 @@
 #include "graphics/DistanceField.h"
 #include "graphics/FlattenedPath.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <exception>
 #include <vector>
 
@@ -17,10 +17,6 @@ struct RasterScratch {
     std::vector<Edge> edges;
     AccumulationBuffer accumulation;
     DistanceField field;
-    struct {
-        std::vector<std::int32_t> cells;
-        std::vector<std::uint8_t> marks;
-    } row;
 
     static RasterScratch& ofThread() {
         thread_local RasterScratch scratch;

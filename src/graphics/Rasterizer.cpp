@@ -2,7 +2,7 @@
 
 #include "graphics/AccumulationBuffer.h"
 #include "graphics/Bounds.h"
-#include "graphics/EdgeBuilder.h"
+#include "graphics/Edge.h"
 #include "graphics/Flatten.h"
 #include "graphics/RasterScratch.h"
 #include "graphics/RoundPen.h"
@@ -122,8 +122,22 @@ IntRect areaByDistance(const FlattenedPath& line, double deviceWidth) {
 }
 
 void fillOutline(const FlattenedPath& outline, const BlendSink& sink) {
-    const EdgeBuilder edges(outline);
-    const IntRect touched = edges.touchedPixels(sink.area());
+    constexpr double limit = Edge::limit;
+    Bounds bounds;
+    double nonFinite = 0;  // not a number if a coordinate is not finite
+    for (const Point p : outline.points) {
+        bounds.include(p);
+        nonFinite += (p.x - p.x) + (p.y - p.y);
+    }
+    if (nonFinite != 0 || !bounds.isWithin({-limit, -limit, limit, limit})) {
+        FlattenedPath closed = outline;
+        for (FlattenedPath::Contour& contour : closed.contours)
+            contour.closed = true;
+        fillOutline(closed.clippedTo(limit), sink);
+        return;
+    }
+    if (sink.area().isEmpty()) return;
+    const IntRect touched = bounds.pixelsWithin(sink.area());
     if (touched.isEmpty()) return;
 
     RasterScratch& scratch = RasterScratch::ofThread();
@@ -134,17 +148,15 @@ void fillOutline(const FlattenedPath& outline, const BlendSink& sink) {
     const int bandRows = std::clamp(maxBandCells / touched.width(), 1, touched.height());
     for (int top = touched.top; top < touched.bottom; top += bandRows) {
         const int bottom = std::min(top + bandRows, touched.bottom);
-        const std::int32_t bottomY = bottom * AccumulationBuffer::subpixels;
         buffer.reset({touched.left, top, touched.right, bottom});
-        const auto addToBand = [&](const Edge& edge) {
-            if (edge.y0 < bottomY) buffer.add(edge);
-        };
         if (top > touched.top) {
-            std::ranges::for_each(below, addToBand);
+            for (const Edge& edge : below)
+                buffer.add(edge);
         } else {
-            edges.forEach([&](const Edge& edge) {
-                addToBand(edge);
-                if (edge.y1 > bottomY && bottom < touched.bottom) below.push_back(edge);
+            const std::int32_t end = bottom < touched.bottom ? bottom * Edge::subpixels : INT32_MAX;
+            forEachEdge(outline, [&](const Edge& edge) {
+                buffer.add(edge);
+                if (edge.y1 > end) below.push_back(edge);
             });
         }
         buffer.blendInto(sink.target, sink.color);

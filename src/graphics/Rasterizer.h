@@ -58,7 +58,8 @@ IntRect areaByDistance(const FlattenedPath& line, double deviceWidth);
 /// coverages that overlap are added, and opposite ones cancel.
 ///
 /// Each pixel gets the same bytes whatever part of the plane is painted. Coordinates may have any
-/// value; see EdgeBuilder.
+/// value: segments beyond Edge::limit follow that border, and a contour with a coordinate that is
+/// not finite is left out.
 void fillOutline(const FlattenedPath& outline, const BlendSink& sink);
 
 }  // namespace marlevo
