@@ -93,6 +93,16 @@ GridPoint seedOfALargeRegion(const RasterImage& image, std::mt19937& random) {
     return best;
 }
 
+GridPoint seedOfARegion(const RasterImage& image, std::size_t atLeast, std::size_t atMost,
+                        std::mt19937& random) {
+    while (true) {
+        const GridPoint seed{static_cast<int>(random() % image.width()),
+                             static_cast<int>(random() % image.height())};
+        const std::size_t size = floodFill(image, seed).size();
+        if (atLeast <= size && size <= atMost) return seed;
+    }
+}
+
 double floorMilliseconds(const RasterImage& image) {
     return bestMilliseconds(
         25, [&] { benchmark::DoNotOptimize(HWY_DYNAMIC_DISPATCH(readOnce)(image.bytes())); });
@@ -140,6 +150,23 @@ void blankCanvas() {
 #endif
 }
 
+void smallRegions(std::mt19937& random) {
+    const RasterImage image = scribbledPicture(3840, 2160, 9000);
+    std::puts("Small regions among 9,000 strokes on 3840 x 2160");
+    for (const auto& [atLeast, atMost] : {std::pair{2000U, 9000U}, {50U, 150U}}) {
+        const GridPoint seed = seedOfARegion(image, atLeast, atMost, random);
+        std::printf("  %zu cells\n", floodFill(image, seed).size());
+        const double region =
+            bestMilliseconds(200, [&] { benchmark::DoNotOptimize(floodFill(image, seed)); });
+        printRow("region", region);
+#if MARLEVO_HAS_OPENCV
+        const double openCv = openCvMilliseconds(image, seed, fillTolerance);
+        printRow("OpenCV floodFill", openCv);
+        std::printf("  %-46s %9.2f x    at least 4\n", "OpenCV / region", openCv / region);
+#endif
+    }
+}
+
 /// Region, trace and simplification of the click at `seed`, each alone and together.
 void click(const char* title, const RasterImage& image, GridPoint seed, const char* traceLimit,
            const char* totalLimit) {
@@ -180,6 +207,8 @@ int main() {
     const RasterImage scribble = scribbledPicture(1280, 720, 1000);
     click("1,000 strokes on 1280 x 720", scribble, seedOfALargeRegion(scribble, random), "",
           "less than 3");
+
+    smallRegions(random);
 
     for (const int corridor : {1, 3}) {
         click(corridor == 1 ? "Spiral one cell wide on 3840 x 2160"

@@ -1,156 +1,194 @@
 #include "tools/FloodFill.h"
 
-#include "tools/MatchRow.h"
+#include "tools/MatchBlock.h"
+
+#include <queue>
 
 #include <algorithm>
 #include <bit>
+#include <memory>
 
 namespace marlevo {
 namespace {
 
-/// The cells begin … end − 1 of one row.
-struct Run {
-    int begin;
-    int end;
+using Word = Region::Word;
+constexpr int side = Region::wordBits;
+
+/// Grows the bits of `seeds` along the runs of set bits in `row`, in which they lie, to both ends
+/// of each run. Doubles the reach in each step (Kogge-Stone).
+Word fillRuns(Word seeds, Word row) {
+    Word filled = seeds;
+    Word open = row;
+    for (int step = 1; step < side; step *= 2) {
+        filled |= open & (filled << step);
+        open &= open << step;
+    }
+    Word towardsZero = seeds;
+    open = row;
+    for (int step = 1; step < side; step *= 2) {
+        towardsZero |= open & (towardsZero >> step);
+        open &= open >> step;
+    }
+    return filled | towardsZero;
+}
+
+/// The rows of a block, of which the region has a part. Row 0 is the top row.
+struct BlockRows {
+    BlockBits matching;    ///< pixels that have the wanted colour
+    BlockBits filled{};    ///< pixels of the region
+    BlockBits entered{};   ///< pixels of the region whose runs are not filled yet
+    Word waitingRows = 0;  ///< rows with such pixels
+
+    /// Continues the region at those of the given pixels that match and are new. Returns true if
+    /// there are any.
+    bool enter(int y, Word pixels) {
+        pixels &= matching[y] & ~filled[y];
+        entered[y] |= pixels;
+        waitingRows |= Word{pixels != 0} << y;
+        return pixels != 0;
+    }
 };
 
-/// Calls `visit` with each maximal run of set bits, from west to east. The visitor may clear the
-/// run that it is given.
-template <class Visitor>
-void forEachRun(std::span<const Region::Word> row, Visitor visit) {
-    Run run{0, 0};
-    Region::Word carry = 0;
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        const Region::Word word = row[i];
-        // A bit that differs from its western neighbour begins a run or follows its end.
-        Region::Word edges = word ^ (word << 1 | carry);
-        carry = word >> (Region::wordBits - 1);
-        for (; edges != 0; edges &= edges - 1) {
-            const int bit = std::countr_zero(edges);
-            const int x = static_cast<int>(i) * Region::wordBits + bit;
-            if (word >> bit & 1) {
-                run.begin = x;
-            } else {
-                run.end = x;
-                visit(run);
-            }
-        }
-    }
-    if (carry != 0) {
-        run.end = static_cast<int>(row.size()) * Region::wordBits;
-        visit(run);
-    }
-}
+/// A block of 64 × 64 pixels; fewer at the right and the lower side of the picture.
+struct Block {
+    bool isRead = false;
+    bool isQueued = false;
+    bool isFilled = false;            ///< only of a block whose pixels all match
+    std::unique_ptr<BlockRows> rows;  ///< null if all pixels match
+};
 
-void clearRun(std::span<Region::Word> row, Run run) {
-    constexpr Region::Word ones = ~Region::Word{0};
-    const int first = run.begin / Region::wordBits;
-    const int last = (run.end - 1) / Region::wordBits;
-    const Region::Word fromBegin = ones << (run.begin % Region::wordBits);
-    const Region::Word upToEnd = ones >> (Region::wordBits - 1 - (run.end - 1) % Region::wordBits);
-    if (first == last) {
-        row[first] &= ~(fromBegin & upToEnd);
-        return;
-    }
-    row[first] &= ~fromBegin;
-    std::fill(row.begin() + first + 1, row.begin() + last, Region::Word{0});
-    row[last] &= ~upToEnd;
-}
-
-/// Disjoint sets of runs, numbered in the order in which they were added. A set's root is its
-/// oldest run, so parents never have higher numbers than their children.
-class RunSets {
+/// Floods a picture block by block, in the order in which the region reaches them. Only these
+/// blocks are read.
+class BlockFlood {
 public:
-    using Number = std::uint32_t;
+    /// `region` is empty and has the size of the picture.
+    BlockFlood(const RasterImage& image, const ColorRange& range, Region& region)
+        : image_(image), range_(range), region_(region),
+          columns_((image.width() + side - 1) / side), rows_((image.height() + side - 1) / side),
+          blocks_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_)) {}
 
-    Number add() {
-        const auto number = static_cast<Number>(parents_.size());
-        parents_.push_back(number);
-        return number;
-    }
-
-    Number root(Number run) {
-        while (parents_[run] != run) {
-            parents_[run] = parents_[parents_[run]];
-            run = parents_[run];
+    /// Pixel (x, y) lies in the picture and matches; row 0 is the top row.
+    void flood(int x, int y) {
+        enter({x / side, y / side}, y % side, Word{1} << (x % side));
+        while (!queue_.empty()) {
+            const Place place = queue_.front();
+            queue_.pop();
+            Block& block = blockAt(place);
+            block.isQueued = false;
+            if (block.rows)
+                fillRows(*block.rows, place);
+            else
+                fillWhole(block, place);
         }
-        return run;
-    }
-
-    void join(Number a, Number b) {
-        a = root(a);
-        b = root(b);
-        parents_[std::max(a, b)] = std::min(a, b);
+        for (int row = 0; row < rows_; ++row)
+            for (int column = 0; column < columns_; ++column)
+                if (const Block& block = blockAt({column, row}); block.rows)
+                    copyToRegion(block.rows->filled, {column, row});
     }
 
 private:
-    std::vector<Number> parents_;
-};
+    /// A block's column and row among all blocks.
+    struct Place {
+        int column;
+        int row;
+    };
 
-/// The runs of one row, of which the first has the number `firstNumber`.
-struct RowRuns {
-    std::vector<Run> runs;
-    RunSets::Number firstNumber = 0;
-};
+    Block& blockAt(Place place) {
+        return blocks_[static_cast<std::size_t>(place.row) * static_cast<std::size_t>(columns_) +
+                       static_cast<std::size_t>(place.column)];
+    }
 
-/// Joins each run of a row with the runs of the row above that share a column with it.
-void joinRows(const RowRuns& above, const RowRuns& row, RunSets& sets) {
-    std::size_t from = 0;
-    for (std::size_t i = 0; i < row.runs.size(); ++i) {
-        const Run run = row.runs[i];
-        while (from < above.runs.size() && above.runs[from].end <= run.begin)
-            ++from;
-        for (std::size_t j = from; j < above.runs.size() && above.runs[j].begin < run.end; ++j) {
-            sets.join(above.firstNumber + static_cast<RunSets::Number>(j),
-                      row.firstNumber + static_cast<RunSets::Number>(i));
+    int widthAt(Place place) const { return std::min(side, image_.width() - place.column * side); }
+    int heightAt(Place place) const { return std::min(side, image_.height() - place.row * side); }
+    Word allColumnsAt(Place place) const { return ~Word{0} >> (side - widthAt(place)); }
+
+    void read(Block& block, Place place) const {
+        const std::size_t rowBytes =
+            static_cast<std::size_t>(image_.width()) * RasterImage::bytesPerPixel;
+        const std::size_t begin =
+            static_cast<std::size_t>(place.row) * side * rowBytes +
+            static_cast<std::size_t>(place.column) * side * RasterImage::bytesPerPixel;
+        const BlockBits matching = matchBlock(
+            {image_.bytes().subspan(begin), rowBytes, widthAt(place), heightAt(place)}, range_);
+        const Word all = allColumnsAt(place);
+        if (!std::all_of(matching.begin(), matching.begin() + heightAt(place),
+                         [all](Word bits) { return bits == all; }))
+            block.rows = std::make_unique<BlockRows>(BlockRows{.matching = matching});
+        block.isRead = true;
+    }
+
+    /// Continues the region at pixels of row `y` of a block that is not being filled. Does nothing
+    /// outside of the picture.
+    void enter(Place place, int y, Word pixels) {
+        if (place.column < 0 || place.column >= columns_ || place.row < 0 || place.row >= rows_ ||
+            pixels == 0)
+            return;
+        Block& block = blockAt(place);
+        if (!block.isRead) read(block, place);
+        const bool isNew = block.rows ? block.rows->enter(y, pixels) : !block.isFilled;
+        if (!isNew || block.isQueued) return;
+        block.isQueued = true;
+        queue_.push(place);
+    }
+
+    void fillRows(BlockRows& rows, Place place) {
+        while (rows.waitingRows != 0) {
+            const int y = std::countr_zero(rows.waitingRows);
+            rows.waitingRows &= rows.waitingRows - 1;
+            const Word run = fillRuns(rows.entered[y], rows.matching[y]) & ~rows.filled[y];
+            rows.entered[y] = 0;
+            rows.filled[y] |= run;
+            if (y > 0)
+                rows.enter(y - 1, run);
+            else
+                enter({place.column, place.row - 1}, side - 1, run);
+            if (y < side - 1)
+                rows.enter(y + 1, run);
+            else
+                enter({place.column, place.row + 1}, 0, run);
+            enter({place.column - 1, place.row}, y, run << (side - 1));
+            enter({place.column + 1, place.row}, y, run >> (side - 1));
         }
     }
-}
 
-/// Removes every run whose set is not `wanted`. Visits the runs in the order of their numbers.
-void keepSet(Region& region, RunSets& sets, RunSets::Number wanted) {
-    RunSets::Number number = 0;
-    for (int y = region.height() - 1; y >= 0; --y) {
-        const std::span<Region::Word> row = region.row(y);
-        forEachRun(row, [&](Run run) {
-            if (sets.root(number++) != wanted) clearRun(row, run);
-        });
+    void fillWhole(Block& block, Place place) {
+        block.isFilled = true;
+        const Word all = allColumnsAt(place);
+        BlockBits filled{};
+        std::fill_n(filled.begin(), heightAt(place), all);
+        copyToRegion(filled, place);
+        enter({place.column, place.row - 1}, side - 1, all);
+        enter({place.column, place.row + 1}, 0, all);
+        for (int y = 0; y < heightAt(place); ++y) {
+            enter({place.column - 1, place.row}, y, all << (side - 1));
+            enter({place.column + 1, place.row}, y, all >> (side - 1));
+        }
     }
-}
+
+    void copyToRegion(const BlockBits& filled, Place place) const {
+        for (int y = 0; y < heightAt(place); ++y)
+            region_.row(image_.height() - 1 - place.row * side -
+                        y)[static_cast<std::size_t>(place.column)] = filled[y];
+    }
+
+    const RasterImage& image_;
+    const ColorRange& range_;
+    Region& region_;
+    int columns_;
+    int rows_;
+    std::vector<Block> blocks_;
+    std::queue<Place> queue_;
+};
 
 }  // namespace
 
 Region floodFill(const RasterImage& image, GridPoint seed, int tolerance) {
-    const int width = image.width();
-    const int height = image.height();
-    Region region(width, height);
-    if (seed.x < 0 || seed.x >= width || seed.y < 0 || seed.y >= height) return region;
-
-    const ColorRange range =
-        ColorRange::around(image.pixel(seed.x, height - 1 - seed.y), tolerance);
-    const std::size_t rowBytes = static_cast<std::size_t>(width) * RasterImage::bytesPerPixel;
-    RunSets sets;
-    RunSets::Number seedRun = 0;
-    RowRuns above;
-    RowRuns current;
-
-    // From top to bottom, which is the order of the picture's memory.
-    for (int y = height - 1; y >= 0; --y) {
-        const auto imageRow = static_cast<std::size_t>(height - 1 - y);
-        const std::span<Region::Word> row = region.row(y);
-        matchRow(image.bytes().subspan(imageRow * rowBytes, rowBytes), range, row);
-
-        std::swap(above, current);
-        current.runs.clear();
-        forEachRun(row, [&](Run run) {
-            const RunSets::Number number = sets.add();
-            if (current.runs.empty()) current.firstNumber = number;
-            if (y == seed.y && run.begin <= seed.x && seed.x < run.end) seedRun = number;
-            current.runs.push_back(run);
-        });
-        joinRows(above, current, sets);
-    }
-    keepSet(region, sets, sets.root(seedRun));
+    Region region(image.width(), image.height());
+    if (seed.x < 0 || seed.x >= image.width() || seed.y < 0 || seed.y >= image.height())
+        return region;
+    const int y = image.height() - 1 - seed.y;
+    const ColorRange range = ColorRange::around(image.pixel(seed.x, y), tolerance);
+    BlockFlood(image, range, region).flood(seed.x, y);
     return region;
 }
 

@@ -15,8 +15,8 @@ inline constexpr int fillTolerance = 35;
 /// neighbour: a slow ramp ends the region.
 ///
 /// `seed` is a cell of the grid laid over the picture (rows count upwards, see GridPoint); a seed
-/// outside gives the empty region. Reads the picture once, from top to bottom, whatever the shape
-/// of the region: runs of matching cells in neighbouring rows are joined by union-find.
+/// outside gives the empty region. Reads the blocks of 64 × 64 pixels that the region reaches, each
+/// once; the cost follows the region and not the picture.
 Region floodFill(const RasterImage& image, GridPoint seed, int tolerance = fillTolerance);
 
 }  // namespace marlevo

@@ -46,6 +46,33 @@ inline Region noise(int width, int height, double density, std::mt19937& random)
     return region;
 }
 
+/// One passage `corridor` cells wide that winds inwards between walls one cell wide.
+inline Region spiral(int width, int height, int corridor) {
+    Region region(width, height);
+    int left = 0;
+    int bottom = 0;
+    int right = width;
+    int top = height;
+    const auto open = [&](int fromX, int fromY, int toX, int toY) {
+        for (int y = std::max(fromY, 0); y < std::min(toY, height); ++y) {
+            for (int x = std::max(fromX, 0); x < std::min(toX, width); ++x)
+                region.insert({x, y});
+        }
+    };
+    while (right - left > 2 * corridor + 1 && top - bottom > 2 * corridor + 1) {
+        // Along the bottom, up the right, back along the top and down to the next turn.
+        open(left - corridor - 1, bottom, right, bottom + corridor);
+        open(right - corridor, bottom, right, top);
+        open(left, top - corridor, right, top);
+        open(left, bottom + corridor + 1, left + corridor, top);
+        left += corridor + 1;
+        bottom += corridor + 1;
+        right -= corridor + 1;
+        top -= corridor + 1;
+    }
+    return region;
+}
+
 /// Noise of all densities, some of which make labyrinths, on large and on narrow grids.
 inline std::vector<Region> variousRegions(std::mt19937& random) {
     std::vector<Region> regions;
@@ -62,6 +89,8 @@ inline std::vector<Region> variousRegions(std::mt19937& random) {
             regions.push_back(noise(width, height, density, random));
         }
     }
+    for (const int corridor : {1, 5})
+        regions.push_back(spiral(131, 67, corridor));
     return regions;
 }
 

@@ -3,7 +3,7 @@
 #include "tests/support/InstructionSets.h"
 #include "tests/tools/FillDefinition.h"
 #include "tests/tools/FillPictures.h"
-#include "tools/MatchRow.h"
+#include "tools/MatchBlock.h"
 
 #include <gtest/gtest.h>
 
@@ -94,25 +94,20 @@ TEST(FloodFill, CountsRowsUpwardsAndFindsNothingFromOutside) {
     }
 }
 
-TEST(MatchRow, GivesTheSameBitsOnEveryInstructionSet) {
+TEST(MatchBlock, GivesTheSameBitsOnEveryInstructionSet) {
     std::mt19937 random(3);
-    std::vector<std::uint8_t> pixels(4 * 1000);
+    constexpr std::size_t rowBytes = 4 * 70;
+    std::vector<std::uint8_t> pixels(rowBytes * 64);
     for (std::uint8_t& byte : pixels)
         byte = static_cast<std::uint8_t>(random() % 100);
     const ColorRange range = ColorRange::around(std::span(pixels).first<4>(), 60);
-    const auto matchRows = [&] {
-        std::vector<std::vector<std::uint64_t>> rows;
-        for (std::size_t width = 1; width <= 1000; width += 1 + width / 16) {
-            rows.emplace_back((width + 63) / 64, ~std::uint64_t{0});
-            matchRow(std::span(pixels).first(4 * width), range, rows.back());
-        }
-        return rows;
-    };
-
-    std::vector<std::vector<std::uint64_t>> expected;
+    std::vector<BlockBits> expected;
     withEveryInstructionSet([&](const char* name) {
-        if (expected.empty()) expected = matchRows();
-        EXPECT_EQ(matchRows(), expected) << name;
+        std::vector<BlockBits> blocks;
+        for (const auto& [width, height] : {std::pair{64, 64}, {64, 3}, {63, 64}, {1, 1}})
+            blocks.push_back(matchBlock({pixels, rowBytes, width, height}, range));
+        if (expected.empty()) expected = blocks;
+        EXPECT_EQ(blocks, expected) << name;
     });
 }
 

@@ -1,4 +1,4 @@
-#include "tools/MatchRow.h"
+#include "tools/MatchBlock.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,9 +6,10 @@
 #include <type_traits>
 
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "tools/MatchRow.cpp"
+#define HWY_TARGET_INCLUDE "tools/MatchBlock.cpp"
 #include <hwy/foreach_target.h>
 // After foreach_target.h, which includes this file once for each instruction set.
+#include <hwy/cache_control.h>
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
@@ -17,33 +18,31 @@ namespace marlevo::HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
 constexpr std::size_t pixelsPerWord = 64;
-constexpr std::size_t bytesPerWord = pixelsPerWord * 4;
+constexpr std::size_t bytesPerPixel = 4;
 
 /// At most 64 pixels, without vectors.
 std::uint64_t matchPixels(std::span<const std::uint8_t> pixels, const ColorRange& range) {
     std::uint64_t matches = 0;
-    for (std::size_t at = 0; at < pixels.size(); at += 4) {
+    for (std::size_t at = 0; at < pixels.size(); at += bytesPerPixel) {
         bool isInside = true;
-        for (std::size_t byte = 0; byte < 4; ++byte) {
+        for (std::size_t byte = 0; byte < bytesPerPixel; ++byte) {
             isInside &=
                 range.lowest[byte] <= pixels[at + byte] && pixels[at + byte] <= range.highest[byte];
         }
-        matches |= std::uint64_t{isInside} << (at / 4);
+        matches |= std::uint64_t{isInside} << (at / bytesPerPixel);
     }
     return matches;
 }
 
 #if HWY_TARGET != HWY_SCALAR
-/// Writes the words that have all their 64 pixels; returns how many those are.
-std::size_t matchWholeWords(std::span<const std::uint8_t> pixels, const ColorRange& range,
-                            std::span<std::uint64_t> bits) {
+/// A block with 64 columns.
+void matchWholeRows(const PixelBlock& block, const ColorRange& range, BlockBits& bits) {
     const hn::CappedTag<std::uint32_t, pixelsPerWord> pixelTag;
     const hn::Repartition<std::uint8_t, decltype(pixelTag)> byteTag;
     using LaneBits = std::conditional_t<
         hn::MaxLanes(pixelTag) <= 8, std::uint8_t,
         std::conditional_t<hn::MaxLanes(pixelTag) <= 16, std::uint16_t, std::uint64_t>>;
     const std::size_t lanes = hn::Lanes(pixelTag);
-    const std::size_t words = pixels.size() / bytesPerWord;
 
     const auto splat = [&](const std::array<std::uint8_t, 4>& color) HWY_ATTR {
         std::uint32_t packed = 0;
@@ -53,11 +52,17 @@ std::size_t matchWholeWords(std::span<const std::uint8_t> pixels, const ColorRan
     const auto lowest = splat(range.lowest);
     const auto highest = splat(range.highest);
 
-    for (std::size_t word = 0; word < words; ++word) {
-        const std::uint8_t* from = pixels.data() + word * bytesPerWord;
+    // The rows lie far apart in memory, where the processor does not foresee the next ones.
+    constexpr std::size_t rowsAhead = 6;
+    constexpr std::size_t cacheLine = 64;
+    const std::uint8_t* from = block.pixels.data();
+    for (std::size_t y = 0; y < static_cast<std::size_t>(block.height); ++y) {
+        const bool isRowAhead = y + rowsAhead < static_cast<std::size_t>(block.height);
+        for (std::size_t at = 0; isRowAhead && at < pixelsPerWord * bytesPerPixel; at += cacheLine)
+            hwy::Prefetch(from + rowsAhead * block.rowBytes + at);
         std::uint64_t matches = 0;
         for (std::size_t at = 0; at < pixelsPerWord; at += lanes) {
-            const auto bytes = hn::LoadU(byteTag, from + at * 4);
+            const auto bytes = hn::LoadU(byteTag, from + at * bytesPerPixel);
             const auto nearest = hn::Min(hn::Max(bytes, lowest), highest);
             const auto isInside =
                 hn::Eq(hn::BitCast(pixelTag, nearest), hn::BitCast(pixelTag, bytes));
@@ -69,22 +74,25 @@ std::size_t matchWholeWords(std::span<const std::uint8_t> pixels, const ColorRan
             std::memcpy(&laneBits, laneBytes.data(), sizeof laneBits);
             matches |= std::uint64_t{laneBits} << at;
         }
-        bits[word] = matches;
+        bits[y] = matches;
+        from += block.rowBytes;
     }
-    return words;
 }
 #endif
 
-void matchRow(std::span<const std::uint8_t> pixels, const ColorRange& range,
-              std::span<std::uint64_t> bits) {
-    std::size_t word = 0;
+BlockBits matchBlock(const PixelBlock& block, const ColorRange& range) {
+    BlockBits bits{};
+    const auto width = static_cast<std::size_t>(block.width);
 #if HWY_TARGET != HWY_SCALAR
-    word = matchWholeWords(pixels, range, bits);
-#endif
-    for (; word < bits.size(); ++word) {
-        const std::span<const std::uint8_t> rest = pixels.subspan(word * bytesPerWord);
-        bits[word] = matchPixels(rest.first(std::min(rest.size(), bytesPerWord)), range);
+    if (width == pixelsPerWord) {
+        matchWholeRows(block, range, bits);
+        return bits;
     }
+#endif
+    for (std::size_t y = 0; y < static_cast<std::size_t>(block.height); ++y)
+        bits[y] =
+            matchPixels(block.pixels.subspan(y * block.rowBytes, width * bytesPerPixel), range);
+    return bits;
 }
 
 }  // namespace marlevo::HWY_NAMESPACE
@@ -93,7 +101,7 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace marlevo {
 
-HWY_EXPORT(matchRow);
+HWY_EXPORT(matchBlock);
 
 ColorRange ColorRange::around(std::span<const std::uint8_t, 4> color, int tolerance) {
     const int reach = std::clamp(tolerance, 0, 255);
@@ -105,9 +113,8 @@ ColorRange ColorRange::around(std::span<const std::uint8_t, 4> color, int tolera
     return range;
 }
 
-void matchRow(std::span<const std::uint8_t> pixels, const ColorRange& range,
-              std::span<std::uint64_t> bits) {
-    HWY_DYNAMIC_DISPATCH(matchRow)(pixels, range, bits);
+BlockBits matchBlock(const PixelBlock& block, const ColorRange& range) {
+    return HWY_DYNAMIC_DISPATCH(matchBlock)(block, range);
 }
 
 }  // namespace marlevo
