@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <compare>
+#include <limits>
 #include <span>
 
 // A stroke or node that two versions share is the same object in both, and no operation changes the
@@ -68,7 +69,15 @@ std::vector<const Stroke*> strokes(const std::vector<Run>& runs) {
 }  // namespace
 
 StrokeDifference StrokeDifference::between(const StrokeList& before, const StrokeList& after) {
-    if (before.sharesWith(after)) return {};
+    return *betweenSimilar(before, after, std::numeric_limits<std::size_t>::max());
+}
+
+std::optional<StrokeDifference> StrokeDifference::betweenSimilar(const StrokeList& before,
+                                                                 const StrokeList& after,
+                                                                 std::size_t most) {
+    if (before.sharesWith(after)) return StrokeDifference();
+    const auto [fewer, more] = std::minmax({before.size(), after.size()});
+    if (more - fewer > most) return std::nullopt;
     Nodes a;
     Nodes b;
     if (before.tree_) a.push_back(before.tree_.get());
@@ -77,6 +86,8 @@ StrokeDifference StrokeDifference::between(const StrokeList& before, const Strok
         const std::size_t heightA = height(a);
         const std::size_t heightB = height(b);
         if (heightA == heightB) dropCommon(a, b);
+        // Nearly every node that is left has a stroke that differs.
+        if (a.size() / 2 + b.size() / 2 > most) return std::nullopt;
         if (heightA == 0 && heightB == 0) break;
         if (heightA >= heightB) descend(a);
         if (heightB >= heightA) descend(b);

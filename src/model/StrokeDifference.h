@@ -2,6 +2,8 @@
 
 #include "model/StrokeList.h"
 
+#include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace marlevo {
@@ -17,6 +19,11 @@ struct StrokeDifference {
     /// even at another index. Strokes are compared by identity: two equal ones that were added
     /// separately differ.
     static StrokeDifference between(const StrokeList& before, const StrokeList& after);
+
+    /// The same, or nothing where the lists differ by more than `most` strokes, which is found out
+    /// in time proportional to `most`. With few more strokes there may be a result.
+    static std::optional<StrokeDifference>
+    betweenSimilar(const StrokeList& before, const StrokeList& after, std::size_t most);
 };
 
 }  // namespace marlevo

@@ -282,6 +282,13 @@ TEST(StrokeDifference, IsExactBetweenAnyTwoVersions) {
         const StrokeDifference difference = StrokeDifference::between(before, after);
         ASSERT_EQ(difference.removed, only(before, after));
         ASSERT_EQ(difference.added, only(after, before));
+
+        constexpr std::size_t most = 40;
+        if (const auto similar = StrokeDifference::betweenSimilar(before, after, most)) {
+            ASSERT_EQ(similar->added, difference.added);
+        } else {
+            ASSERT_GT(difference.removed.size() + difference.added.size(), most);
+        }
     }
 }
 
