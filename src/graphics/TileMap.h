@@ -43,6 +43,11 @@ public:
         for (auto& [key, tile] : tiles_)
             visit(tile);
     }
+    template <typename Visit>
+    void forEachKnownTile(Visit visit) const {
+        for (const auto& [key, tile] : tiles_)
+            visit(tile);
+    }
 
     std::size_t size() const { return tiles_.size(); }
     void clear() { tiles_.clear(); }

@@ -2,18 +2,19 @@
 
 #include "model/StrokeDifference.h"
 #include "render/DeviceBounds.h"
+#include "render/StrokeCells.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace marlevo {
 
 namespace {
 
-constexpr IntRect everything{-(1 << 30), -(1 << 30), 1 << 30, 1 << 30};
+/// More strokes than this are painted faster by repainting their cells.
+constexpr std::size_t maxDrawnOver = 64;
 
-/// More strokes than this are painted faster by repainting their area.
-constexpr std::size_t maxDrawnOver = 16;
+/// After so many points the cells of a stroke are those of its bounds, which are found faster.
+constexpr std::size_t maxPointsFollowed = 20'000;
 
 /// Compares the files only: an image without changes may have another opacity.
 bool shareImageFile(const Layer& a, const Layer& b) {
@@ -25,10 +26,10 @@ bool paintsSomething(const Layer& layer) {
     return layer.isVisible && (layer.imageData || !layer.strokes.isEmpty());
 }
 
-/// The layer with the picture's topmost stroke or image; null when nothing is painted.
-const Layer* topmostPainted(const LayerList& layers) {
-    const auto top = std::find_if(layers.rbegin(), layers.rend(), paintsSomething);
-    return top == layers.rend() ? nullptr : &*top;
+/// True if two painted layers share all that is painted.
+bool showTheSame(const Layer& a, const Layer& b) {
+    return &a == &b || (shareImageFile(a, b) && (!a.imageData || a.opacity == b.opacity) &&
+                        a.strokes.sharesWith(b.strokes));
 }
 
 /// True if `after` consists of the strokes of `before` and then those of `added`, at least one.
@@ -38,82 +39,159 @@ bool wereAppended(const std::vector<const Stroke*>& added, const StrokeList& bef
            added.back() == &after[after.size() - 1];
 }
 
-class Comparison {
-public:
-    Comparison(const LayerList& after, double scale, PictureDifference& difference)
-        : top_(topmostPainted(after)), scale_(scale), difference_(difference) {}
-
-    /// What must be repainted when `before` becomes `after` in the same place of the stack.
-    void compare(const Layer& before, const Layer& after) {
-        if (&before == &after) return;  // both lists share the layer
-        const bool hasImage = before.imageData || after.imageData;
-        if (before.isVisible != after.isVisible || !shareImageFile(before, after) ||
-            (hasImage && before.opacity != after.opacity)) {
-            // An image covers the whole canvas. Without one only the strokes change.
-            if (hasImage) return difference_.damage.push_back(everything);
-            damageStrokes(before);
-            damageStrokes(after);
-        } else if (after.isVisible) {
-            compareStrokes(before, after);
-        }
+/// The part of two stacks that begins and ends with the same layers. Between `head` layers at the
+/// bottom and `tail` layers at the top, layers were added, removed or moved.
+struct Alignment {
+    Alignment(const LayerList& before, const LayerList& after) {
+        const std::size_t shorter = std::min(before.size(), after.size());
+        while (head < shorter && before[head].id == after[head].id)
+            ++head;
+        while (tail < shorter - head &&
+               before[before.size() - 1 - tail].id == after[after.size() - 1 - tail].id)
+            ++tail;
     }
 
-    void damageStrokes(const Layer& layer) {
-        for (const Stroke& stroke : layer.strokes)
-            damage(stroke);
+    std::size_t head = 0;
+    std::size_t tail = 0;
+};
+
+class Comparison {
+public:
+    Comparison(double scale, std::size_t most, PictureDifference& difference)
+        : scale_(scale), most_(most), difference_(difference) {}
+
+    /// False if the pictures differ by too much.
+    bool compare(const LayerList& before, const LayerList& after) {
+        const Alignment same(before, after);
+        static const Layer none("");
+        for (std::size_t i = 0; i < same.head; ++i)
+            compare(before[i], after[i]);
+        for (std::size_t i = same.head; i < before.size() - same.tail; ++i)
+            compare(before[i], none);
+        for (std::size_t i = same.head; i < after.size() - same.tail; ++i)
+            compare(none, after[i]);
+        for (std::size_t i = same.tail; i > 0; --i)
+            compare(before[before.size() - i], after[after.size() - i]);
+        return !isTooLarge_;
     }
 
 private:
-    void compareStrokes(const Layer& before, const Layer& after) {
-        auto strokes = StrokeDifference::between(before.strokes, after.strokes);
-        if (&after == top_ && strokes.removed.empty() && !strokes.added.empty() &&
-            strokes.added.size() <= maxDrawnOver &&
-            wereAppended(strokes.added, before.strokes, after.strokes)) {
-            difference_.drawnOver = std::move(strokes.added);
+    /// What must be repainted when `before` becomes `after` in the same place of the stack, from
+    /// the lowest layer to the topmost.
+    void compare(const Layer& before, const Layer& after) {
+        const bool wasPainted = paintsSomething(before);
+        const bool isPainted = paintsSomething(after);
+        if (isTooLarge_ || (!wasPainted && !isPainted)) return;
+        if (wasPainted == isPainted && showTheSame(before, after)) return stopDrawingOver();
+        difference_.isEmpty = false;
+        const bool hasImage = (wasPainted && before.imageData) || (isPainted && after.imageData);
+        if (hasImage && (wasPainted != isPainted || !shareImageFile(before, after) ||
+                         before.opacity != after.opacity)) {
+            // An image covers the whole canvas.
+            stopDrawingOver();
+            difference_.isOnlyDrawnOver = false;
+            difference_.damage.add(difference_.damage.allowedArea());
+        } else if (wasPainted && isPainted) {
+            compareStrokes(before.strokes, after.strokes);
+        } else if (isPainted && after.strokes.size() <= maxDrawnOver) {
+            std::vector<const Stroke*> added;
+            for (const Stroke& stroke : after.strokes)
+                added.push_back(&stroke);
+            drawOver(added);
+        } else {
+            stopDrawingOver();
+            damage(wasPainted ? before.strokes : after.strokes);
+        }
+    }
+
+    void compareStrokes(const StrokeList& before, const StrokeList& after) {
+        const auto found = StrokeDifference::betweenSimilar(before, after, most_);
+        if (!found) {
+            isTooLarge_ = true;
             return;
         }
+        const StrokeDifference& strokes = *found;
+        stopDrawingOver();
+        if (strokes.removed.empty() && !strokes.added.empty() &&
+            wereAppended(strokes.added, before, after))
+            return drawOver(strokes.added);
         for (const Stroke* stroke : strokes.removed)
             damage(*stroke);
         for (const Stroke* stroke : strokes.added)
             damage(*stroke);
     }
 
-    void damage(const Stroke& stroke) {
-        difference_.damage.push_back(deviceBounds(stroke, scale_));
+    /// Assumes that nothing is painted above these strokes; stopDrawingOver() corrects that.
+    void drawOver(const std::vector<const Stroke*>& added) {
+        auto& drawnOver = difference_.drawnOver;
+        drawnOver.insert(drawnOver.end(), added.begin(), added.end());
+        if (drawnOver.size() > std::min(maxDrawnOver, most_)) stopDrawingOver();
     }
 
-    const Layer* top_;
+    /// A painted layer above the strokes that are to be drawn over makes them damage.
+    void stopDrawingOver() {
+        for (const Stroke* stroke : difference_.drawnOver)
+            damage(*stroke);
+        difference_.drawnOver.clear();
+    }
+
+    void damage(const StrokeList& strokes) {
+        difference_.isOnlyDrawnOver = false;
+        if (strokes.size() > most_) {
+            isTooLarge_ = true;
+            return;
+        }
+        CellSet& cells = difference_.damage;
+        strokes.visitNear(onCanvas(cells.allowedArea(), scale_), penFringe / scale_,
+                          [&](std::size_t, const Stroke& stroke, const Box& box) {
+                              if (!cells.covers(deviceBounds(box, scale_))) damage(stroke);
+                              return !cells.isFull();
+                          });
+    }
+
+    void damage(const Stroke& stroke) {
+        difference_.isOnlyDrawnOver = false;
+        if (++strokes_ > most_) isTooLarge_ = true;
+        if (points_ > maxPointsFollowed)
+            return difference_.damage.add(deviceBounds(stroke, scale_));
+        points_ += stroke.points.size();
+        addCellsOf(stroke, scale_, difference_.damage);
+    }
+
     double scale_;
+    std::size_t most_;
+    std::size_t strokes_ = 0;
+    std::size_t points_ = 0;  ///< of the strokes whose curves were followed
+    bool isTooLarge_ = false;
     PictureDifference& difference_;
 };
 
 }  // namespace
 
-PictureDifference PictureDifference::between(const LayerList& before, const LayerList& after,
-                                             double scale) {
+std::optional<PictureDifference> PictureDifference::between(const LayerList& before,
+                                                            const LayerList& after, double scale,
+                                                            const CellSet& allowed,
+                                                            std::size_t most) {
     PictureDifference difference;
-    Comparison comparison(after, scale, difference);
-    // Both stacks begin and end with the same layers. Between them, layers were added, removed or
-    // moved.
-    const std::size_t shorter = std::min(before.size(), after.size());
-    std::size_t head = 0;
-    while (head < shorter && before[head].id == after[head].id)
-        ++head;
-    std::size_t tail = 0;
-    while (tail < shorter - head &&
-           before[before.size() - 1 - tail].id == after[after.size() - 1 - tail].id)
-        ++tail;
-    static const Layer none("");
-
-    for (std::size_t i = 0; i < head; ++i)
-        comparison.compare(before[i], after[i]);
-    for (std::size_t i = head; i < before.size() - tail; ++i)
-        comparison.compare(before[i], none);
-    for (std::size_t i = head; i < after.size() - tail; ++i)
-        comparison.compare(none, after[i]);
-    for (std::size_t i = tail; i > 0; --i)
-        comparison.compare(before[before.size() - i], after[after.size() - i]);
+    difference.damage = allowed.emptied();
+    if (!Comparison(scale, most, difference).compare(before, after)) return std::nullopt;
+    difference.drawnOverCells = allowed.emptied();
+    for (const Stroke* stroke : difference.drawnOver)
+        addCellsOf(*stroke, scale, difference.drawnOverCells);
     return difference;
+}
+
+bool showTheSame(const LayerList& a, const LayerList& b) {
+    auto inA = a.begin();
+    auto inB = b.begin();
+    while (true) {
+        inA = std::find_if(inA, a.end(), paintsSomething);
+        inB = std::find_if(inB, b.end(), paintsSomething);
+        if (inA == a.end() || inB == b.end()) return inA == a.end() && inB == b.end();
+        if (!showTheSame(*inA, *inB)) return false;
+        ++inA;
+        ++inB;
+    }
 }
 
 }  // namespace marlevo

@@ -63,7 +63,8 @@ Picture pictureOf(const DrawingDocument& document) {
 
 Scene sceneOf(const DrawingDocument& document, double scale) {
     const std::optional<Stroke>& stroke = document.currentStroke;
-    return {pictureOf(document), document.showGrid, scale, stroke ? &*stroke : nullptr};
+    return {pictureOf(document), document.showGrid, scale, stroke ? &*stroke : nullptr,
+            document.selectionDragStartPositions->has_value()};
 }
 
 std::optional<RasterImage> renderCGImage(const DrawingDocument& document) {

@@ -14,6 +14,9 @@ struct Scene {
     /// Null without one. Not owned, and used during a call only: a copy that is kept would share
     /// the stroke's points, and each further point would then copy all of them.
     const Stroke* strokeInProgress = nullptr;
+
+    /// The layers are those of a moment of a drag, which no undo returns to.
+    bool isPassing = false;
 };
 
 }  // namespace marlevo

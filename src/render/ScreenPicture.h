@@ -2,12 +2,11 @@
 
 #include "graphics/Color.h"
 #include "graphics/PixelBuffer.h"
-#include "graphics/TileMap.h"
+#include "render/PictureTiles.h"
 #include "render/Scene.h"
 #include "render/StrokeInProgress.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -15,34 +14,37 @@
 namespace marlevo {
 
 class ImageCache;
-struct LayerRun;
-class VisibleStrokes;
 
 /// A drawing as its window shows it: background, grid, layers and the stroke in progress, at device
 /// resolution.
 ///
 /// The finished picture is kept as tiles, which depend on the scene's values only; a change
-/// repaints what differs. While only the scale changes, the tiles of other scales are kept too, so
-/// that returning to one costs nothing. Areas and pixels are device pixels, relative to the
-/// canvas's top left corner. Used on the user-interface thread.
+/// repaints what differs, except for pixels that were shown before and are still kept. While only
+/// the scale changes, or the grid or the background, the tiles from before are kept too, so that
+/// returning to them costs nothing. Areas and pixels are device pixels, relative to the canvas's
+/// top left corner. Used on the user-interface thread.
 class ScreenPicture {
 public:
-    static constexpr std::size_t defaultMaxCachedBytes = std::size_t{96} << 20;
+    /// Bounds on the memory that is kept: for tiles in addition to the visible ones, and for the
+    /// pixels of earlier pictures.
+    struct Limits {
+        std::size_t tileBytes = std::size_t{96} << 20;
+        std::size_t keptBytes = std::size_t{64} << 20;
+    };
 
-    /// The cache must outlive this object. `maxCachedBytes` bounds the tiles that are kept in
-    /// addition to the visible ones.
-    explicit ScreenPicture(ImageCache& images, std::size_t maxCachedBytes = defaultMaxCachedBytes)
-        : images_(images), maxCachedBytes_(maxCachedBytes) {}
+    /// The cache must outlive this object.
+    explicit ScreenPicture(ImageCache& images) : ScreenPicture(images, Limits()) {}
+    ScreenPicture(ImageCache& images, const Limits& limits) : images_(images), limits_(limits) {}
 
     /// The colour of the grid's lines. A new one counts as a change of everything.
     void setGridColor(const Color& color);
 
     /// Takes over what is to be shown from now on; the following calls refer to it. A scale that is
     /// not a positive number shows nothing. Drops images from the cache that no visible layer has.
+    /// After an exception the next update and paint show the right picture.
     void update(const Scene& scene);
 
-    /// The painted areas that have changed since the last call, without overlaps; nothing if all
-    /// has changed.
+    /// The painted areas that have changed since the last call; nothing if all has changed.
     std::optional<std::vector<IntRect>> takeDamage();
 
     /// Replaces the pixels of `target`, which are in the screen's order. Pixels outside the canvas
@@ -54,64 +56,60 @@ public:
     /// only copy.
     void prepare(const IntRect& area);
 
-    /// While the tiles take more than the bound, drops those of other scales, then those outside
+    /// While the tiles take more than the bound, drops those that are not shown, then those outside
     /// `visible`. A dropped area must be painted again before it is shown.
     void evictTiles(const IntRect& visible);
-    bool hasTilesToEvict() const { return cachedBytes() > maxCachedBytes_; }
-    std::size_t cachedBytes() const;
+    bool hasTilesToEvict() const { return tileBytes() > limits_.tileBytes; }
+    std::size_t tileBytes() const;
+    std::size_t keptBytes() const;
 
     /// Drops all tiles; everything counts as changed.
     void releaseMemory();
 
+    /// Of all changes of the layers.
+    const PictureTiles::Counts& counts() const { return counts_; }
+
 private:
-    struct Tile {
-        explicit Tile(const IntRect& place)
-            : area(place), stale(place),
-              bytes(std::make_unique_for_overwrite<std::uint8_t[]>(tileBytes)) {}
+    /// All that the pixels depend on besides the layers.
+    struct View {
+        explicit View(const Scene& scene)
+            : scale(scene.scale), background(scene.picture.background),
+              canvasSize(scene.picture.canvasSize), showsGrid(scene.showsGrid) {}
 
-        PixelBuffer pixels() {
-            return {bytes.get(), std::ptrdiff_t{tileSide} * 4, area, PixelOrder::bgra};
+        bool hasGroundOf(const View& other) const {
+            return background == other.background && canvasSize == other.canvasSize &&
+                   showsGrid == other.showsGrid;
         }
+        friend bool operator==(const View&, const View&) = default;
 
-        IntRect area;
-        IntRect stale;   ///< the part that must be painted before it is used; all at first
-        IntRect damage;  ///< the part that takeDamage() is to report
-        std::unique_ptr<std::uint8_t[]> bytes;
+        double scale;
+        Color background;
+        CanvasSize canvasSize;
+        bool showsGrid;
+    };
+    struct OtherView {
+        View view;
+        PictureTiles tiles;
     };
 
-    static constexpr int tileSide = 512;
-    static constexpr std::size_t tileBytes = std::size_t{tileSide} * tileSide * 4;
-
-    using Tiles = TileMap<Tile, tileSide>;
-
-    struct OtherScale {
-        double scale = 0;
-        Tiles tiles;
-    };
-
-    IntRect canvasPixels() const;
-    Rect canvasRect() const;
-    bool hasSameGround(const Scene& next) const;
-    void changeScale(double scale);
-    void applyDifference(const LayerList& after, const Stroke* strokeInProgress);
-    void invalidate(const IntRect& area);
-    void addDamage(const IntRect& area);
-    template <typename Paint>
-    void paintOver(const IntRect& area, Paint paint);
-    void renderStaleTiles(const IntRect& area);
-    void render(const std::vector<PixelBuffer>& stale, const IntRect& whole) const;
-    void renderBackground(const PixelBuffer& part) const;
-    void renderImage(const LayerRun& run, const PixelBuffer& part) const;
-    void renderStrokes(const VisibleStrokes& strokes, const PixelBuffer& part) const;
+    bool changeLayers(const Scene& next, const Stroke* strokeInProgress);
+    void changeView(const Scene& next);
+    CellSet cellsUnlikeLasting(const CellSet& none) const;
 
     ImageCache& images_;
-    std::size_t maxCachedBytes_;
+    Limits limits_;
     Color gridColor_{0.5, 0.5, 0.5, 0.2};
     Scene shown_;  ///< without the stroke in progress
     StrokeInProgress strokeInProgress_;
-    Tiles tiles_;
-    std::vector<OtherScale> otherScales_;  ///< of the same picture, the least recently shown first
+    PictureTiles tiles_{0, {}};
+    std::vector<OtherView> otherViews_;  ///< of the same layers, the least recently shown first
+
+    /// The last picture shown that is not passing: undo may return to it.
+    ShownPicturePtr lasting_ = std::make_shared<ShownPicture>();
+
+    IntRect strokeDamage_;  ///< of the stroke in progress
     bool isAllDamaged_ = true;
+    PictureTiles::Counts counts_;
 };
 
 }  // namespace marlevo

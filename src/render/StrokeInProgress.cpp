@@ -25,6 +25,15 @@ Rect boundsOf(std::span<const Point> points) {
 }  // namespace
 
 IntRect StrokeInProgress::update(const Stroke* stroke, double scale) {
+    try {
+        return follow(stroke, scale);
+    } catch (...) {
+        style_.reset();  // the next call starts anew
+        throw;
+    }
+}
+
+IntRect StrokeInProgress::follow(const Stroke* stroke, double scale) {
     if (!stroke) {
         const IntRect before = boundsFrom(0);
         style_.reset();

@@ -24,7 +24,8 @@ public:
         : maxGrowingBytes_(maxGrowingBytes) {}
 
     /// Takes over the stroke as it is now, null if there is none, at `scale` device pixels per
-    /// canvas pixel. Returns the device pixels that may have changed.
+    /// canvas pixel. Returns the device pixels that may have changed. After an exception no stroke
+    /// is shown.
     IntRect update(const Stroke* stroke, double scale);
 
     /// True if a stroke is shown and `other` would give the same pixels.
@@ -36,6 +37,7 @@ public:
     std::size_t growingBytes() const { return growing_ ? growing_->bytes() : 0; }
 
 private:
+    IntRect follow(const Stroke* stroke, double scale);
     bool isContinuedBy(const Stroke& stroke, double scale) const;
     void startGrowing();
     IntRect grow(std::size_t known);

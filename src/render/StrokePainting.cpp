@@ -1,6 +1,8 @@
 #include "render/StrokePainting.h"
 
+#include "graphics/BitmapContext.h"
 #include "model/StrokeGeometry.h"
+#include "render/DeviceBounds.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,6 +58,14 @@ void drawPath(GraphicsContext& context, const Path& path, const Stroke& style) {
 
 void drawStrokeOnScreen(GraphicsContext& context, const Stroke& stroke) {
     if (stroke.points.size() >= 2) drawPath(context, stroke.path(), stroke);
+}
+
+void drawStrokesOnScreen(const PixelBuffer& part, std::span<const Stroke* const> strokes,
+                         double scale) {
+    BitmapContext context(part, DeviceFrame::yDown(scale));
+    for (const Stroke* stroke : strokes)
+        if (!deviceBounds(*stroke, scale).intersectedWith(part.area).isEmpty())
+            drawStrokeOnScreen(context, *stroke);
 }
 
 void drawStroke(GraphicsContext& context, const Stroke& stroke, double height) {

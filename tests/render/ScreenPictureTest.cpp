@@ -3,6 +3,7 @@
 #include "model/DrawingDocument.h"
 #include "model/ImageCache.h"
 #include "render/RasterCompositing.h"
+#include "tests/render/FailingAllocation.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
@@ -86,9 +87,20 @@ public:
 
     int below(int end) { return std::uniform_int_distribution(0, end - 1)(random_); }
 
+    /// Moves the dragged stroke, if there is one.
+    void drag() {
+        if (!document.selectionDragStartPositions->has_value()) return;
+        document.layers.modifyAndPublish([&](LayerList& all) {
+            StrokeList& strokes = all[below(static_cast<int>(all.size()))].strokes;
+            if (strokes.isEmpty()) return;
+            strokes.modify(below(static_cast<int>(strokes.size())),
+                           [&](Stroke& stroke) { stroke.points.append(anywhere()); });
+        });
+    }
+
     void change() {
         const int layer = below(static_cast<int>(document.layers->size()));
-        switch (below(20)) {
+        switch (below(22)) {
         case 0:
             return document.addLayer();
         case 1:
@@ -115,6 +127,13 @@ public:
         case 11:
         case 12:
             return draw();
+        case 13:
+            document.saveState();
+            document.selectionDragStartPositions = PointList();
+            return drag();
+        case 14:
+            document.selectionDragStartPositions = std::nullopt;
+            return;
         default:
             return changeStrokes(layer);
         }
@@ -162,18 +181,42 @@ private:
 };
 
 TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
-    RandomEditor editor(11);
-    ScreenPicture kept(noImages);
-    for (int step = 0; step < 260; ++step) {
-        // Towards the end the scale changes at each step, and the picture at some steps.
-        const bool isZooming = step >= 140;
-        if (!isZooming || editor.below(4) == 0) editor.change();
-        const double scale = isZooming ? 0.5 + 0.5 * editor.below(3) : 1;
-        const IntRect area{editor.below(300), editor.below(200), 350 + editor.below(350),
-                           250 + editor.below(250)};
-        ScreenPicture fresh(noImages);
-        const Scene scene = sceneOf(editor.document, scale);
-        ASSERT_EQ(paint(kept, scene, area), paint(fresh, scene, area)) << step;
+    constexpr std::size_t bytesOfCell = std::size_t{64} * 64 * 4 + 100;
+    for (const std::size_t keptCells : {8, 100, 4000}) {
+        RandomEditor editor(11);
+        ScreenPicture kept(noImages, {.keptBytes = keptCells * bytesOfCell});
+        int checks = 0;
+        const auto check = [&](double scale) {
+            const IntRect area{editor.below(300), editor.below(200), 350 + editor.below(350),
+                               250 + editor.below(250)};
+            ScreenPicture fresh(noImages);
+            const Scene scene = sceneOf(editor.document, scale);
+            ASSERT_EQ(paint(kept, scene, area), paint(fresh, scene, area)) << checks;
+            ASSERT_LE(kept.keptBytes(), keptCells * bytesOfCell) << checks;
+            ++checks;
+        };
+        for (int step = 0; step < 130; ++step) {
+            // Towards the end the scale changes at each step, and the picture at some steps.
+            const bool isZooming = step >= 90;
+            if (!isZooming || editor.below(4) == 0) editor.change();
+            editor.drag();
+            const double scale = isZooming ? 0.5 + 0.5 * editor.below(3) : 1;
+            ASSERT_NO_FATAL_FAILURE(check(scale));
+            if (editor.below(6) != 0) continue;
+            for (int back = editor.below(8); back >= 0; --back) {
+                editor.document.undo();
+                ASSERT_NO_FATAL_FAILURE(check(scale));
+            }
+            for (int forth = editor.below(8); forth >= 0; --forth) {
+                editor.document.redo();
+                ASSERT_NO_FATAL_FAILURE(check(scale));
+            }
+        }
+        // Each way to get a cell's pixels was taken.
+        const PictureTiles::Counts& counts = kept.counts();
+        for (const std::size_t count : {counts.samePicture, counts.sameInCell, counts.drawnOverKept,
+                                        counts.drawnOver, counts.repainted})
+            EXPECT_GT(count, 50U);
     }
 }
 
@@ -228,28 +271,68 @@ TEST(ScreenPicture, DamageIsSmallAfterASmallChange) {
     EXPECT_EQ(changedPixels(), 0);
     document.undo();
     EXPECT_GT(changedPixels(), 0);
+    document.redo();
+    // A few of the cells in its bounds, which are 1510 × 750 pixels large.
+    EXPECT_LT(changedPixels(), 1510 * 750 / 4);
+}
+
+/// No undo returns to a moment of a drag.
+TEST(ScreenPicture, ADragKeepsThePixelsFromItsStartOnly) {
+    const IntRect area{0, 0, 640, 640};
+    Layer layer("Layer");
+    for (int i = 0; i < 60; ++i)
+        layer.strokes.append(makeStroke({{10.0 * i, 5}, {640 - 10.0 * i, 630}}, 4));
+    Scene scene{{{layer}, {640, 640}, white}, false, 1, nullptr};
+    const Scene start = scene;
+    ScreenPicture picture(noImages);
+    paint(picture, scene, area);
+    scene.isPassing = true;
+    for (int i = 0; i < 200; ++i) {
+        scene.picture.layers.back().strokes.modify(30, [&](Stroke& stroke) {
+            stroke.points = {{3.0 * i, 5}, {3.0 * i, 630}};
+        });
+        paint(picture, scene, area);
+    }
+    scene.isPassing = false;
+    paint(picture, scene, area);
+    constexpr std::size_t cells = 100;
+    constexpr std::size_t bytesOfCell = std::size_t{64} * 64 * 4 + 100;
+    EXPECT_LE(picture.keptBytes(), cells * bytesOfCell);
+    const std::size_t repainted = picture.counts().repainted;
+    ScreenPicture fresh(noImages);
+    EXPECT_EQ(paint(picture, start, area), paint(fresh, start, area));
+    EXPECT_EQ(picture.counts().repainted, repainted) << "the start is found again";
 }
 
 TEST(ScreenPicture, KeepsNoMoreTilesThanItsBoundBesidesTheVisibleOnes) {
     Scene scene{{{Layer("Layer")}, {2048, 1024}, white}, false, 1, nullptr};
     constexpr std::size_t tileBytes = std::size_t{512} * 512 * 4;
-    ScreenPicture picture(noImages, 8 * tileBytes);
+    ScreenPicture picture(noImages, {.tileBytes = 8 * tileBytes});
     const IntRect all{0, 0, 2048, 1024};
     paint(picture, scene, all);
     picture.evictTiles({});
-    EXPECT_EQ(picture.cachedBytes(), 8 * tileBytes) << "within the bound nothing is dropped";
+    EXPECT_EQ(picture.tileBytes(), 8 * tileBytes) << "within the bound nothing is dropped";
 
     scene.scale = 0.5;
     paint(picture, scene, {0, 0, 1024, 512});
     EXPECT_TRUE(picture.hasTilesToEvict());
     picture.evictTiles({0, 0, 10, 10});
-    EXPECT_EQ(picture.cachedBytes(), 2 * tileBytes) << "those of the other scale are dropped";
+    EXPECT_EQ(picture.tileBytes(), 2 * tileBytes) << "those of the other scale are dropped";
 
-    ScreenPicture small(noImages, tileBytes);
+    for (const bool showsGrid : {true, false, true}) {
+        scene.showsGrid = showsGrid;
+        paint(picture, scene, {0, 0, 1024, 512});
+        EXPECT_EQ(picture.tileBytes(), 4 * tileBytes) << "those without the grid stay";
+    }
+    scene.picture.background = black;
+    picture.update(scene);
+    EXPECT_EQ(picture.tileBytes(), 2 * tileBytes) << "of other grounds only the last one stays";
+
+    ScreenPicture small(noImages, {.tileBytes = tileBytes});
     scene.scale = 1;
     paint(small, scene, all);
     small.evictTiles({500, 100, 600, 200});
-    EXPECT_EQ(small.cachedBytes(), 2 * tileBytes) << "the visible tiles stay";
+    EXPECT_EQ(small.tileBytes(), 2 * tileBytes) << "the visible tiles stay";
     ScreenPicture fresh(noImages);
     EXPECT_EQ(paint(small, scene, all), paint(fresh, scene, all));
 }
@@ -279,6 +362,41 @@ TEST(ScreenPicture, APaintThatFailsLeavesNoHalfPaintedTile) {
         codec.callsUntilFailure = failingCall;
         EXPECT_THROW(paint(picture, scene, area), std::bad_alloc);
         EXPECT_EQ(paint(picture, scene, area), expected) << failingCall;
+    }
+}
+
+/// An allocation fails at every possible place of an update.
+TEST(ScreenPicture, AnUpdateThatFailsLosesNothing) {
+    Layer layer("Layer");
+    layer.strokes.append(makeStroke({{10, 10}, {90, 90}}, 9));
+    Layer more = layer;
+    Stroke added = makeStroke({{10, 90}, {90, 10}, {90, 60}}, 20);
+    added.opacity = 0.5;
+    more.strokes.append(added);
+    Layer less = more;
+    less.strokes.erase(0);
+    const auto sceneWith = [](const Layer& shown, const Stroke* inProgress) {
+        return Scene{{{shown}, {100, 100}, white}, false, 1, inProgress};
+    };
+    std::vector<Scene> scenes{sceneWith(layer, &added),  sceneWith(more, nullptr),
+                              sceneWith(layer, nullptr), sceneWith(more, nullptr),
+                              sceneWith(less, nullptr),  sceneWith(more, nullptr)};
+    const IntRect area{0, 0, 100, 100};
+    bool hasFailed = true;
+    for (int successes = 0; hasFailed; ++successes) {
+        ScreenPicture picture(noImages);
+        paint(picture, sceneWith(layer, nullptr), area);
+        hasFailed = false;
+        for (const Scene& scene : scenes) {
+            try {
+                const FailingAllocation failing(successes);
+                picture.update(scene);
+            } catch (const std::bad_alloc&) {
+                hasFailed = true;
+            }
+            ScreenPicture fresh(noImages);
+            ASSERT_EQ(paint(picture, scene, area), paint(fresh, scene, area)) << successes;
+        }
     }
 }
 
