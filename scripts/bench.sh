@@ -30,6 +30,7 @@ measure_window() {
     "$measure" drawing "${quick[@]}"
     "$measure" long-stroke "${quick[@]}"
     "$measure" editing "${quick[@]}"
+    "$measure" undoing "${quick[@]}"
     taskset -c 0 "$measure" first-show "${quick[@]}" 1
     [ "$(nproc)" -lt 2 ] || taskset -c 0,1 "$measure" first-show "${quick[@]}" 2 peer
     "$measure" zooming "${quick[@]}"

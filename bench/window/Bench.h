@@ -33,6 +33,7 @@ QJsonObject operator+(QJsonObject a, const QJsonObject& b);
 void measureDrawing(Bench& bench);
 void measureLongStroke(Bench& bench);
 void measureEditing(Bench& bench);
+void measureUndoing(Bench& bench);
 void measureFirstShow(Bench& bench);
 void measureZooming(Bench& bench);
 void measureMemory(Bench& bench);

@@ -1,7 +1,6 @@
 // Undo and redo of one stroke, selecting and dragging one, among 100 and among 100,000.
 
-#include "bench/window/Bench.h"
-#include "bench/window/RealWindow.h"
+#include "bench/window/Press.h"
 #include "bench/window/Scene.h"
 
 #include <cmath>
@@ -33,19 +32,10 @@ void measureHistory(Bench& bench, RealWindow& real, const QJsonObject& about) {
     std::vector<EventCost> undos;
     std::vector<EventCost> redos;
     bench.hand.perform(dragThrough(circle(real, 40)));
-    for (int i = 0; i < rounds; ++i)
-        for (auto* const costs : {&undos, &redos}) {
-            auto acts = clickAt(real.control(costs == &undos ? "Undo" : "Redo").center());
-            // Moving to the button and pressing it are not measured.
-            for (HandAct& act : acts)
-                act.pause = 60'000;
-            Meter::settle();
-            bench.meter.start();
-            bench.hand.perform(acts);
-            Meter::settle();
-            const auto all = bench.meter.stop();
-            costs->push_back(all.back());
-        }
+    for (int i = 0; i < rounds; ++i) {
+        undos.push_back(press(bench, real, "Undo"));
+        redos.push_back(press(bench, real, "Redo"));
+    }
     bench.report(about + QJsonObject{{"row", "undo"}} + summary(undos, QEvent::MouseButtonRelease));
     bench.report(about + QJsonObject{{"row", "redo"}} + summary(redos, QEvent::MouseButtonRelease));
 }

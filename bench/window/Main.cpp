@@ -19,11 +19,11 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     const std::map<QString, void (*)(Bench&)> measurements{
-        {"drawing", measureDrawing}, {"long-stroke", measureLongStroke},
-        {"editing", measureEditing}, {"first-show", measureFirstShow},
-        {"zooming", measureZooming}, {"memory", measureMemory},
-        {"start", measureStart},     {"make-document", makeDocument},
-        {"replay", replay}};
+        {"drawing", measureDrawing},      {"long-stroke", measureLongStroke},
+        {"editing", measureEditing},      {"undoing", measureUndoing},
+        {"first-show", measureFirstShow}, {"zooming", measureZooming},
+        {"memory", measureMemory},        {"start", measureStart},
+        {"make-document", makeDocument},  {"replay", replay}};
     QStringList arguments = QApplication::arguments().sliced(1);
     const bool isQuick = arguments.removeAll("--quick") > 0;
     const auto wanted = measurements.find(arguments.value(0));

@@ -103,6 +103,26 @@ def add_editing(results, table):
                   "under 16 ms", dense["painted"] < 16)
 
 
+def add_undoing(results, table):
+    titles = {"undo long": "Undo of a long stroke among 100,000, until shown",
+              "redo long": "Redo of it", "undo ten": "Each of ten undos in a row",
+              "undo zoomed": "Undo after zooming there and back"}
+    for row, title in titles.items():
+        empty = results.one(row=row, strokes=0)["painted"]
+        among = results.one(row=row, strokes=100000)["painted"]
+        table.add(title, ms(among), f"{ms(empty)} on an empty page",
+                  "at most 5 ms and 1.6 × + 2 ms", among <= min(5, 1.6 * empty + 2))
+    beyond = results.one(row="undo beyond bound", strokes=100000)
+    table.add("Undo of more strokes than their pixels are kept", ms(beyond["painted"]),
+              f"slowest {ms(beyond['paintedMost'])}", "at most 10 ms", beyond["painted"] <= 10)
+    hidden = results.one(row="hide again", strokes=100000)
+    table.add("Hiding or showing a layer of 100,000 for the second time", ms(hidden["painted"]),
+              f"{ms(hidden['process'])} of the process", "at most 10 ms", hidden["painted"] <= 10)
+    grid = results.one(row="grid again", strokes=100000)
+    table.add("Switching the grid to and fro over 100,000", ms(grid["painted"]),
+              f"{ms(results.one(row='grid again', strokes=0)['painted'])} on an empty page")
+
+
 def add_first_show(results, table):
     one = results.one(row="first show", cores=1)
     two = results.one(row="first show", cores=2)
@@ -160,8 +180,8 @@ def add_replay(results, table):
 
 def make_table(results):
     table = Table()
-    for add in (add_drawing, add_long_stroke, add_editing, add_first_show, add_zoom, add_memory,
-                add_start, add_replay):
+    for add in (add_drawing, add_long_stroke, add_editing, add_undoing, add_first_show, add_zoom,
+                add_memory, add_start, add_replay):
         add(results, table)
     return table.text()
 
