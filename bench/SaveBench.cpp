@@ -6,6 +6,7 @@
 #include "io/DocumentWriter.h"
 #include "io/Save.h"
 #include "model/DrawingDocument.h"
+#include "platform/WorkQueue.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>
@@ -48,6 +49,21 @@ void encodeOnly(benchmark::State& state) {
         benchmark::DoNotOptimize(writeDocumentData(encodeDocumentData(document)));
 }
 
+/// What auto-save takes of the user-interface thread.
+void beginAutoSave(benchmark::State& state) {
+    const TemporaryFolder folder;
+    WorkQueue writeQueue;
+    DrawingDocument document({.writeQueue = &writeQueue});
+    draw(document, state.range(0));
+    for (auto _ : state) {
+        writeDocumentBehind(document, folder / "drawing.marlevo");
+        state.PauseTiming();
+        writeQueue.wait();
+        state.ResumeTiming();
+    }
+}
+
+BENCHMARK(beginAutoSave)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(saveIntoTheSameFile)
     ->Arg(1'000)
     ->Arg(10'000)

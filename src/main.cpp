@@ -81,12 +81,14 @@ int main(int argc, char* argv[]) {
     const marlevo::QtStrings strings;
     // Behind what their work uses, so that they end first.
     marlevo::WorkQueue flushQueue;
+    marlevo::WorkQueue writeQueue;
     marlevo::BackgroundThread backgroundQueue;
     marlevo::MarlevoApp app({.mainQueue = &mainQueue,
                              .imageCodec = &imageCodec,
                              .console = &console,
                              .preferences = &preferences,
                              .sleepingClock = &sleepingClock,
+                             .writeQueue = &writeQueue,
                              .flushQueue = &flushQueue,
                              .backgroundQueue = &backgroundQueue,
                              .printer = &printer,

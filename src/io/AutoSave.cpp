@@ -27,7 +27,7 @@ bool AutoSave::isOn() const {
 void AutoSave::runCycle() {
     if (!isOn()) return;
     const std::filesystem::path file = *document_.currentFileURL.get();
-    writeDocument(document_, file);
+    writeDocumentBehind(document_, file);
 }
 
 }  // namespace marlevo

@@ -10,8 +10,8 @@ namespace marlevo {
 class DrawingDocument;
 
 /// Writes a document to its file every 30 seconds, changed or not, as long as the user's setting is
-/// on and the document has a file. Ends with the destruction of this object. Does nothing for a
-/// document without a clock or preferences.
+/// on and the document has a file. Writing is left to the write queue. Ends with the destruction of
+/// this object. Does nothing for a document without a clock or preferences.
 class AutoSave {
 public:
     /// The pause after each cycle.

@@ -53,18 +53,23 @@ StrokeData encodeStroke(const Stroke& stroke) {
 
 }  // namespace
 
-DocumentData encodeDocumentData(const DrawingDocument& document) {
+DocumentSnapshot snapshotOf(const DrawingDocument& document) {
+    return {document.canvasSize, document.backgroundColor, document.backgroundIsTransparent,
+            document.layers};
+}
+
+DocumentData encodeDocumentData(const DocumentSnapshot& snapshot) {
     DocumentData data{.version = 1,
-                      .canvasWidth = document.canvasSize->width,
-                      .canvasHeight = document.canvasSize->height,
-                      .bgColorR = document.backgroundColor->red,
-                      .bgColorG = document.backgroundColor->green,
-                      .bgColorB = document.backgroundColor->blue,
-                      .bgColorA = document.backgroundColor->alpha,
-                      .bgTransparent = document.backgroundIsTransparent,
+                      .canvasWidth = snapshot.canvasSize.width,
+                      .canvasHeight = snapshot.canvasSize.height,
+                      .bgColorR = snapshot.backgroundColor.red,
+                      .bgColorG = snapshot.backgroundColor.green,
+                      .bgColorB = snapshot.backgroundColor.blue,
+                      .bgColorA = snapshot.backgroundColor.alpha,
+                      .bgTransparent = snapshot.backgroundIsTransparent,
                       .layers = {}};
-    data.layers.reserve(document.layers->size());
-    for (const Layer& layer : *document.layers) {
+    data.layers.reserve(snapshot.layers.size());
+    for (const Layer& layer : snapshot.layers) {
         LayerData& layerData = data.layers.emplace_back();
         layerData.name = layer.name;
         layerData.isVisible = layer.isVisible;
@@ -74,6 +79,10 @@ DocumentData encodeDocumentData(const DrawingDocument& document) {
         std::ranges::transform(layer.strokes, std::back_inserter(layerData.strokes), encodeStroke);
     }
     return data;
+}
+
+DocumentData encodeDocumentData(const DrawingDocument& document) {
+    return encodeDocumentData(snapshotOf(document));
 }
 
 void applyDocumentData(DrawingDocument& document, const DocumentData& data) {

@@ -7,6 +7,8 @@
 #include "model/DrawingDocument.h"
 #include "platform/Console.h"
 #include "platform/FilePanels.h"
+#include "platform/ParallelFor.h"
+#include "platform/WorkQueue.h"
 
 #include <new>
 #include <string>
@@ -19,29 +21,50 @@ void reportFailedSave(Console* console, std::string_view reason) {
     if (console != nullptr) console->writeLine("Save failed: " + std::string(reason));
 }
 
-Result<TextBlocks> encodeFile(const DrawingDocument& document, const std::filesystem::path& file) {
+Result<TextBlocks> encodeFile(const DocumentSnapshot& snapshot, const std::filesystem::path& file) {
     try {
-        return writeDocumentData(encodeDocumentData(document));
+        return writeDocumentData(encodeDocumentData(snapshot));
     } catch (const std::bad_alloc&) {
         return Unexpected(outOfMemoryFailure(file));
     }
+}
+
+/// Returns true if the file is written. Its flush is posted.
+bool writeSnapshot(const DocumentSnapshot& snapshot, const std::filesystem::path& to,
+                   Console* console, WorkQueue* flushQueue) {
+    // Encoded completely before the file is opened.
+    const auto text = encodeFile(snapshot, to);
+    auto written = text ? writeWholeFile(to, text->pieces()) : Unexpected(text.error());
+    if (!written) {
+        reportFailedSave(console, written.error().text);
+        return false;
+    }
+    flushBehind(flushQueue, std::move(*written),
+                [console](const Failure& failure) { reportFailedSave(console, failure.text); });
+    return true;
 }
 
 }  // namespace
 
 void writeDocument(DrawingDocument& document, const std::filesystem::path& to) {
     const Services& services = document.services();
-    // Encoded completely before the file is opened.
-    const auto text = encodeFile(document, to);
-    if (!text) return reportFailedSave(services.console, text.error().text);
-    auto written = writeWholeFile(to, text->pieces());
-    if (!written) return reportFailedSave(services.console, written.error().text);
+    // An older state must not be written after this one.
+    if (services.writeQueue) services.writeQueue->wait();
+    if (writeSnapshot(snapshotOf(document), to, services.console, services.flushQueue))
+        document.currentFileURL = to;
+}
 
-    flushBehind(services.flushQueue, std::move(*written),
-                [console = services.console](const Failure& failure) {
-                    reportFailedSave(console, failure.text);
-                });
-    document.currentFileURL = to;
+void writeDocumentBehind(const DrawingDocument& document, const std::filesystem::path& to) {
+    const Services& services = document.services();
+    const auto write = [to, console = services.console,
+                        flushQueue = services.flushQueue](const DocumentSnapshot& snapshot) {
+        writeSnapshot(snapshot, to, console, flushQueue);
+    };
+    if (services.writeQueue == nullptr) return write(snapshotOf(document));
+    services.writeQueue->post([write, snapshot = snapshotOf(document)] {
+        const OneCore leavesTheOthersToTheWindows;
+        write(snapshot);
+    });
 }
 
 void save(DrawingDocument& document) {

@@ -10,6 +10,11 @@ class DrawingDocument;
 /// is one line "Save failed: …" on the console and changes nothing.
 void writeDocument(DrawingDocument& document, const std::filesystem::path& to);
 
+/// Writes the drawing as it is now to the file, on the write queue, in place and whole. Returns at
+/// once. A later writeDocument() waits for it. A failure is one line "Save failed: …" on the
+/// console. Without a write queue it writes before it returns.
+void writeDocumentBehind(const DrawingDocument& document, const std::filesystem::path& to);
+
 /// Writes to the document's file; without one, asks as saveAs() does.
 void save(DrawingDocument& document);
 

@@ -14,4 +14,17 @@ namespace marlevo {
 /// rethrown when all threads have stopped; some indices are then left out.
 void parallelFor(std::size_t count, const std::function<void(std::size_t)>& work);
 
+/// Keeps the calls of parallelFor() by this thread on this thread, for the time of its existence:
+/// for work behind the user's back, which leaves the other cores to the windows.
+class OneCore {
+public:
+    OneCore();
+    ~OneCore();
+    OneCore(const OneCore&) = delete;
+    OneCore& operator=(const OneCore&) = delete;
+
+private:
+    bool before_;
+};
+
 }  // namespace marlevo

@@ -26,6 +26,7 @@ struct Services {
     Console* console = nullptr;
     Preferences* preferences = nullptr;
     SleepingClock* sleepingClock = nullptr;
+    WorkQueue* writeQueue = nullptr;  ///< encodes and writes what auto-save keeps
     WorkQueue* flushQueue = nullptr;  ///< flushes written files to the disk
     BackgroundQueue* backgroundQueue = nullptr;
     Printer* printer = nullptr;

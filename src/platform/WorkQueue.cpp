@@ -1,6 +1,5 @@
 #include "platform/WorkQueue.h"
 
-#include <future>
 #include <system_error>
 #include <utility>
 
@@ -35,11 +34,18 @@ void WorkQueue::post(std::function<void()> work) {
     state_->changed.notify_one();
 }
 
+void WorkQueue::wait() { afterAllWork().wait(); }
+
 bool WorkQueue::waitFor(std::chrono::milliseconds limit) {
-    // Shared, because the work may be done after the limit.
+    return afterAllWork().wait_for(limit) == std::future_status::ready;
+}
+
+std::future<void> WorkQueue::afterAllWork() {
+    // Shared, because a std::function must be copyable.
     const auto done = std::make_shared<std::promise<void>>();
+    std::future<void> future = done->get_future();
     post([done] { done->set_value(); });
-    return done->get_future().wait_for(limit) == std::future_status::ready;
+    return future;
 }
 
 void WorkQueue::run(State& state) {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <functional>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -31,6 +32,9 @@ public:
     /// Callable on any thread, also from within the work.
     void post(std::function<void()> work);
 
+    /// Waits until the work posted before is done. Not from within the work.
+    void wait();
+
     /// Waits until the work posted before is done, at most for `limit`. Returns true if it is. Not
     /// from within the work.
     bool waitFor(std::chrono::milliseconds limit);
@@ -45,6 +49,7 @@ private:
     };
 
     static void run(State& state);
+    std::future<void> afterAllWork();
 
     AtEnd atEnd_;
     std::shared_ptr<State> state_ = std::make_shared<State>();

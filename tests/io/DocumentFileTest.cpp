@@ -11,7 +11,9 @@
 
 #include <gmock/gmock.h>
 
+#include <future>
 #include <limits>
+#include <thread>
 
 namespace marlevo {
 namespace {
@@ -28,6 +30,7 @@ struct Desktop {
                 .console = &console,
                 .preferences = &preferences,
                 .sleepingClock = &clock,
+                .writeQueue = &writeQueue,
                 .flushQueue = &flushQueue};
     }
 
@@ -37,6 +40,7 @@ struct Desktop {
     FakePreferences preferences;
     FakeClock clock;
     WorkQueue flushQueue;
+    WorkQueue writeQueue;
 };
 
 /// Opens the file in the document by the open panel.
@@ -213,6 +217,7 @@ TEST(AutoSaving, writesEveryThirtySecondsIfThereIsAFileAndTheSettingIsOn) {
     const auto isWrittenWithin = [&](seconds time) {
         fs::remove(file);
         desktop.clock.advance(time);
+        desktop.writeQueue.wait();
         return fs::exists(file);
     };
     EXPECT_FALSE(isWrittenWithin(seconds(29)));
@@ -226,11 +231,42 @@ TEST(AutoSaving, writesEveryThirtySecondsIfThereIsAFileAndTheSettingIsOn) {
 
     fs::remove_all(desktop.folder.path());
     desktop.clock.advance(seconds(60));
+    desktop.writeQueue.wait();
     EXPECT_THAT(desktop.console.lines,
                 ElementsAre(StartsWith("Save failed: "), StartsWith("Save failed: ")));
 
     autoSave.reset();
     EXPECT_EQ(desktop.clock.sleepers(), 0u);
+}
+
+TEST(AutoSaving, writesTheMomentOfItsCycleBeforeALaterSave) {
+    Desktop desktop;
+    DrawingDocument document(desktop.services());
+    document.ensureLayers();
+    const fs::path file = desktop.folder / "a.marlevo";
+    writeDocument(document, file);
+    const AutoSave autoSave(document);
+    const auto strokesInFile = [&] { return loadDrawing(file, nullptr)->layers[0].strokes.size(); };
+    const auto beginWriting = [&](std::promise<void>& release) {
+        desktop.writeQueue.post([&] { release.get_future().wait(); });
+        addStroke(document, makeStroke(PointList({{1, 1}, {9, 9}})));
+        desktop.clock.advance(AutoSave::interval);
+        addStroke(document, makeStroke(PointList({{1, 9}, {9, 1}})));
+    };
+    std::promise<void> first;
+    beginWriting(first);
+    EXPECT_EQ(strokesInFile(), 0U);
+    first.set_value();
+    desktop.writeQueue.wait();
+    EXPECT_EQ(strokesInFile(), 1U);
+
+    std::promise<void> second;
+    beginWriting(second);
+    std::thread user([&] { save(document); });
+    second.set_value();
+    user.join();
+    desktop.writeQueue.wait();
+    EXPECT_EQ(strokesInFile(), 4U);
 }
 
 }  // namespace

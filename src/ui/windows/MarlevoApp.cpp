@@ -87,7 +87,12 @@ void MarlevoApp::quit() {
 void MarlevoApp::saveBeforeEnd() {
     for (DocumentWindow* const window : documentWindows())
         window->content().saveBeforeEnd();
-    if (services_.flushQueue) services_.flushQueue->waitFor(std::chrono::seconds(5));
+    // The writing posts the flushes.
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    for (WorkQueue* const queue : {services_.writeQueue, services_.flushQueue}) {
+        const auto left = end - std::chrono::steady_clock::now();
+        if (queue) queue->waitFor(std::chrono::duration_cast<std::chrono::milliseconds>(left));
+    }
 }
 
 bool MarlevoApp::closeUnsavedDrawings() {
