@@ -11,6 +11,7 @@
 #include "ui/windows/PresetRow.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QStyle>
 
 #include <functional>
@@ -92,6 +93,13 @@ std::function<QWidget*()> swatch(ColorSwatch::Selection selection) {
         return made;
     };
 }
+QWidget* menu() {
+    auto* made = new QMenu;
+    made->setActiveAction(made->addAction("Selected"));
+    made->addSeparator();
+    made->addAction("Disabled")->setEnabled(false);
+    return made;
+}
 
 const std::vector<Case>& cases() {
     using enum State;
@@ -101,7 +109,10 @@ const std::vector<Case>& cases() {
     using enum ToolButton::Look;
     using enum ColorSwatch::Selection;
     const Shade blackPaint = shade(QColor(Qt::black));
+    const Shade edge = shade(SemanticColor::outline);
+    const Shade face = shade(SemanticColor::windowBackground);
     static const std::vector<Case> all{
+        {"menu", menu, rest, {{0, 0, edge}, {3, 0, face}, {7, -12, blue()}, {7, 12, face}}},
         {"tool", tool(primary, false), rest, {{0, 0, gray(0.41)}, {5, -6, gray(0.06)}}},
         {"tool", tool(primary, false), focused, {{0, 0, blue()}, {5, -6, gray(0.06)}}},
         {"primary tool in use", tool(primary, true), rest, {{0, 0, blue()}, {5, -6, blue()}}},
@@ -111,8 +122,7 @@ const std::vector<Case>& cases() {
         {"framed icon", icon(bordered), rest, {{2, 0, gray(0.06)}}},
         {"framed icon", icon(bordered), disabled, {{2, 0, gray(0.06)}}},
         {"framed icon", icon(bordered), focused, {{0, 0, blue()}, {3, 0, gray(0.06)}}},
-        {"swatch", swatch(none), rest, {{8, -5, blackPaint}, {8, 0, blackPaint}}},
-        {"swatch", swatch(none), disabled, {{8, 0, blackPaint}}},
+        {"black swatch", swatch(none), rest, {{8, -5, blackPaint}, {8, 0, blackPaint}}},
         {"swatch in use", swatch(active), rest, {{8, -7, blue()}, {8, 0, blackPaint}}},
         {"check box",
          box(false),
@@ -215,7 +225,7 @@ private Q_SLOTS:
             const int column =
                 probe.fromLeading < 0 ? image.width() + probe.fromLeading : probe.fromLeading;
             const QPoint at(atColumn(column), image.height() / 2 + probe.fromMiddle);
-            const double opacity = c.state == State::disabled ? disabledOpacity : 1;
+            const double opacity = c.state == State::disabled ? opacity::disabled : 1;
             QColor expected = over(probe.expected.color(), probe.expected.opacity, background);
             expected = over(expected, opacity, background);
             const QColor seen = image.pixelColor(at);

@@ -1,3 +1,4 @@
+#include "ui/controls/ControlPainting.h"
 #include "ui/controls/DistributeWidth.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TextLabel.h"
@@ -62,6 +63,12 @@ private Q_SLOTS:
             }
             QVERIFY(contrast(Qt::white, color(blue)) >= 4.5);
             QVERIFY(contrast(color(blue), color(controlBackground)) >= 3);
+            const QColor menu = color(windowBackground);
+            QVERIFY(contrast(color(outline), menu) >= 3);
+            QVERIFY(contrast(color(outline), color(controlBackground)) >= 3);
+            QVERIFY(contrast(color(blue), menu) >= 3);
+            QVERIFY(contrast(over(withOpacity(color(primary), opacity::disabledMenuItem), menu),
+                             menu) >= 3);
         }
     }
 

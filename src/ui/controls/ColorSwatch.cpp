@@ -37,13 +37,16 @@ QSize ColorSwatch::sizeHint() const {
 void ColorSwatch::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    if (!isEnabled()) painter.setOpacity(opacity::disabled);
     const QRectF disc = QRectF(rect()).adjusted(room, room, -room, -room);
-    const QColor outline = selection_ == Selection::active
-                               ? semanticColor(SemanticColor::blue)
-                               : withOpacity(semanticColor(SemanticColor::gray), swatchOutline);
+    const QColor outline =
+        selection_ == Selection::active
+            ? semanticColor(SemanticColor::blue)
+            : withOpacity(semanticColor(SemanticColor::gray), opacity::swatchOutline);
+    const QColor color = toQColor(color_());
     const double radius = disc.width() / 2;
-    paintRoundedRect(painter, disc, radius, toQColor(color_()));
+    paintRoundedRect(painter, disc, radius, color);
+    if (selection_ != Selection::active) paintColorEdge(painter, disc, radius, color);
     // Half of the outline is outside the circle, so that the coloured area keeps its size.
     const double width = selection_ == Selection::none ? 1 : 2.5;
     const double outside = std::min(width / 2, double(room));
@@ -52,7 +55,7 @@ void ColorSwatch::paintEvent(QPaintEvent*) {
     if (isHovered() && !isDown()) {
         paintRoundedRect(
             painter, disc, radius, Qt::transparent,
-            {withOpacity(semanticColor(SemanticColor::gray), hoveredSwatchOutline), 1});
+            {withOpacity(semanticColor(SemanticColor::gray), opacity::swatchHovered), 1});
     }
     if (hasFocus()) paintFocusRing(painter, rect(), this->width() / 2.0);
 }

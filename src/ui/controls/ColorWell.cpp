@@ -61,11 +61,13 @@ QSize ColorWell::sizeHint() const { return {grownWithText(width_), grownWithText
 void ColorWell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    if (!isEnabled()) painter.setOpacity(opacity::disabled);
     const QColor gray = semanticColor(SemanticColor::gray);
-    const double fill = isDown() ? pressedFill : isHovered() ? hoveredFill : restingFill;
+    const double fill = isDown()      ? opacity::pressed
+                        : isHovered() ? opacity::hovered
+                                      : opacity::resting;
     paintRoundedRect(painter, rect(), radius, withOpacity(gray, fill),
-                     {withOpacity(gray, outlineOpacity), 1});
+                     {withOpacity(gray, opacity::outline), 1});
 
     const QRectF inner = QRectF(rect()).adjusted(frame, frame, -frame, -frame);
     QPainterPath shape;
@@ -77,7 +79,7 @@ void ColorWell::paintEvent(QPaintEvent*) {
         paintCheckers(painter, inner);
         painter.restore();
     }
-    paintRoundedRect(painter, inner, innerRadius, color, {withOpacity(gray, outlineOpacity), 1});
+    paintRoundedRect(painter, inner, innerRadius, color, {withOpacity(gray, opacity::outline), 1});
     if (hasFocus()) paintFocusRing(painter, rect(), focusRadius);
 }
 

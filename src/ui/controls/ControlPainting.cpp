@@ -3,7 +3,11 @@
 #include "ui/controls/SemanticColors.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace marlevo {
 
@@ -22,6 +26,26 @@ void paintRoundedRect(QPainter& painter, const QRectF& rect, double radius, cons
                                 radius - inset);
     }
     painter.restore();
+}
+
+void paintColorEdge(QPainter& painter, const QRectF& rect, double radius, const QColor& color) {
+    const QColor background = semanticColor(SemanticColor::controlBackground);
+    constexpr int visibleDifference = 48;
+    const int difference = std::max({std::abs(color.red() - background.red()),
+                                     std::abs(color.green() - background.green()),
+                                     std::abs(color.blue() - background.blue())});
+    if (difference < visibleDifference)
+        paintRoundedRect(painter, rect, radius, Qt::transparent,
+                         {semanticColor(SemanticColor::outline), 1});
+}
+
+void paintShadow(QPainter& painter, const QPainterPath& shape, int reach, double opacity) {
+    painter.setBrush(Qt::NoBrush);
+    const QColor layer = withOpacity(Qt::black, opacity / reach);
+    for (int distance = reach; distance > 0; --distance) {
+        painter.setPen(QPen(layer, 2 * distance, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(shape);
+    }
 }
 
 void paintFocusRing(QPainter& painter, const QRectF& rect, double radius) {

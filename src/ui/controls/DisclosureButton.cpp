@@ -75,7 +75,7 @@ void DisclosureButton::changeEvent(QEvent* event) {
 void DisclosureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    if (!isEnabled()) painter.setOpacity(opacity::disabled);
     const double side = iconSide(TypeStyle::caption2);
     const double middle = isRightToLeft() ? width() - side / 2 : side / 2;
     painter.save();

@@ -20,7 +20,7 @@ QPixmap IconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State sta
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setPen(semanticColor(SemanticColor::primary));
-    if (mode == QIcon::Disabled) painter.setOpacity(disabledOpacity);
+    if (mode == QIcon::Disabled) painter.setOpacity(opacity::disabled);
     paint(&painter, QRect({}, size), mode, state);
     return pixmap;
 }

@@ -1,6 +1,8 @@
 #include "ui/controls/MarlevoStyle.h"
 
+#include "platform/qt/Compositing.h"
 #include "platform/qt/DesktopSettings.h"
+#include "ui/controls/CheckBox.h"
 #include "ui/controls/ChoiceRow.h"
 #include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/Icons.h"
@@ -11,9 +13,12 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
+#include <QStyleOptionMenuItem>
 #include <QStyleOptionSlider>
 #include <QStyleOptionToolButton>
 
@@ -47,6 +52,30 @@ void MarlevoStyle::polish(QPalette& palette) {
     setSemanticColors(palette, wantedAppearance(palette), SemanticColor::windowBackground);
 }
 
+void MarlevoStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    auto* const menu = qobject_cast<QMenu*>(widget);
+    if (!menu && !isTooltip(*widget)) return;
+    // An opaque window needs no mask where transparent pixels would be black.
+    widget->setAttribute(Qt::WA_TranslucentBackground, isScreenComposited());
+    if (!menu) return;
+    menu->setContentsMargins(popupShadow(menu));
+    menu->installEventFilter(this);
+}
+
+// The toolkit places the window of a menu. The menu itself is smaller by its shadow.
+bool MarlevoStyle::eventFilter(QObject* watched, QEvent* event) {
+    auto* const menu = qobject_cast<QMenu*>(watched);
+    if (menu && event->type() == QEvent::Show && !event->spontaneous()) {
+        const QMargins shadow = menu->contentsMargins();
+        // The items of a submenu are aligned already.
+        const bool isSubmenu = qobject_cast<QMenu*>(menu->parentWidget()) != nullptr;
+        menu->move(menu->x() + (menu->isRightToLeft() ? shadow.right() : -shadow.left()),
+                   menu->y() - (isSubmenu ? 0 : shadow.top()));
+    }
+    return QProxyStyle::eventFilter(watched, event);
+}
+
 void MarlevoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
     if (element == PE_PanelButtonCommand) {
@@ -59,6 +88,9 @@ void MarlevoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             field && field->lineWidth > 0)
             return paintField(*painter, *field);
     }
+    if (element == PE_PanelMenu || element == PE_PanelTipLabel)
+        return paintPopupPanel(*painter, option->rect, popupShadow(widget));
+    if (element == PE_FrameMenu) return;  // a part of the panel
     if (element == PE_IndicatorCheckBox) return paintCheckIndicator(*painter, *option);
     if (element == PE_PanelScrollAreaCorner)
         return painter->fillRect(option->rect, option->palette.window());
@@ -82,11 +114,24 @@ void MarlevoStyle::drawControl(ControlElement element, const QStyleOption* optio
             if (element == CE_CheckBox) return paintCheckBox(*painter, *button);
         }
     }
+    if (element == CE_MenuItem) {
+        const bool isUnderlined = proxy()->styleHint(SH_UnderlineShortcut, option, widget) != 0;
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+            QStyleOptionMenuItem inset = *item;
+            // The list of a combo box has no padding of its own.
+            if (!qobject_cast<const QMenu*>(widget))
+                inset.rect.adjust(menuPadding, 0, -menuPadding, 0);
+            return paintMenuItem(*painter, inset,
+                                 isUnderlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+        }
+    }
+    if (element == CE_MenuScroller) return paintMenuScroller(*painter, *option);
     QProxyStyle::drawControl(element, option, painter, widget);
-    // The other push buttons show the focus as the default button, which these never are.
-    if (element == CE_PushButton && qobject_cast<const SmallButton*>(widget) &&
-        option->state.testFlag(State_HasFocus))
-        paintPushButtonFocus(*painter, option->rect);
+    // A default button is blue with and without the focus. Small ones take the focus by Tab only.
+    const bool isByKey = option->state.testFlag(State_KeyboardFocusChange) ||
+                         qobject_cast<const SmallButton*>(widget);
+    if (element == CE_PushButton && isByKey && option->state.testFlag(State_HasFocus))
+        paintFocusRing(*painter, option->rect, fieldRadius);
 }
 
 void MarlevoStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -101,7 +146,7 @@ void MarlevoStyle::drawComplexControl(ComplexControl control, const QStyleOption
     }
     if (const auto* const slider = qobject_cast<const ContinuousSlider*>(widget)) {
         if (const auto* state = qstyleoption_cast<const QStyleOptionSlider*>(option))
-            return paintSlider(*painter, *state, slider->knobSize(), slider->isSliderDown());
+            return paintSlider(*painter, *state, *slider);
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -128,13 +173,21 @@ QSize MarlevoStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
             if (type == CT_CheckBox) return checkBoxSize(*button);
         }
     }
+    if (type == CT_MenuItem) {
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+            return menuItemSize(*item);
+    }
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton ? size + pushButtonRoom : size;
 }
 
 QRect MarlevoStyle::subElementRect(SubElement element, const QStyleOption* option,
                                    const QWidget* widget) const {
-    if (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect) return option->rect;
+    const bool isWholeTarget = qobject_cast<const CheckBox*>(widget) ||
+                               qobject_cast<const Switch*>(widget) ||
+                               qobject_cast<const ChoiceRow*>(widget);
+    if (isWholeTarget && (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect))
+        return option->rect;
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     if (element != SE_LineEditContents) return rect;
     const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -146,6 +199,11 @@ int MarlevoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight) return checkBoxSide();
     if (metric == PM_ScrollBarExtent) return scrollBarWidth;
     if (metric == PM_ScrollBarSliderMin) return leastKnobLength;
+    if (metric == PM_MenuPanelWidth) return 0;
+    if (metric == PM_MenuHMargin || metric == PM_MenuVMargin) return menuPadding;
+    if (metric == PM_SubMenuOverlap) return menuPadding - 1;  // the edges of both coincide
+    if (metric == PM_MenuScrollerHeight) return menuScrollerHeight;
+    if (metric == PM_ToolTipLabelFrameWidth) return tooltipPadding + popupShadow(widget).left();
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 

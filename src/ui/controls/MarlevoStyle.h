@@ -5,8 +5,8 @@
 namespace marlevo {
 
 /// Paints the controls of all windows, including the toolkit's panels and questions: flat buttons
-/// and fields, narrow scroll bars, and the colours of SemanticColors.h for the desktop's light or
-/// dark appearance.
+/// and fields, rounded menus, narrow scroll bars, and the colours of SemanticColors.h for the
+/// desktop's light or dark appearance.
 class MarlevoStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -15,6 +15,8 @@ public:
 
     using QProxyStyle::polish;
     void polish(QPalette& palette) override;
+    void polish(QWidget* widget) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;

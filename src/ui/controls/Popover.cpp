@@ -1,5 +1,6 @@
 #include "ui/controls/Popover.h"
 
+#include "ui/controls/ControlPainting.h"
 #include "ui/controls/LastInput.h"
 #include "ui/controls/SemanticColors.h"
 
@@ -91,12 +92,7 @@ void Popover::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPainterPath path = outline(body(), arrowTip_, isRightToLeft());
-    painter.setBrush(Qt::NoBrush);
-    for (int reach = shadowReach; reach > 0; --reach) {
-        painter.setPen(
-            QPen(QColor(0, 0, 0, 6), 2 * reach, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(path);
-    }
+    paintShadow(painter, path, shadowReach, opacity::popoverShadow);
     painter.setPen(QPen(semanticColor(SemanticColor::separator), 2));
     painter.drawPath(path);
     painter.fillPath(path, semanticColor(SemanticColor::windowBackground));

@@ -1,5 +1,7 @@
 #include "ui/controls/SemanticColors.h"
 
+#include "ui/controls/ControlPainting.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -25,6 +27,7 @@ constexpr std::array table{
     Row{SemanticColor::separator, 0x1f000000, 0x26ffffff},
     Row{SemanticColor::controlBackground, 0xffffffff, 0xff1e1e20},
     Row{SemanticColor::windowBackground, 0xfff0f0f2, 0xff2a2a2d},
+    Row{SemanticColor::outline, 0xff88888e, 0xff7a7a80},
     Row{SemanticColor::systemRed, 0xffe8352e, 0xffff5a50},
     Row{SemanticColor::systemOrange, 0xfff58a07, 0xffff9f1c},
     Row{SemanticColor::systemYellow, 0xfff7c600, 0xffffd426},
@@ -73,7 +76,7 @@ void setSemanticColors(QPalette& palette, Appearance appearance, SemanticColor b
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, withOpacity(text, 0.35));
+        palette.setColor(QPalette::Disabled, role, withOpacity(text, opacity::disabled));
     }
     palette.setColor(QPalette::PlaceholderText, color(SemanticColor::tertiary));
     palette.setColor(QPalette::Highlight, color(SemanticColor::blue));

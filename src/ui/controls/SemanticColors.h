@@ -17,6 +17,7 @@ enum class SemanticColor : unsigned char {
     separator,
     controlBackground,
     windowBackground,
+    outline,  ///< of menus and marks; at least 3 : 1 on both backgrounds
     systemRed,
     systemOrange,
     systemYellow,

@@ -13,7 +13,6 @@ namespace marlevo {
 
 namespace {
 
-constexpr double dimming = 0.3;
 constexpr double cornerRadius = 10;
 constexpr int leastMargin = 8;
 
@@ -66,7 +65,7 @@ void SheetHost::showEvent(QShowEvent*) {
 
 void SheetHost::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(rect(), withOpacity(Qt::black, dimming));
+    painter.fillRect(rect(), withOpacity(Qt::black, opacity::sheetDimming));
     DropShadow::paint(painter, frame_.geometry(), event->rect());
     painter.setRenderHint(QPainter::Antialiasing);
     paintRoundedRect(painter, frame_.geometry(), cornerRadius,

@@ -7,46 +7,32 @@
 
 namespace marlevo {
 
-namespace {
-
-constexpr double radius = 5;  // view points
-
-bool has(const QStyleOption& option, QStyle::StateFlag state) {
-    return option.state.testFlag(state);
-}
-
-}  // namespace
-
 bool isProminent(const QStyleOptionButton& button) {
     return button.features.testFlag(QStyleOptionButton::DefaultButton) &&
-           has(button, QStyle::State_Enabled);
+           ControlState(button).isEnabled;
 }
 
 void paintPushButton(QPainter& painter, const QStyleOptionButton& button) {
+    const ControlState state(button);
     const QColor ink = semanticColor(SemanticColor::primary);
-    const bool isDown = has(button, QStyle::State_Sunken) || has(button, QStyle::State_On);
-    const bool isHovered =
-        has(button, QStyle::State_MouseOver) && has(button, QStyle::State_Enabled);
+    const bool isDown = state.isDown || state.isChecked;
     if (isProminent(button)) {
         const QColor blue = semanticColor(SemanticColor::blue);
-        paintRoundedRect(painter, button.rect, radius, isDown ? blue.darker(115) : blue);
-        if (isHovered && !isDown)
-            paintRoundedRect(painter, button.rect, radius, withOpacity(Qt::black, 0.07));
+        paintRoundedRect(painter, button.rect, fieldRadius, isDown ? blue.darker(115) : blue);
+        if (state.isHovered && !isDown)
+            paintRoundedRect(painter, button.rect, fieldRadius,
+                             withOpacity(Qt::black, opacity::defaultButtonHovered));
         return;
     }
-    QColor face = semanticColor(SemanticColor::controlBackground);
-    double border = 0.22;
-    if (!has(button, QStyle::State_Enabled)) {
-        face = withOpacity(face, 0.5);
-        border = 0.12;
-    }
-    paintRoundedRect(painter, button.rect, radius, face, {withOpacity(ink, border), 1});
-    if (isDown || isHovered)
-        paintRoundedRect(painter, button.rect, radius, withOpacity(ink, isDown ? 0.14 : 0.06));
-}
-
-void paintPushButtonFocus(QPainter& painter, const QRect& rect) {
-    paintFocusRing(painter, rect, radius);
+    const QColor face = semanticColor(SemanticColor::controlBackground);
+    paintRoundedRect(
+        painter, button.rect, fieldRadius,
+        state.isEnabled ? face : withOpacity(face, opacity::disabledFace),
+        {withOpacity(ink, state.isEnabled ? opacity::buttonEdge : opacity::buttonEdgeDisabled), 1});
+    if (isDown || state.isHovered)
+        paintRoundedRect(
+            painter, button.rect, fieldRadius,
+            withOpacity(ink, isDown ? opacity::buttonPressed : opacity::buttonHovered));
 }
 
 }  // namespace marlevo

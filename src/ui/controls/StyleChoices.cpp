@@ -29,9 +29,6 @@ constexpr int rowPadding = 8;
 constexpr int rowMarkGap = 8;
 constexpr double rowRadius = 8;
 
-constexpr double chosenRow = 0.1;
-constexpr double hoveredRow = 0.05;
-
 /// Of a text in one line or more.
 QSize textSize(const QStyleOptionButton& button) {
     return button.fontMetrics.size(Qt::TextShowMnemonic, button.text);
@@ -51,23 +48,22 @@ void paintText(QPainter& painter, const QStyleOptionButton& button, const QRect&
                                                    Qt::TextShowMnemonic));
 }
 
-void paintCheckMark(QPainter& painter, const QRectF& box, bool isPartial) {
-    QPainterPath mark(box.topLeft() + QPointF(0.24, 0.53) * box.width());
-    if (isPartial) {
-        mark = QPainterPath(box.center() - QPointF(0.25, 0) * box.width());
-        mark.lineTo(box.center() + QPointF(0.25, 0) * box.width());
-    } else {
-        mark.lineTo(box.topLeft() + QPointF(0.43, 0.72) * box.width());
-        mark.lineTo(box.topLeft() + QPointF(0.77, 0.29) * box.width());
-    }
+void paintMark(QPainter& painter, const QRectF& box, const QPainterPath& mark,
+               const QColor& color) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::white, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(mark);
 }
 
 QSize switchTrack() {
     return {grownWithText(usualSwitchTrack.width()), grownWithText(usualSwitchTrack.height())};
+}
+
+void paintDash(QPainter& painter, const QRectF& box, const QColor& color) {
+    QPainterPath dash(box.center() - QPointF(0.25, 0) * box.width());
+    dash.lineTo(box.center() + QPointF(0.25, 0) * box.width());
+    paintMark(painter, box, dash, color);
 }
 
 int checkBoxLabelLeft(const QStyleOptionButton& button) {
@@ -78,6 +74,13 @@ int checkBoxLabelLeft(const QStyleOptionButton& button) {
 }  // namespace
 
 int checkBoxSide() { return grownWithText(boxSide); }
+
+void paintCheckMark(QPainter& painter, const QRectF& box, const QColor& color) {
+    QPainterPath mark(box.topLeft() + QPointF(0.24, 0.53) * box.width());
+    mark.lineTo(box.topLeft() + QPointF(0.43, 0.72) * box.width());
+    mark.lineTo(box.topLeft() + QPointF(0.77, 0.29) * box.width());
+    paintMark(painter, box, mark, color);
+}
 
 QSize checkBoxSize(const QStyleOptionButton& button) {
     const QSize text = textSize(button);
@@ -98,18 +101,16 @@ QSize leastCheckBoxSize(const QStyleOptionButton& button) {
 
 void paintCheckIndicator(QPainter& painter, const QStyleOption& indicator) {
     painter.save();
-    if (!indicator.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    if (!indicator.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(opacity::disabled);
     const QRectF box = indicator.rect;
     const bool isPartial = indicator.state.testFlag(QStyle::State_NoChange);
     if (isPartial || indicator.state.testFlag(QStyle::State_On)) {
         paintRoundedRect(painter, box, boxRadius, semanticColor(SemanticColor::blue));
-        paintCheckMark(painter, box, isPartial);
+        isPartial ? paintDash(painter, box, Qt::white) : paintCheckMark(painter, box, Qt::white);
     } else {
         const QColor gray = semanticColor(SemanticColor::gray);
-        const double fill = indicator.state.testFlag(QStyle::State_Sunken)      ? pressedFill
-                            : indicator.state.testFlag(QStyle::State_MouseOver) ? hoveredFill
-                                                                                : restingFill;
-        paintRoundedRect(painter, box, boxRadius, withOpacity(gray, fill), {gray, 1});
+        paintRoundedRect(painter, box, boxRadius, withOpacity(gray, ControlState(indicator).fill()),
+                         {gray, 1});
     }
     painter.restore();
 }
@@ -126,7 +127,7 @@ void paintCheckBox(QPainter& painter, const QStyleOptionButton& button) {
     paintCheckIndicator(painter, indicator);
 
     painter.save();
-    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(opacity::disabled);
     const int left = checkBoxLabelLeft(button);
     if (!button.icon.isNull()) {
         const int side = iconSide(TypeStyle::callout);
@@ -149,7 +150,7 @@ QSize switchSize(const QStyleOptionButton& button) {
 
 void paintSwitch(QPainter& painter, const QStyleOptionButton& button) {
     painter.save();
-    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(opacity::disabled);
     paintText(painter, button, button.rect);
 
     const bool isOn = button.state.testFlag(QStyle::State_On);
@@ -176,10 +177,11 @@ void paintChoiceRow(QPainter& painter, const QStyleOptionButton& button) {
     const QColor blue = semanticColor(SemanticColor::blue);
     const bool isChosen = button.state.testFlag(QStyle::State_On);
     if (isChosen)
-        paintRoundedRect(painter, button.rect, rowRadius, withOpacity(blue, chosenRow));
+        paintRoundedRect(painter, button.rect, rowRadius, withOpacity(blue, opacity::chosenRow));
     else if (button.state.testFlag(QStyle::State_MouseOver))
-        paintRoundedRect(painter, button.rect, rowRadius,
-                         withOpacity(semanticColor(SemanticColor::primary), hoveredRow));
+        paintRoundedRect(
+            painter, button.rect, rowRadius,
+            withOpacity(semanticColor(SemanticColor::primary), opacity::choiceHovered));
 
     const QRect inside =
         button.rect.adjusted(rowSidePadding, rowPadding, -rowSidePadding, -rowPadding);

@@ -7,25 +7,16 @@
 
 namespace marlevo {
 
-namespace {
-
-constexpr double radius = 5;  // view points
-
-bool has(const QStyleOption& option, QStyle::StateFlag state) {
-    return option.state.testFlag(state);
-}
-
-}  // namespace
-
 void paintField(QPainter& painter, const QStyleOptionFrame& field) {
-    const bool isEnabled = has(field, QStyle::State_Enabled);
-    const bool isFocused = has(field, QStyle::State_HasFocus) && isEnabled;
+    const ControlState state(field);
     const QColor ink = semanticColor(SemanticColor::primary);
     const QColor face = semanticColor(SemanticColor::controlBackground);
-    const Outline outline = isFocused ? Outline{semanticColor(SemanticColor::blue), 2}
-                                      : Outline{withOpacity(ink, isEnabled ? 0.3 : 0.15), 1};
-    paintRoundedRect(painter, field.rect, radius, isEnabled ? face : withOpacity(face, 0.5),
-                     outline);
+    const double edge = state.isEnabled ? opacity::fieldEdge : opacity::fieldEdgeDisabled;
+    paintRoundedRect(painter, field.rect, fieldRadius,
+                     state.isEnabled ? face : withOpacity(face, opacity::disabledFace),
+                     state.isEnabled && state.hasFocus
+                         ? Outline{semanticColor(SemanticColor::blue), 2}
+                         : Outline{withOpacity(ink, edge), 1});
 }
 
 }  // namespace marlevo

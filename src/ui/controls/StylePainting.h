@@ -1,24 +1,46 @@
 #pragma once
 
+#include "ui/controls/ControlPainting.h"
 #include "ui/controls/ToolButton.h"
 
+#include <QMargins>
 #include <QSize>
 #include <QStyle>
+#include <QStyleOption>
 
 class QPainter;
-class QStyleOption;
-class QStyleOptionButton;
-class QStyleOptionFrame;
-class QStyleOptionSlider;
-class QStyleOptionToolButton;
 
 // How MarlevoStyle paints and measures the toolkit's controls, by family. For the style only.
 namespace marlevo {
 
+class ContinuousSlider;
+
+struct ControlState {
+    explicit ControlState(const QStyleOption& option)
+        : isEnabled(option.state.testFlag(QStyle::State_Enabled)),
+          isDown(option.state.testFlag(QStyle::State_Sunken)),
+          isChecked(option.state.testFlag(QStyle::State_On)),
+          isHovered(isEnabled && option.state.testFlag(QStyle::State_MouseOver)),
+          hasFocus(option.state.testFlag(QStyle::State_HasFocus)) {}
+
+    /// The opacity of a grey fill.
+    double fill() const {
+        return isDown ? opacity::pressed : isHovered ? opacity::hovered : opacity::resting;
+    }
+
+    bool isEnabled;
+    bool isDown;
+    bool isChecked;
+    bool isHovered;
+    bool hasFocus;
+};
+
+/// Of push buttons and fields, in view points.
+inline constexpr double fieldRadius = 5;
+
 /// Whether the push button is the default one and enabled: blue with white text.
 bool isProminent(const QStyleOptionButton& button);
 void paintPushButton(QPainter& painter, const QStyleOptionButton& button);
-void paintPushButtonFocus(QPainter& painter, const QRect& rect);
 /// Added to what the base style adds to a push button, in view points.
 inline constexpr QSize pushButtonRoom(12, 2);
 
@@ -33,6 +55,7 @@ void paintField(QPainter& painter, const QStyleOptionFrame& field);
 inline constexpr int fieldPadding = 3;
 
 int checkBoxSide();
+void paintCheckMark(QPainter& painter, const QRectF& box, const QColor& color);
 /// A square of that side.
 void paintCheckIndicator(QPainter& painter, const QStyleOption& indicator);
 void paintCheckBox(QPainter& painter, const QStyleOptionButton& button);
@@ -47,10 +70,26 @@ QSize switchSize(const QStyleOptionButton& button);
 void paintChoiceRow(QPainter& painter, const QStyleOptionButton& button);
 QSize choiceRowSize(const QStyleOptionButton& button);
 
-/// A horizontal slider.
-void paintSlider(QPainter& painter, const QStyleOptionSlider& slider, int knobSize, bool isHeld);
+void paintSlider(QPainter& painter, const QStyleOptionSlider& option,
+                 const ContinuousSlider& slider);
 /// The knob's centre from the left, in view points.
 double sliderKnobCenter(const QStyleOptionSlider& slider, int knobSize);
+
+bool isTooltip(const QWidget& widget);
+/// The room for the shadow of a menu or a tooltip, inside its window. None where the screen does
+/// not show one.
+QMargins popupShadow(const QWidget* popup);
+/// The panel of a menu, the list of a combo box or a tooltip. Without a shadow it fills the window.
+void paintPopupPanel(QPainter& painter, const QRect& rect, const QMargins& shadow);
+// In view points.
+inline constexpr int menuPadding = 5;  ///< between the panel's edge and the items
+inline constexpr int menuScrollerHeight = 18;
+inline constexpr int tooltipPadding = 5;
+/// Without the shortcut, for which a menu adds room.
+QSize menuItemSize(const QStyleOptionMenuItem& item);
+/// `mnemonics` shows or hides the underlined letters.
+void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item, Qt::TextFlag mnemonics);
+void paintMenuScroller(QPainter& painter, const QStyleOption& scroller);
 
 void paintScrollBar(QPainter& painter, const QStyleOptionSlider& bar);
 /// The place of a part. A scroll bar has a knob and the room before and behind it, no buttons.

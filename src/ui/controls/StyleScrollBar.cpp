@@ -23,7 +23,8 @@ void paintScrollBar(QPainter& painter, const QStyleOptionSlider& bar) {
                           bar.activeSubControls == QStyle::SC_ScrollBarSlider;
     const QRectF inside = QRectF(knob).adjusted(knobMargin, knobMargin, -knobMargin, -knobMargin);
     paintRoundedRect(painter, inside, std::min(inside.width(), inside.height()) / 2,
-                     withOpacity(semanticColor(SemanticColor::gray), isActive ? 0.85 : 0.5));
+                     withOpacity(semanticColor(SemanticColor::gray),
+                                 isActive ? opacity::scrollKnobHovered : opacity::scrollKnob));
 }
 
 QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {

@@ -1,3 +1,4 @@
+#include "ui/controls/ContinuousSlider.h"
 #include "ui/controls/ControlPainting.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/StylePainting.h"
@@ -12,7 +13,6 @@ namespace marlevo {
 namespace {
 
 constexpr int trackHeight = 4;
-constexpr double trackOpacity = 0.35;
 
 }  // namespace
 
@@ -23,26 +23,30 @@ double sliderKnobCenter(const QStyleOptionSlider& slider, int knobSize) {
     return slider.rect.left() + knobSize / 2.0 + forward * (slider.rect.width() - knobSize);
 }
 
-void paintSlider(QPainter& painter, const QStyleOptionSlider& slider, int knobSize, bool isHeld) {
+void paintSlider(QPainter& painter, const QStyleOptionSlider& option,
+                 const ContinuousSlider& slider) {
+    const ControlState state(option);
+    const bool isHeld = slider.isSliderDown();
+    const int knobSize = slider.knobSize();
     painter.save();
-    if (!slider.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
-    const QRectF area = slider.rect;
+    if (!state.isEnabled) painter.setOpacity(opacity::disabled);
+    const QRectF area = option.rect;
     const double middle = area.center().y();
     const QRectF track(area.left() + 1, middle - trackHeight / 2.0, area.width() - 2, trackHeight);
-    const double knob = sliderKnobCenter(slider, knobSize);
+    const double knob = sliderKnobCenter(option, knobSize);
     QRectF filled = track;
-    if (slider.upsideDown)
+    if (option.upsideDown)
         filled.setLeft(knob);
     else
         filled.setRight(knob);
     const QColor gray = semanticColor(SemanticColor::gray);
     const QColor blue = semanticColor(SemanticColor::blue);
-    paintRoundedRect(painter, track, trackHeight / 2.0, withOpacity(gray, trackOpacity));
+    paintRoundedRect(painter, track, trackHeight / 2.0, withOpacity(gray, opacity::outline));
     paintRoundedRect(painter, filled, trackHeight / 2.0, blue);
 
     const QRectF disc(knob - knobSize / 2.0 + 1, middle - knobSize / 2.0 + 1, knobSize - 2,
                       knobSize - 2);
-    const bool isRinged = isHeld || slider.state.testFlag(QStyle::State_HasFocus);
+    const bool isRinged = isHeld || state.hasFocus;
     paintRoundedRect(painter, disc, disc.width() / 2, isHeld ? QColor(0xe8e8ec) : Qt::white,
                      {isRinged ? blue : gray, isRinged ? 2.0 : 1.0});
     painter.restore();

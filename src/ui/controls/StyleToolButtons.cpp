@@ -28,20 +28,6 @@ constexpr double compactRadius = 4;
 constexpr double rowHighlightRadius = 5;
 constexpr double radius = 6;
 
-struct State {
-    explicit State(const QStyleOption& button)
-        : isDown(button.state.testFlag(QStyle::State_Sunken)),
-          isChecked(button.state.testFlag(QStyle::State_On)),
-          isHovered(button.state.testFlag(QStyle::State_MouseOver) &&
-                    button.state.testFlag(QStyle::State_Enabled)),
-          hasFocus(button.state.testFlag(QStyle::State_HasFocus)) {}
-
-    bool isDown;
-    bool isChecked;
-    bool isHovered;
-    bool hasFocus;
-};
-
 int iconSideOf(Look look) {
     return iconSide(look == Look::borderless ? TypeStyle::body : TypeStyle::caption);
 }
@@ -61,38 +47,37 @@ void paintCentredIcon(QPainter& painter, const QStyleOptionToolButton& button, i
 }
 
 void paintIconButton(QPainter& painter, const QStyleOptionToolButton& button, Look look) {
-    const State state(button);
+    const ControlState state(button);
     const QColor gray = semanticColor(SemanticColor::gray);
     if (look == Look::compact) {
         if (state.isDown || state.isHovered)
             paintRoundedRect(painter, button.rect, compactRadius,
-                             withOpacity(gray, state.isDown ? 0.3 : 0.18));
+                             withOpacity(gray, state.isDown ? opacity::compactPressed
+                                                            : opacity::compactHovered));
         return;
     }
     const bool isBordered = look == Look::bordered;
-    const double fill = state.isDown      ? pressedFill
-                        : state.isHovered ? hoveredFill
-                        : isBordered      ? restingFill
-                                          : 0;
-    paintRoundedRect(painter, button.rect, iconRadius, withOpacity(gray, fill),
-                     {withOpacity(gray, outlineOpacity), isBordered ? 1.0 : 0.0});
+    const bool hasFill = isBordered || state.isDown || state.isHovered;
+    paintRoundedRect(painter, button.rect, iconRadius,
+                     withOpacity(gray, hasFill ? state.fill() : 0),
+                     {withOpacity(gray, opacity::outline), isBordered ? 1.0 : 0.0});
 }
 
 void paintTool(QPainter& painter, const QStyleOptionToolButton& button, Look look) {
-    const State state(button);
+    const ControlState state(button);
     const QColor blue = semanticColor(SemanticColor::blue);
     const QColor gray = semanticColor(SemanticColor::gray);
     const bool isOnBlue = state.isChecked && look == Look::primaryTool;
     if (isOnBlue)
         paintRoundedRect(painter, button.rect, radius, blue);
     else if (state.isChecked)
-        paintRoundedRect(painter, button.rect, radius, withOpacity(blue, 0.15), {blue, 1.5});
+        paintRoundedRect(painter, button.rect, radius, withOpacity(blue, opacity::chosenTool),
+                         {blue, 1.5});
     else
-        paintRoundedRect(painter, button.rect, radius, withOpacity(gray, restingFill),
-                         {withOpacity(gray, outlineOpacity), 1});
+        paintRoundedRect(painter, button.rect, radius, withOpacity(gray, opacity::resting),
+                         {withOpacity(gray, opacity::outline), 1});
     if (state.isDown || state.isHovered)
-        paintRoundedRect(painter, button.rect, radius,
-                         withOpacity(gray, state.isDown ? pressedFill : hoveredFill));
+        paintRoundedRect(painter, button.rect, radius, withOpacity(gray, state.fill()));
 
     const int side = iconSideOf(look);
     const int labelWidth = button.fontMetrics.size(0, button.text).width() + 1;
@@ -111,13 +96,13 @@ void paintTool(QPainter& painter, const QStyleOptionToolButton& button, Look loo
 }
 
 void paintMenuRow(QPainter& painter, const QStyleOptionToolButton& button) {
-    const State state(button);
+    const ControlState state(button);
     if (state.isDown || state.isHovered || state.hasFocus) {
         const QRectF inside =
             QRectF(button.rect).adjusted(rowHighlightMargin, 0, -rowHighlightMargin, 0);
-        paintRoundedRect(
-            painter, inside, rowHighlightRadius,
-            withOpacity(semanticColor(SemanticColor::blue), state.isDown ? 0.3 : 0.15));
+        paintRoundedRect(painter, inside, rowHighlightRadius,
+                         withOpacity(semanticColor(SemanticColor::blue),
+                                     state.isDown ? opacity::menuRowPressed : opacity::menuRow));
     }
     const QRect content = button.rect.adjusted(rowSidePadding, 0, -rowSidePadding, 0);
     const QColor text = semanticColor(SemanticColor::primary);
@@ -132,10 +117,11 @@ void paintMenuRow(QPainter& painter, const QStyleOptionToolButton& button) {
 }
 
 void paintListRow(QPainter& painter, const QStyleOptionToolButton& button) {
-    const State state(button);
+    const ControlState state(button);
     if (!state.isChecked && !state.isHovered) return;
     const SemanticColor color = state.isChecked ? SemanticColor::blue : SemanticColor::gray;
-    paintRoundedRect(painter, button.rect, radius, withOpacity(semanticColor(color), 0.08));
+    paintRoundedRect(painter, button.rect, radius,
+                     withOpacity(semanticColor(color), opacity::listRow));
 }
 
 }  // namespace
@@ -143,7 +129,7 @@ void paintListRow(QPainter& painter, const QStyleOptionToolButton& button) {
 void paintToolButton(QPainter& painter, const QStyleOptionToolButton& button, Look look) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(disabledOpacity);
+    if (!button.state.testFlag(QStyle::State_Enabled)) painter.setOpacity(opacity::disabled);
     switch (look) {
     case Look::borderless:
     case Look::bordered:

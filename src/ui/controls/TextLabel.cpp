@@ -61,7 +61,7 @@ bool TextLabel::isElided() const { return !wordWrap() && width() < sizeHint().wi
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    if (!isEnabled()) painter.setOpacity(opacity::disabled);
     painter.setPen(semanticColor(look_.color));
     const QString shown = shownText();
     if (look_.digits == Digits::monospaced && width() >= sizeHint().width())

@@ -30,8 +30,11 @@ QSize ColorCircle::sizeHint() const {
 
 void ColorCircle::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    constexpr double outline = 1;
     paintRoundedRect(painter, rect(), width() / 2.0, color_,
-                     {semanticColor(SemanticColor::separator), 1});
+                     {semanticColor(SemanticColor::separator), outline});
+    paintColorEdge(painter, QRectF(rect()).adjusted(outline, outline, -outline, -outline),
+                   width() / 2.0 - outline, color_);
 }
 
 }  // namespace marlevo

@@ -147,7 +147,7 @@ bool LayerRow::event(QEvent* event) {
 void LayerRow::paintEvent(QPaintEvent* event) {
     ChoiceButton::paintEvent(event);
     QPainter painter(this);
-    const QColor gray = withOpacity(semanticColor(SemanticColor::gray), inactiveDot);
+    const QColor gray = withOpacity(semanticColor(SemanticColor::gray), opacity::inactiveDot);
     paintRoundedRect(painter, QStyle::visualRect(layoutDirection(), rect(), dot_),
                      dot_.width() / 2.0, isActive() ? semanticColor(SemanticColor::blue) : gray);
 }

@@ -49,7 +49,7 @@ void LayerThumbnailView::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const QColor gray = semanticColor(SemanticColor::gray);
     const Outline outline = isActive_ ? Outline{semanticColor(SemanticColor::blue), 2}
-                                      : Outline{withOpacity(gray, thumbnailOutline), 1};
+                                      : Outline{withOpacity(gray, opacity::thumbnailOutline), 1};
     QPainterPath shape;
     shape.addRoundedRect(rect(), radius, radius);
     if (const auto& picture = thumbnail_.cgImage()) {
@@ -57,7 +57,7 @@ void LayerThumbnailView::paintEvent(QPaintEvent*) {
         painter.drawImage(rect(), qImageFrom(*picture));
         painter.setClipping(false);
     } else {
-        painter.fillPath(shape, withOpacity(gray, thumbnailPlaceholder));
+        painter.fillPath(shape, withOpacity(gray, opacity::thumbnailPlaceholder));
     }
     paintRoundedRect(painter, rect(), radius, Qt::transparent, outline);
 }
