@@ -1,14 +1,17 @@
 #include "ui/controls/ControlPainting.h"
 #include "ui/controls/DistributeWidth.h"
+#include "ui/controls/Icons.h"
 #include "ui/controls/SemanticColors.h"
 #include "ui/controls/TextLabel.h"
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QTest>
 #include <QTextDocument>
 #include <QToolTip>
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 
@@ -69,6 +72,47 @@ private Q_SLOTS:
             QVERIFY(contrast(color(blue), menu) >= 3);
             QVERIFY(contrast(over(withOpacity(color(primary), opacity::disabledMenuItem), menu),
                              menu) >= 3);
+        }
+    }
+
+    void straightLinesOfIconsLieOnWholePixels() {
+        struct Cut {
+            Icon icon;
+            Qt::Orientation direction;
+            double share;  ///< of the icon's side, where the cut crosses lines only
+            std::ptrdiff_t lines;
+        };
+        for (const Cut& cut : {Cut{Icon::plus, Qt::Horizontal, 0.3, 1},
+                               {Icon::plus, Qt::Vertical, 0.3, 1},
+                               {Icon::minus, Qt::Vertical, 0.5, 1},
+                               {Icon::arrowUp, Qt::Horizontal, 0.7, 1},
+                               {Icon::arrowDown, Qt::Horizontal, 0.3, 1},
+                               {Icon::grid, Qt::Horizontal, 0.5, 4},
+                               {Icon::grid, Qt::Vertical, 0.5, 4},
+                               {Icon::rectangle, Qt::Horizontal, 0.5, 2},
+                               {Icon::rectangle, Qt::Vertical, 0.5, 2}}) {
+            for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+                for (int side = 13; side <= 20; ++side) {
+                    const int pixels = qCeil(side * scale);
+                    QImage image(pixels + 1, pixels + 1, QImage::Format_RGB32);
+                    image.fill(Qt::white);
+                    image.setDevicePixelRatio(scale);
+                    QPainter painter(&image);
+                    paintIcon(painter, cut.icon, QRectF(0, 0, side, side), Qt::black);
+                    std::vector<int> levels;
+                    const int across = int(cut.share * pixels);
+                    for (int i = 0; i < pixels; ++i)
+                        levels.push_back(qGray(cut.direction == Qt::Horizontal
+                                                   ? image.pixel(i, across)
+                                                   : image.pixel(across, i)));
+                    const int width = std::max(1, qRound(1.5 * pixels / 16));
+                    const auto count = [&](int level) {
+                        return std::count(levels.begin(), levels.end(), level);
+                    };
+                    QCOMPARE(count(0), cut.lines * width);
+                    QCOMPARE(count(255), pixels - cut.lines * width);
+                }
+            }
         }
     }
 

@@ -1,5 +1,7 @@
 #include "ui/controls/Icons.h"
 
+#include "ui/controls/IconDrawing.h"
+
 #include <QColor>
 #include <QImage>
 #include <QPainter>
@@ -8,7 +10,7 @@
 
 #include <array>
 #include <cmath>
-#include <memory>
+#include <optional>
 
 // The linker drops the resources of a static library unless Q_INIT_RESOURCE names them, which works
 // outside of namespaces only.
@@ -34,12 +36,14 @@ QString resource(const char* name) {
     return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name));
 }
 
-QSvgRenderer& rendererOf(Icon icon) {
-    static std::array<std::unique_ptr<QSvgRenderer>, fileNames.size()> renderers;
-    auto& renderer = renderers[std::size_t(icon)];
-    if (!renderer)
-        renderer = std::make_unique<QSvgRenderer>(resource(fileNames[std::size_t(icon)]));
-    return *renderer;
+const IconDrawing& drawingOf(Icon icon) {
+    static std::array<std::optional<IconDrawing>, fileNames.size()> drawings;
+    auto& drawing = drawings[std::size_t(icon)];
+    if (!drawing) {
+        QSvgRenderer renderer(resource(fileNames[std::size_t(icon)]));
+        drawing.emplace(renderer);
+    }
+    return *drawing;
 }
 
 /// A picture that has colours of its own.
@@ -68,7 +72,7 @@ void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& c
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter inside(&image);
-    rendererOf(icon).render(&inside);
+    drawingOf(icon).paint(inside, pixels);
     inside.setCompositionMode(QPainter::CompositionMode_SourceIn);
     inside.fillRect(image.rect(), color);
     inside.end();
