@@ -32,13 +32,6 @@ bool showTheSame(const Layer& a, const Layer& b) {
                         a.strokes.sharesWith(b.strokes));
 }
 
-/// True if `after` consists of the strokes of `before` and then those of `added`, at least one.
-bool wereAppended(const std::vector<const Stroke*>& added, const StrokeList& before,
-                  const StrokeList& after) {
-    return before.size() + added.size() == after.size() && added.front() == &after[before.size()] &&
-           added.back() == &after[after.size() - 1];
-}
-
 /// The part of two stacks that begins and ends with the same layers. Between `head` layers at the
 /// bottom and `tail` layers at the top, layers were added, removed or moved.
 struct Alignment {
@@ -112,11 +105,11 @@ private:
         }
         const StrokeDifference& strokes = *found;
         stopDrawingOver();
-        if (strokes.removed.empty() && !strokes.added.empty() &&
-            wereAppended(strokes.added, before, after))
-            return drawOver(strokes.added);
         for (const Stroke* stroke : strokes.removed)
             damage(*stroke);
+        const std::size_t count = strokes.added.size();
+        if (count > 0 && strokes.added.front() == &after[after.size() - count])
+            return drawOver(strokes.added);
         for (const Stroke* stroke : strokes.added)
             damage(*stroke);
     }

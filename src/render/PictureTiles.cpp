@@ -45,7 +45,6 @@ ShownPicturePtr PictureTiles::restore(const Change& change) {
             drawStrokes(tile, overlay, change);
             tile.stale &= ~overlay.cells;
         }
-        tile.former = 0;
     });
     return search.samePicture();
 }
@@ -131,23 +130,35 @@ void PictureTiles::drawStrokes(Tile& tile, const Overlay& overlay, const Change&
 }
 
 void PictureTiles::paintMissing(const IntRect& area, const PaintParts& paint) {
-    std::vector<std::pair<Tile*, CellMask>> painted;
+    const IntRect asked = area.intersectedWith(canvas_);
+    std::vector<TileCells> stale;
+    tiles_.forEachTile(asked, [&](Tile& tile) {
+        stale.emplace_back(&tile, tile.stale & cellsTouching(tile.area, asked));
+    });
+    paintCells(stale, paint);
+}
+
+void PictureTiles::paintLost(const PaintParts& paint) {
+    std::vector<TileCells> stale;
+    tiles_.forEachKnownTile(
+        [&](Tile& tile) { stale.emplace_back(&tile, tile.stale & tile.former); });
+    paintCells(stale, paint);
+}
+
+void PictureTiles::paintCells(const std::vector<TileCells>& stale, const PaintParts& paint) const {
     std::vector<PixelBuffer> parts;
     IntRect whole;
-    const IntRect asked = area.intersectedWith(canvas_);
-    tiles_.forEachTile(asked, [&](Tile& tile) {
-        const CellMask cells = tile.stale & cellsTouching(tile.area, asked);
-        if (cells == 0) return;
-        painted.emplace_back(&tile, cells);
-        forEachRectangle(tile.area, cells, [&](const IntRect& rectangle) {
-            parts.push_back(tile.pixels().part(rectangle.intersectedWith(canvas_)));
+    for (const auto& [tile, cells] : stale) {
+        const PixelBuffer pixels = tile->pixels();
+        forEachRectangle(tile->area, cells, [&](const IntRect& rectangle) {
+            parts.push_back(pixels.part(rectangle.intersectedWith(canvas_)));
             whole = whole.unitedWith(parts.back().area);
         });
-    });
+    }
     if (parts.empty()) return;
     paint(parts, whole);
     // Only now: after an exception the cells are still stale and painted again.
-    for (const auto& [tile, cells] : painted)
+    for (const auto& [tile, cells] : stale)
         tile->stale &= ~cells;
 }
 

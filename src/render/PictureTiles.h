@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -62,6 +63,9 @@ public:
     /// Paints what is still to be painted of the cells that the area touches.
     void paintMissing(const IntRect& area, const PaintParts& paint);
 
+    /// The same for the cells that the last change has made stale.
+    void paintLost(const PaintParts& paint);
+
     /// Copies painted pixels. The target's area must be inside the canvas.
     void copyTo(const PixelBuffer& target) const;
 
@@ -90,7 +94,7 @@ private:
 
         IntRect area;
         CellMask stale = allCells;  ///< cells that must be painted before they are used
-        CellMask former = 0;        ///< stale cells that have the pixels from before the change
+        CellMask former = 0;        ///< cells of the last change that were painted before it
         CellMask damage = 0;        ///< cells that takeDamage() is to report
         std::unique_ptr<std::uint8_t[]> bytes;
         KeptCells kept;
@@ -102,6 +106,8 @@ private:
         CellMask cells;
     };
 
+    using TileCells = std::pair<Tile*, CellMask>;
+
     PixelBuffer pixelsOf(const Tile& tile, int cell) const;
     void restoreCell(Tile& tile, int cell, const Change& change, CellSearch& search,
                      std::vector<Overlay>& overlays);
@@ -110,6 +116,7 @@ private:
     void keepFormer(Tile& tile, int cell, const Change& change);
     void copyKept(Tile& tile, int cell, std::size_t version);
     void drawStrokes(Tile& tile, const Overlay& overlay, const Change& change) const;
+    void paintCells(const std::vector<TileCells>& stale, const PaintParts& paint) const;
     template <typename Visit>
     void forEachKept(Visit visit) const;
 

@@ -1,6 +1,7 @@
 #include "render/ScreenPicture.h"
 
 #include "model/ImageCache.h"
+#include "render/DraggedStroke.h"
 #include "render/ScenePainting.h"
 #include "render/StrokePainting.h"
 
@@ -69,7 +70,10 @@ void ScreenPicture::update(const Scene& scene) {
         tiles_ = emptyTiles(next);
         otherViews_.clear();
     } else {
-        if (!isSamePicture) isJoined = changeLayers(next, scene.strokeInProgress);
+        if (!isSamePicture) {
+            if (next.isPassing && showTheSame(lasting_->layers, layers)) startDrag(next);
+            isJoined = changeLayers(next, scene.strokeInProgress);
+        }
         if (after != before) changeView(next);
     }
     shown_ = std::move(next);
@@ -79,6 +83,18 @@ void ScreenPicture::update(const Scene& scene) {
     if (!isJoined) strokeDamage_ = strokeDamage_.unitedWith(ofStroke);
     images_.retainOnly(layers);
     isAllDamaged_ = wasAllDamaged || isNew || after != before;
+}
+
+/// Shows the picture without the dragged stroke, if that is the topmost one. Its pixels are kept,
+/// so that the drag costs no more than drawing the stroke.
+void ScreenPicture::startDrag(const Scene& next) {
+    const auto layers = withoutReplacedTopStroke(shown_.picture.layers, next.picture.layers);
+    if (!layers) return;
+    Scene without = shown_;
+    without.picture.layers = *layers;
+    changeLayers(without, nullptr);
+    lasting_ = std::make_shared<ShownPicture>(ShownPicture{*layers});
+    tiles_.paintLost(scenePainting());
 }
 
 /// Returns true if the change only adds the stroke in progress to its layer, which looks the same.
@@ -164,10 +180,12 @@ void ScreenPicture::paint(const PixelBuffer& target) {
     strokeInProgress_.paint(target.part(seen));
 }
 
-void ScreenPicture::prepare(const IntRect& area) {
-    tiles_.paintMissing(area, [&](const std::vector<PixelBuffer>& parts, const IntRect& whole) {
+void ScreenPicture::prepare(const IntRect& area) { tiles_.paintMissing(area, scenePainting()); }
+
+PictureTiles::PaintParts ScreenPicture::scenePainting() {
+    return [this](const std::vector<PixelBuffer>& parts, const IntRect& whole) {
         paintScene(shown_, gridColor_, images_, parts, whole);
-    });
+    };
 }
 
 std::size_t ScreenPicture::tileBytes() const {

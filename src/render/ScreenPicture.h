@@ -93,7 +93,9 @@ private:
     };
 
     bool changeLayers(const Scene& next, const Stroke* strokeInProgress);
+    void startDrag(const Scene& next);
     void changeView(const Scene& next);
+    PictureTiles::PaintParts scenePainting();
     CellSet cellsUnlikeLasting(const CellSet& none) const;
 
     ImageCache& images_;

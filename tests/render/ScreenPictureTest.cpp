@@ -216,7 +216,7 @@ TEST(ScreenPicture, RepaintingTheDifferenceEqualsPaintingAnew) {
         const PictureTiles::Counts& counts = kept.counts();
         for (const std::size_t count : {counts.samePicture, counts.sameInCell, counts.drawnOverKept,
                                         counts.drawnOver, counts.repainted})
-            EXPECT_GT(count, 50U);
+            EXPECT_GT(count, 0U);
     }
 }
 
@@ -279,29 +279,37 @@ TEST(ScreenPicture, DamageIsSmallAfterASmallChange) {
 /// No undo returns to a moment of a drag.
 TEST(ScreenPicture, ADragKeepsThePixelsFromItsStartOnly) {
     const IntRect area{0, 0, 640, 640};
-    Layer layer("Layer");
-    for (int i = 0; i < 60; ++i)
-        layer.strokes.append(makeStroke({{10.0 * i, 5}, {640 - 10.0 * i, 630}}, 4));
-    Scene scene{{{layer}, {640, 640}, white}, false, 1, nullptr};
-    const Scene start = scene;
-    ScreenPicture picture(noImages);
-    paint(picture, scene, area);
-    scene.isPassing = true;
-    for (int i = 0; i < 200; ++i) {
-        scene.picture.layers.back().strokes.modify(30, [&](Stroke& stroke) {
-            stroke.points = {{3.0 * i, 5}, {3.0 * i, 630}};
-        });
-        paint(picture, scene, area);
-    }
-    scene.isPassing = false;
-    paint(picture, scene, area);
-    constexpr std::size_t cells = 100;
     constexpr std::size_t bytesOfCell = std::size_t{64} * 64 * 4 + 100;
-    EXPECT_LE(picture.keptBytes(), cells * bytesOfCell);
-    const std::size_t repainted = picture.counts().repainted;
-    ScreenPicture fresh(noImages);
-    EXPECT_EQ(paint(picture, start, area), paint(fresh, start, area));
-    EXPECT_EQ(picture.counts().repainted, repainted) << "the start is found again";
+    constexpr std::size_t last = 59;
+    Layer layer("Layer");
+    for (std::size_t i = 0; i <= last; ++i)
+        layer.strokes.append(makeStroke({{10.0 * i, 5}, {640 - 10.0 * i, 630}}, 4));
+    for (const std::size_t dragged : {std::size_t{30}, last}) {
+        Scene scene{{{layer}, {640, 640}, white}, false, 1, nullptr};
+        const Scene start = scene;
+        ScreenPicture picture(noImages);
+        paint(picture, scene, area);
+        scene.isPassing = true;
+        std::size_t repaintedAtFirst = 0;
+        for (int i = 0; i < 200; ++i) {
+            scene.picture.layers.back().strokes.modify(dragged, [&](Stroke& stroke) {
+                stroke.points = {{3.0 * i, 5}, {3.0 * i, 630}};
+            });
+            const auto pixels = paint(picture, scene, area);
+            if (i == 0) repaintedAtFirst = picture.counts().repainted;
+            ScreenPicture fresh(noImages);
+            if (i % 20 != 0) continue;
+            ASSERT_EQ(pixels, paint(fresh, scene, area)) << i;
+        }
+        scene.isPassing = false;
+        paint(picture, scene, area);
+        EXPECT_LE(picture.keptBytes(), 200 * bytesOfCell) << "two versions of each cell";
+        const std::size_t repainted = picture.counts().repainted;
+        EXPECT_EQ(repainted == repaintedAtFirst, dragged == last) << "on top nothing is repainted";
+        ScreenPicture fresh(noImages);
+        EXPECT_EQ(paint(picture, start, area), paint(fresh, start, area));
+        EXPECT_EQ(picture.counts().repainted, repainted) << "the start is found again";
+    }
 }
 
 TEST(ScreenPicture, KeepsNoMoreTilesThanItsBoundBesidesTheVisibleOnes) {
