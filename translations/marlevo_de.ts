@@ -180,6 +180,10 @@
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
+    <message>
+        <source>Opens a menu</source>
+        <translation>Öffnet ein Menü</translation>
+    </message>
 </context>
 <context>
     <name>marlevo::CanvasScrollArea</name>

@@ -180,6 +180,10 @@
         <source>Export</source>
         <translation>Export</translation>
     </message>
+    <message>
+        <source>Opens a menu</source>
+        <translation>Opens a menu</translation>
+    </message>
 </context>
 <context>
     <name>marlevo::CanvasScrollArea</name>

@@ -180,6 +180,10 @@
         <source>Export</source>
         <translation>Exportar</translation>
     </message>
+    <message>
+        <source>Opens a menu</source>
+        <translation>Abre un menú</translation>
+    </message>
 </context>
 <context>
     <name>marlevo::CanvasScrollArea</name>

@@ -180,6 +180,10 @@
         <source>Export</source>
         <translation>Exporter</translation>
     </message>
+    <message>
+        <source>Opens a menu</source>
+        <translation>Ouvre un menu</translation>
+    </message>
 </context>
 <context>
     <name>marlevo::CanvasScrollArea</name>

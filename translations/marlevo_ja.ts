@@ -180,6 +180,10 @@
         <source>Export</source>
         <translation>エクスポート</translation>
     </message>
+    <message>
+        <source>Opens a menu</source>
+        <translation>メニューを開きます</translation>
+    </message>
 </context>
 <context>
     <name>marlevo::CanvasScrollArea</name>

@@ -64,6 +64,8 @@ private Q_SLOTS:
         // Both are members of one Tab stop.
         QVERIFY(stateOfButton("Draw").focusable && stateOfButton("Fill").focusable);
         QVERIFY(stateOfButton("Export").hasPopup && !stateOfButton("Save").hasPopup);
+        QCOMPARE(control<QAbstractButton>(s.window, "Export").accessibleDescription(),
+                 "Opens a menu");
         QCOMPARE(control<ColorWell>(s.window, "Color").accessibleDescription(), "#000000");
     }
 

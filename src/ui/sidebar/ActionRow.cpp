@@ -22,6 +22,8 @@ ActionRow::ActionRow(DrawingDocument& document, QWidget* parent)
       export_(Icon::trayArrowDown, tr("Export"), IconButton::Look::borderless),
       historyFollower_(document.changeRegistry(), [this] { showHistory(); }) {
     export_.setOpensPopover(true);
+    // AT-SPI transmits no state for this; the description says it.
+    export_.setAccessibleDescription(tr("Opens a menu"));
     auto* row = new FlowLayout(FlowLayout::Fill::ends, spacing, this);
     row->setContentsMargins(0, verticalPadding, 0, verticalPadding);
     row->addLayout(groupOf({&undo_, &redo_}, spacing));
