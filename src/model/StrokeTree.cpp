@@ -86,12 +86,12 @@ bool Leaf::appendAfter(std::size_t known, const IntrusivePtr<Record>& record) {
     // Two versions on two threads may append at the same time: one of them gets the slot.
     if (known == fanOut || !filled.compare_exchange_strong(known, known + 1)) return false;
     slots[known] = record;
-    boxes.set(known, Box::paintedBy(StrokeSummary::of(record->stroke)));
+    boxes.set(known, FloatBox::paintedBy(StrokeSummary::of(record->stroke)));
     return true;
 }
 
 void Leaf::replace(std::size_t at, Stroke stroke) {
-    boxes.set(at, Box::paintedBy(StrokeSummary::of(stroke)));
+    boxes.set(at, FloatBox::paintedBy(StrokeSummary::of(stroke)));
     if (slots[at].isUnique())
         slots[at]->stroke = std::move(stroke);
     else

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Box.h"
+#include "model/FloatBox.h"
 #include "model/IntrusivePtr.h"
 #include "model/Stroke.h"
 #include "model/StrokeSummary.h"
@@ -49,22 +49,22 @@ struct LeafBoxes {
             set(i, {});
     }
 
-    void set(std::size_t at, const Box& box) {
+    void set(std::size_t at, const FloatBox& box) {
         minX[at] = box.minX;
         minY[at] = box.minY;
         maxX[at] = box.maxX;
         maxY[at] = box.maxY;
     }
 
-    Box operator[](std::size_t at) const { return {minX[at], minY[at], maxX[at], maxY[at]}; }
+    FloatBox operator[](std::size_t at) const { return {minX[at], minY[at], maxX[at], maxY[at]}; }
 
-    bool touches(std::size_t at, const Box& area) const {
+    bool touches(std::size_t at, const FloatBox& area) const {
         return (isBeside(at, area) | isAboveOrBelow(at, area)) == 0;
     }
 
     /// Conservative: may return true when no box touches. Tests x only, which halves the memory
     /// read.
-    bool mayTouch(const Box& area) const {
+    bool mayTouch(const FloatBox& area) const {
         std::int32_t any = 0;
         for (std::size_t i = 0; i < fanOut; ++i)
             any |= 1 - isBeside(i, area);
@@ -74,10 +74,10 @@ struct LeafBoxes {
 private:
     // Negated comparisons, so that NaN counts as touching. Integers without branches, so that the
     // compiler vectorises the loop.
-    std::int32_t isBeside(std::size_t at, const Box& area) const {
+    std::int32_t isBeside(std::size_t at, const FloatBox& area) const {
         return (minX[at] > area.maxX ? 1 : 0) | (maxX[at] < area.minX ? 1 : 0);
     }
-    std::int32_t isAboveOrBelow(std::size_t at, const Box& area) const {
+    std::int32_t isAboveOrBelow(std::size_t at, const FloatBox& area) const {
         return (minY[at] > area.maxY ? 1 : 0) | (maxY[at] < area.minY ? 1 : 0);
     }
 };
@@ -150,7 +150,7 @@ void replace(IntrusivePtr<Node>& root, std::size_t index, Stroke stroke);
 /// The area that StrokeList::visitNear() searches.
 struct Search {
     Search(const Rect& wanted, double within)
-        : area(wanted), margin(within), box(Box::around(wanted, within)) {}
+        : area(wanted), margin(within), box(FloatBox::around(wanted, within)) {}
 
     bool reaches(const StrokeSummary& strokes) const {
         return strokes.reaches(area, margin + strokes.maxLineWidth / 2);
@@ -158,7 +158,7 @@ struct Search {
 
     Rect area;
     double margin;
-    Box box;
+    FloatBox box;
 };
 
 /// Calls `visitor` with those of the first `size` strokes of a leaf that are found, in order.

@@ -2,7 +2,7 @@
 
 #include "graphics/IntRect.h"
 #include "graphics/Rect.h"
-#include "model/Box.h"
+#include "model/FloatBox.h"
 #include "model/Stroke.h"
 
 #include <algorithm>
@@ -36,7 +36,7 @@ inline IntRect deviceBounds(const Rect& bounds, double lineWidth, double scale) 
 }
 
 /// The same for a mark that paints inside a box.
-inline IntRect deviceBounds(const Box& box, double scale) {
+inline IntRect deviceBounds(const FloatBox& box, double scale) {
     const double left = box.minX;
     const double top = box.minY;
     return deviceBounds({{left, top}, {box.maxX - left, box.maxY - top}}, 0, scale);

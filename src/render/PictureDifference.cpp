@@ -136,7 +136,7 @@ private:
         }
         CellSet& cells = difference_.damage;
         strokes.visitNear(onCanvas(cells.allowedArea(), scale_), penFringe / scale_,
-                          [&](std::size_t, const Stroke& stroke, const Box& box) {
+                          [&](std::size_t, const Stroke& stroke, const FloatBox& box) {
                               if (!cells.covers(deviceBounds(box, scale_))) damage(stroke);
                               return !cells.isFull();
                           });

@@ -23,7 +23,7 @@ VisibleStrokes::VisibleStrokes(const LayerRun& run, const IntRect& area, double 
     : scale_(scale) {
     for (const Layer* layer : run.layers) {
         layer->strokes.visitNear(onCanvas(area, scale), penFringe / scale,
-                                 [&](std::size_t, const Stroke& stroke, const Box& box) {
+                                 [&](std::size_t, const Stroke& stroke, const FloatBox& box) {
                                      found_.push_back({&stroke, box});
                                      return true;
                                  });
@@ -31,7 +31,7 @@ VisibleStrokes::VisibleStrokes(const LayerRun& run, const IntRect& area, double 
 }
 
 void VisibleStrokes::draw(BitmapContext& context, const DrawStroke& drawStroke) const {
-    const Box near = Box::around(onCanvas(context.area(), scale_), penFringe / scale_);
+    const FloatBox near = FloatBox::around(onCanvas(context.area(), scale_), penFringe / scale_);
     std::vector<const Found*> strokes;
     for (const Found& each : found_)
         if (each.box.touches(near)) strokes.push_back(&each);

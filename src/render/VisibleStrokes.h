@@ -2,7 +2,7 @@
 
 #include "graphics/BitmapContext.h"
 #include "graphics/IntRect.h"
-#include "model/Box.h"
+#include "model/FloatBox.h"
 #include "render/LayerRun.h"
 
 #include <cstddef>
@@ -31,7 +31,7 @@ public:
 private:
     struct Found {
         const Stroke* stroke = nullptr;
-        Box box;
+        FloatBox box;
     };
 
     double scale_;

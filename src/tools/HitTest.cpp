@@ -29,11 +29,12 @@ bool isHit(const Stroke& stroke, Point p, double tolerance) {
 
 std::optional<std::size_t> firstHit(const StrokeList& strokes, Point p, double tolerance) {
     std::optional<std::size_t> found;
-    strokes.visitNear({p, {}}, tolerance, [&](std::size_t index, const Stroke& stroke, const Box&) {
-        if (!isHit(stroke, p, tolerance)) return true;
-        found = index;
-        return false;
-    });
+    strokes.visitNear({p, {}}, tolerance,
+                      [&](std::size_t index, const Stroke& stroke, const FloatBox&) {
+                          if (!isHit(stroke, p, tolerance)) return true;
+                          found = index;
+                          return false;
+                      });
     return found;
 }
 

@@ -226,7 +226,7 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrderAndStopsWhenAsked) {
         const bool isWhole = expected.size() < most;
         if (!isWhole) expected.resize(most);
         std::vector<std::size_t> found;
-        const auto visit = [&](std::size_t at, const Stroke& stroke, const Box&) {
+        const auto visit = [&](std::size_t at, const Stroke& stroke, const FloatBox&) {
             EXPECT_EQ(stroke.color, twin.plain[at].color);
             found.push_back(at);
             return found.size() < most;
@@ -251,9 +251,9 @@ TEST(StrokeList, VisitMissesNothingByRounding) {
         list.append(stroke);
     }
     for (std::size_t wanted = 0; wanted < places.size(); ++wanted)
-        EXPECT_FALSE(
-            list.visitNear({places[wanted], {}}, 0,
-                           [&](std::size_t at, const Stroke&, const Box&) { return at != wanted; }))
+        EXPECT_FALSE(list.visitNear(
+            {places[wanted], {}}, 0,
+            [&](std::size_t at, const Stroke&, const FloatBox&) { return at != wanted; }))
             << wanted;
 }
 

@@ -1,4 +1,4 @@
-#include "model/Box.h"
+#include "model/FloatBox.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,17 +16,17 @@ float roundedUp(double value) { return -roundedDown(-value); }
 
 }  // namespace
 
-Box Box::around(const Rect& area, double margin) {
+FloatBox FloatBox::around(const Rect& area, double margin) {
     return outwards(area.minX(), area.minY(), area.maxX(), area.maxY(), margin);
 }
 
-Box Box::paintedBy(const StrokeSummary& strokes) {
+FloatBox FloatBox::paintedBy(const StrokeSummary& strokes) {
     if (strokes.minX > strokes.maxX) return {};
     return outwards(strokes.minX, strokes.minY, strokes.maxX, strokes.maxY,
                     strokes.maxLineWidth / 2);
 }
 
-Box Box::outwards(double minX, double minY, double maxX, double maxY, double margin) {
+FloatBox FloatBox::outwards(double minX, double minY, double maxX, double maxY, double margin) {
     const double largest =
         std::max({std::abs(minX), std::abs(minY), std::abs(maxX), std::abs(maxY), margin});
     const double grown = margin + 16 * std::numeric_limits<double>::epsilon() * largest;
