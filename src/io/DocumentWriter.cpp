@@ -117,7 +117,7 @@ private:
             newLine(depth + 1);
             addRecord(layer, depth + 1);
         }
-        endList(layers.empty(), depth);
+        endList(layers, depth);
     }
 
     void addValue(const std::vector<StrokeData>& strokes, std::size_t depth) {
@@ -136,11 +136,12 @@ private:
             });
             begin = end;
         }
-        endList(strokes.empty(), depth);
+        endList(strokes, depth);
     }
 
-    void endList(bool isEmpty, std::size_t depth) {
-        if (isEmpty) return literal(" ]");
+    template <typename Record>
+    void endList(const std::vector<Record>& list, std::size_t depth) {
+        if (list.empty()) return literal(" ]");
         newLine(depth);
         literal("]");
     }

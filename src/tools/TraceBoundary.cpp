@@ -65,8 +65,11 @@ std::optional<GridPoint> startCell(const Region& region) {
     return start;
 }
 
-/// Traces the outline and calls `visit` with each cell and with whether the trace changes its
-/// direction there. Returns the number of cells.
+/// Whether the trace changes its direction at a cell.
+enum class Course { straight, turn };
+
+/// Traces the outline and calls `visit` with each cell and the course there. Returns the number of
+/// cells.
 template <class Visitor>
 std::size_t walkOutline(const Region& region, Visitor visit) {
     const std::optional<GridPoint> start = startCell(region);
@@ -84,7 +87,7 @@ std::size_t walkOutline(const Region& region, Visitor visit) {
     std::ptrdiff_t bitStep = 0;
     do {
         const unsigned next = nextDirections[region.neighbourhood(bit)];
-        visit(cell, next != direction);
+        visit(cell, next != direction ? Course::turn : Course::straight);
         ++count;
         if (next == noDirection || count >= mostCells) break;
         // A branch instead of a look-up for every step: while the outline is straight, branch
@@ -106,7 +109,7 @@ std::size_t walkOutline(const Region& region, Visitor visit) {
 
 std::vector<GridPoint> traceOutline(const Region& region) {
     std::vector<GridPoint> outline;
-    walkOutline(region, [&](GridPoint cell, bool) { outline.push_back(cell); });
+    walkOutline(region, [&](GridPoint cell, Course) { outline.push_back(cell); });
     return outline;
 }
 
@@ -119,9 +122,9 @@ std::vector<GridPoint> traceBoundary(const Region& region) {
     // millions of cells need not be written to memory.
     std::vector<GridPoint> corners;
     std::optional<GridPoint> last;
-    const std::size_t count = walkOutline(region, [&](GridPoint cell, bool isCorner) {
-        if (isCorner) corners.push_back(cell);
-        last = isCorner ? std::nullopt : std::optional(cell);
+    const std::size_t count = walkOutline(region, [&](GridPoint cell, Course course) {
+        if (course == Course::turn) corners.push_back(cell);
+        last = course == Course::turn ? std::nullopt : std::optional(cell);
     });
     if (last) corners.push_back(*last);
     return count < 4 ? traceOutline(region) : simplifyPath(corners, outlineEpsilon);

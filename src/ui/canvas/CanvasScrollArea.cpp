@@ -91,21 +91,21 @@ bool CanvasScrollArea::eventFilter(QObject* watched, QEvent* event) {
 
 void CanvasScrollArea::followFocus(const QEvent& event) {
     if (event.type() == QEvent::FocusOut) focusRing_.hide();
-    if (event.type() == QEvent::KeyPress && LastInput::instance().wasKey()) showRing(true);
+    if (event.type() == QEvent::KeyPress && LastInput::instance().wasKey()) setFocusVisible(true);
     if (event.type() != QEvent::FocusIn) return;
     switch (static_cast<const QFocusEvent&>(event).reason()) {
     case Qt::ActiveWindowFocusReason:
     case Qt::PopupFocusReason:
     case Qt::MenuBarFocusReason:
-        return showRing(isFocusVisible_);  // the focus was only lent
+        return setFocusVisible(isFocusVisible_);  // the focus was only lent
     default:
-        return showRing(LastInput::instance().wasKey());
+        return setFocusVisible(LastInput::instance().wasKey());
     }
 }
 
-void CanvasScrollArea::showRing(bool isShown) {
-    isFocusVisible_ = isShown;
-    focusRing_.setVisible(isShown);
+void CanvasScrollArea::setFocusVisible(bool isVisible) {
+    isFocusVisible_ = isVisible;
+    focusRing_.setVisible(isVisible);
     focusRing_.raise();
 }
 

@@ -39,7 +39,7 @@ protected:
 
 private:
     void followFocus(const QEvent& event);
-    void showRing(bool isShown);
+    void setFocusVisible(bool isVisible);
     void layOut();
     QPoint alignedToDevicePixels(QPoint viewportPosition) const;
 

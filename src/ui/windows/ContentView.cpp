@@ -55,7 +55,7 @@ void ContentView::setShowNewCanvas(bool show) {
         sheet_->dismiss();
         sheet_.clear();
     }
-    Q_EMIT showNewCanvasChanged(show);
+    Q_EMIT showNewCanvasChanged();
 }
 
 void ContentView::fitToWindow() {

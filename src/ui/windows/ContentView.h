@@ -52,7 +52,7 @@ public:
     void saveBeforeEnd();
 
 Q_SIGNALS:
-    void showNewCanvasChanged(bool isShown);
+    void showNewCanvasChanged();
 
 protected:
     /// Passes the focus on to the canvas.

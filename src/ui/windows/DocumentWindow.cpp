@@ -33,9 +33,8 @@ DocumentWindow::DocumentWindow(MarlevoApp& app)
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(&content_->closeGuard(), &WindowAccessor::Coordinator::kept, this,
             &DocumentWindow::kept);
-    connect(content_.get(), &ContentView::showNewCanvasChanged, menus_.get(),
-            &MenuCommands::setBehindSheet);
-    menus_->setBehindSheet(content_->showNewCanvas());
+    connect(content_.get(), &ContentView::showNewCanvasChanged, this, &DocumentWindow::followSheet);
+    followSheet();
 
     content_->setMinimumSize(smallestContent);
     const QSize room = screen()->availableSize() - screenReserve;
@@ -47,6 +46,11 @@ DocumentWindow::~DocumentWindow() = default;
 DrawingDocument& DocumentWindow::document() { return content_->document(); }
 
 CanvasView& DocumentWindow::canvasView() { return content_->canvasView(); }
+
+void DocumentWindow::followSheet() {
+    using Cover = MenuCommands::Cover;
+    menus_->setCover(content_->showNewCanvas() ? Cover::sheet : Cover::none);
+}
 
 void DocumentWindow::closeDismissingPanels() {
     for (QDialog* const panel : findChildren<QDialog*>(Qt::FindDirectChildrenOnly))

@@ -44,6 +44,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void followSheet();
+
     // Each is destroyed before those declared above it: the menus use the document of the content,
     // which uses the panels.
     QtFilePanels filePanels_;

@@ -111,16 +111,16 @@ QAction& MenuCommands::addDocumentCommand(QMenu& menu, const QString& title,
     return action;
 }
 
-void MenuCommands::setBehindSheet(bool isBehindSheet) {
-    isBehindSheet_ = isBehindSheet;
+void MenuCommands::setCover(Cover cover) {
+    cover_ = cover;
     for (QAction* const action : documentActions_)
-        action->setEnabled(!isBehindSheet);
+        action->setEnabled(cover == Cover::none);
     historyFollower_->refresh();
 }
 
 void MenuCommands::showHistory() {
-    undo_->setEnabled(document_.canUndo() && !isBehindSheet_);
-    redo_->setEnabled(document_.canRedo() && !isBehindSheet_);
+    undo_->setEnabled(document_.canUndo() && cover_ == Cover::none);
+    redo_->setEnabled(document_.canRedo() && cover_ == Cover::none);
 }
 
 }  // namespace marlevo

@@ -24,8 +24,9 @@ public:
     /// The application and the document must outlive the menus; `window` is what Close closes.
     MenuCommands(MarlevoApp& app, DrawingDocument& document, QWidget* window);
 
-    /// True disables the commands on the document, for the time that a sheet covers it.
-    void setBehindSheet(bool isBehindSheet);
+    /// Whether a sheet covers the document. The commands on the document are then disabled.
+    enum class Cover { none, sheet };
+    void setCover(Cover cover);
 
 private:
     void addFileMenu();
@@ -43,7 +44,7 @@ private:
 
     MarlevoApp& app_;
     DrawingDocument& document_;
-    bool isBehindSheet_ = false;
+    Cover cover_ = Cover::none;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     std::vector<QAction*> documentActions_;
