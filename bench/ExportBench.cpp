@@ -1,7 +1,7 @@
 // What a PDF file of 10,000 strokes of 100 points costs, beside a peer: cairo, called with nothing
 // around it. And how its size compares with the numbers that the drawing is made of.
 
-#include "io/RenderPdf.h"
+#include "io/Export.h"
 #include "model/DrawingDocument.h"
 
 #include <cairo-pdf.h>

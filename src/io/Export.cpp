@@ -1,7 +1,7 @@
 #include "io/Export.h"
 
 #include "io/FileTypes.h"
-#include "io/RenderPdf.h"
+#include "io/PdfContext.h"
 #include "io/WriteFile.h"
 #include "model/DrawingDocument.h"
 #include "platform/FilePanels.h"
@@ -9,12 +9,12 @@
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 #include "platform/Printer.h"
+#include "render/LayerPainting.h"
 #include "render/RasterCompositing.h"
 
-#include <cstdint>
+#include <exception>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace marlevo {
 
@@ -58,6 +58,22 @@ std::string jobTitle(const std::optional<std::filesystem::path>& file) {
 }
 
 }  // namespace
+
+std::optional<std::vector<std::uint8_t>> renderPDFData(const DrawingDocument& document) {
+    const Picture picture = pictureOf(document);
+    const Size page{picture.canvasSize.width, picture.canvasSize.height};
+    if (!PdfContext::isPageSize(page)) return std::nullopt;
+    try {
+        PdfContext context(page);
+        if (!document.backgroundIsTransparent) context.fillRect({{0, 0}, page}, picture.background);
+        BorrowedImages images(document);
+        drawLayers(context, picture.layers, picture.canvasSize, page.height,
+                   [&](const Bytes& file) { return images.cache().image(file); });
+        return context.finish();
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
 
 std::string proposedPictureName(const DrawingDocument& document, ExportFormat format) {
     const Services& services = document.services();

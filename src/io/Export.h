@@ -2,12 +2,19 @@
 
 #include "model/ExportFormat.h"
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace marlevo {
 
 class DrawingDocument;
+
+/// The picture as a PDF file of one page, one point per canvas pixel, strokes as paths. Nothing if
+/// a page cannot have the canvas's size (PdfContext::isPageSize) or if memory is short.
+std::optional<std::vector<std::uint8_t>> renderPDFData(const DrawingDocument& document);
 
 /// The name that a panel proposes for the picture, such as "Drawing-1280x720.png".
 std::string proposedPictureName(const DrawingDocument& document, ExportFormat format);

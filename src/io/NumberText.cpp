@@ -136,4 +136,17 @@ char* writeNumber(double number, char* to) {
     return std::to_chars(to, to + maxNumberLength, magnitude).ptr;
 }
 
+std::optional<double> parseNumber(std::string_view text) {
+    // from_chars accepts no plus sign. Two signs are no number.
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+        if (text.starts_with('-')) return std::nullopt;
+    }
+    double number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || rest != end || !std::isfinite(number)) return std::nullopt;
+    return number;
+}
+
 }  // namespace marlevo

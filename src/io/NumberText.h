@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <string_view>
 
 namespace marlevo {
 
@@ -15,5 +17,10 @@ inline constexpr std::size_t maxNumberLength = 40;
 /// text is the shortest one, which can have more digits than needed: 123456789012345683968 instead
 /// of 1.2345678901234568e+20.
 char* writeNumber(double number, char* to);
+
+/// Parses the whole text as a number in C notation, independent of the locale: an optional sign,
+/// digits with "." as the decimal point, an optional exponent. Returns nothing for any other text,
+/// infinity and NaN.
+std::optional<double> parseNumber(std::string_view text);
 
 }  // namespace marlevo

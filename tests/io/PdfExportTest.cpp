@@ -1,5 +1,5 @@
+#include "io/Export.h"
 #include "io/FixedDecimal.h"
-#include "io/RenderPdf.h"
 #include "model/DrawingDocument.h"
 #include "render/RasterCompositing.h"
 #include "tests/support/Drawing.h"

@@ -1,5 +1,5 @@
+#include "io/NumberText.h"
 #include "tests/ui/RunningApp.h"
-#include "ui/windows/CNumber.h"
 #include "ui/windows/NewCanvasSheet.h"
 #include "ui/windows/PresetRow.h"
 
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, text);
         QFETCH(const bool, isNumber);
         QFETCH(const double, number);
-        const auto parsed = parseCNumber(text.toStdString());
+        const auto parsed = parseNumber(text.toStdString());
         QCOMPARE(parsed.has_value(), isNumber);
         QCOMPARE(parsed.value_or(0), number);
     }

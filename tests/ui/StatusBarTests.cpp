@@ -1,6 +1,6 @@
 #include "tests/ui/RunningApp.h"
 #include "tests/ui/SeenControls.h"
-#include "ui/canvas/ZoomRange.h"
+#include "ui/canvas/CanvasZoom.h"
 #include "ui/controls/SmallButton.h"
 #include "ui/windows/Translations.h"
 

@@ -1,7 +1,7 @@
 #include "io/DocumentData.h"
 #include "io/DocumentRecords.h"
+#include "io/Export.h"
 #include "io/Open.h"
-#include "io/RenderPdf.h"
 #include "io/Save.h"
 #include "model/DrawingDocument.h"
 #include "render/RasterCompositing.h"

@@ -1,7 +1,7 @@
 #include "ui/canvas/CanvasScrollArea.h"
 
 #include "model/DrawingDocument.h"
-#include "ui/canvas/DisplaySize.h"
+#include "ui/canvas/CanvasZoom.h"
 #include "ui/controls/DropShadow.h"
 #include "ui/controls/LastInput.h"
 

@@ -3,16 +3,16 @@
 #include "platform/qt/QtItemProviders.h"
 #include "render/RasterCompositing.h"
 #include "ui/canvas/CanvasAccessibility.h"
-#include "ui/canvas/DisplaySize.h"
+#include "ui/canvas/CanvasZoom.h"
 #include "ui/canvas/PixelConversions.h"
 #include "ui/canvas/RoundedCorners.h"
-#include "ui/canvas/WaitPointer.h"
 #include "ui/controls/AppearanceNotifier.h"
 #include "ui/controls/Colors.h"
 #include "ui/controls/DevicePixels.h"
 #include "ui/controls/SemanticColors.h"
 
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -34,6 +34,15 @@ void acceptCopy(QDropEvent& event) {
     event.setDropAction(Qt::CopyAction);
     event.accept();
 }
+
+/// Shows the wait pointer over all windows of the program during its lifetime.
+class WaitPointer {
+public:
+    WaitPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitPointer() { QGuiApplication::restoreOverrideCursor(); }
+    WaitPointer(const WaitPointer&) = delete;
+    WaitPointer& operator=(const WaitPointer&) = delete;
+};
 
 }  // namespace
 

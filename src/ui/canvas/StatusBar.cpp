@@ -3,7 +3,7 @@
 #include "model/DrawingDocument.h"
 #include "ui/canvas/CanvasAccessibility.h"
 #include "ui/canvas/CanvasTexts.h"
-#include "ui/canvas/ZoomRange.h"
+#include "ui/canvas/CanvasZoom.h"
 #include "ui/controls/ElidedToolTip.h"
 #include "ui/controls/SemanticColors.h"
 

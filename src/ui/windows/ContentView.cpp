@@ -1,6 +1,6 @@
 #include "ui/windows/ContentView.h"
 
-#include "ui/canvas/ZoomRange.h"
+#include "ui/canvas/CanvasZoom.h"
 #include "ui/windows/NewCanvasSheet.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "model/DrawingDocument.h"
 #include "tools/Selection.h"
-#include "ui/canvas/ZoomRange.h"
+#include "ui/canvas/CanvasZoom.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,12 +1,12 @@
 #include "ui/windows/NewCanvasSheet.h"
 
+#include "io/NumberText.h"
 #include "model/DrawingDocument.h"
 #include "platform/Preferences.h"
 #include "ui/canvas/CanvasTexts.h"
 #include "ui/controls/ControlAccessibility.h"
 #include "ui/controls/IconLabel.h"
 #include "ui/controls/Separator.h"
-#include "ui/windows/CNumber.h"
 #include "ui/windows/PresetRow.h"
 
 #include <QDialogButtonBox>
@@ -82,8 +82,8 @@ std::optional<CanvasSize> NewCanvasSheet::resolveSize() const {
             });
         return chosen != presets.end() ? std::optional(chosen->size) : std::nullopt;
     }
-    const auto width = parseCNumber(customW_.text().toStdString());
-    const auto height = parseCNumber(customH_.text().toStdString());
+    const auto width = parseNumber(customW_.text().toStdString());
+    const auto height = parseNumber(customH_.text().toStdString());
     if (!width || !height || !isAllowed(*width) || !isAllowed(*height)) return std::nullopt;
     return CanvasSize{*width, *height};
 }

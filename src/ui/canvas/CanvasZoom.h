@@ -20,4 +20,8 @@ double zoomedOut(double zoom);
 /// real sizes.
 double fittingZoom(CanvasSize canvas, QSizeF content);
 
+/// The size of a canvas on screen at a zoom, in view points. Sides that are NaN or below 0 count as
+/// 0; sides are limited to the largest size of a widget.
+QSizeF displaySize(CanvasSize canvas, double zoom);
+
 }  // namespace marlevo
