@@ -18,8 +18,33 @@ namespace marlevo {
 /// Reading through a const list, or through its iterators, never unshares. Indices must be valid;
 /// references to layers are valid until the list changes.
 class LayerList {
+    struct Entry : RefCounted {
+        explicit Entry(Layer initial) : layer(std::move(initial)) {}
+        Layer layer;
+    };
+    using Entries = std::vector<IntrusivePtr<Entry>>;
+
 public:
-    class Iterator;
+    /// Visits a list in both directions. A change of the list invalidates it.
+    class Iterator {
+    public:
+        using value_type = Layer;
+        using difference_type = std::ptrdiff_t;
+
+        Iterator() = default;
+        explicit Iterator(Entries::const_iterator entry) : entry_(entry) {}
+
+        const Layer& operator*() const { return (*entry_)->layer; }
+        const Layer* operator->() const { return &**this; }
+        Iterator& operator++() { return ++entry_, *this; }
+        Iterator& operator--() { return --entry_, *this; }
+        Iterator operator++(int) { return Iterator(entry_++); }
+        Iterator operator--(int) { return Iterator(entry_--); }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+
+    private:
+        Entries::const_iterator entry_;
+    };
     using value_type = Layer;
     using const_iterator = Iterator;
 
@@ -35,10 +60,10 @@ public:
     const Layer& operator[](std::size_t index) const { return layers_[index]->layer; }
     const Layer& front() const { return layers_.front()->layer; }
     const Layer& back() const { return layers_.back()->layer; }
-    Iterator begin() const;
-    Iterator end() const;
-    std::reverse_iterator<Iterator> rbegin() const;
-    std::reverse_iterator<Iterator> rend() const;
+    Iterator begin() const { return Iterator(layers_.begin()); }
+    Iterator end() const { return Iterator(layers_.end()); }
+    auto rbegin() const { return std::reverse_iterator(end()); }
+    auto rend() const { return std::reverse_iterator(begin()); }
 
     /// For changes: a shared layer is copied first.
     Layer& operator[](std::size_t index) {
@@ -55,50 +80,9 @@ public:
     void erase(std::size_t index) { layers_.erase(layers_.begin() + index); }
 
 private:
-    struct Entry : RefCounted {
-        explicit Entry(Layer initial) : layer(std::move(initial)) {}
-        Layer layer;
-    };
-
-    std::vector<IntrusivePtr<Entry>> layers_;
+    Entries layers_;
 };
 
-/// Visits a list in both directions. A change of the list invalidates it.
-class LayerList::Iterator {
-public:
-    using iterator_category = std::bidirectional_iterator_tag;
-    using value_type = Layer;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const Layer*;
-    using reference = const Layer&;
-
-    Iterator() = default;
-
-    const Layer& operator*() const { return (*entry_)->layer; }
-    const Layer* operator->() const { return &**this; }
-    Iterator& operator++() { return ++entry_, *this; }
-    Iterator& operator--() { return --entry_, *this; }
-    Iterator operator++(int) { return Iterator(entry_++); }
-    Iterator operator--(int) { return Iterator(entry_--); }
-    friend bool operator==(const Iterator&, const Iterator&) = default;
-
-private:
-    friend class LayerList;
-    using Entries = std::vector<IntrusivePtr<Entry>>::const_iterator;
-
-    explicit Iterator(Entries entry) : entry_(entry) {}
-
-    Entries entry_;
-};
-
-inline LayerList::Iterator LayerList::begin() const { return Iterator(layers_.begin()); }
-inline LayerList::Iterator LayerList::end() const { return Iterator(layers_.end()); }
-inline std::reverse_iterator<LayerList::Iterator> LayerList::rbegin() const {
-    return std::reverse_iterator(end());
-}
-inline std::reverse_iterator<LayerList::Iterator> LayerList::rend() const {
-    return std::reverse_iterator(begin());
-}
 static_assert(std::bidirectional_iterator<LayerList::Iterator>);
 
 /// True if a layer has the index. Any number is allowed, also a negative one.

@@ -86,19 +86,15 @@ private:
     stroke_tree::Leaf& ownTail();
 
     IntrusivePtr<stroke_tree::Node> tree_;
-    IntrusivePtr<stroke_tree::Leaf>
-        tail_;                    ///< its first `tailSize_` strokes follow those of the tree
-    std::uint32_t tailSize_ = 0;  ///< less than a full leaf
+    IntrusivePtr<stroke_tree::Leaf> tail_;  ///< the open leaf
+    std::uint32_t tailSize_ = 0;            ///< strokes of this list in it; less than a full leaf
 };
 
 /// Visits a list in order. A change of the list invalidates it.
 class StrokeList::Iterator {
 public:
-    using iterator_category = std::forward_iterator_tag;
     using value_type = Stroke;
     using difference_type = std::ptrdiff_t;
-    using pointer = const Stroke*;
-    using reference = const Stroke&;
 
     Iterator() = default;
 
@@ -132,5 +128,6 @@ private:
 
 inline StrokeList::Iterator StrokeList::begin() const { return {*this, 0}; }
 inline StrokeList::Iterator StrokeList::end() const { return {*this, size()}; }
+static_assert(std::forward_iterator<StrokeList::Iterator>);
 
 }  // namespace marlevo
