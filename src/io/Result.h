@@ -6,39 +6,44 @@
 
 namespace marlevo {
 
-/// Why something could not be done, in one line for the user.
+/// The reason why an operation failed, in one line for the user.
 struct Failure {
     std::string text;
 };
 
-/// Marks a failure that becomes a Result, as std::unexpected does.
-struct Unexpected {
-    explicit Unexpected(Failure reason) : failure(std::move(reason)) {}
+/// A failure that converts to any Result.
+class Unexpected {
+public:
+    explicit Unexpected(Failure failure) : error_(std::move(failure)) {}
 
-    Failure failure;
+    Failure&& error() && { return std::move(error_); }
+
+private:
+    Failure error_;
 };
 
-/// The outcome of an operation that can fail: its value, or the reason why there is none.
+/// The outcome of an operation that can fail: its value or a Failure.
 ///
-/// A part of the interface of C++23's std::expected, under the same names: std::expected<T,
-/// Failure> and std::unexpected<Failure> can take the place of these two types.
+/// C++23 has both types: Result<T> is std::expected<T, Failure> and Unexpected is
+/// std::unexpected<Failure>, reduced to the members that this program uses. They can be replaced by
+/// aliases of these.
 template <typename T>
 class [[nodiscard]] Result {
 public:
     Result(T value) : outcome_(std::in_place_index<0>, std::move(value)) {}
-    Result(Unexpected reason) : outcome_(std::in_place_index<1>, std::move(reason.failure)) {}
+    Result(Unexpected failure) : outcome_(std::in_place_index<1>, std::move(failure).error()) {}
 
     bool has_value() const { return outcome_.index() == 0; }
     explicit operator bool() const { return has_value(); }
 
-    /// Only when has_value().
+    /// Requires has_value().
     T& operator*() & { return *std::get_if<0>(&outcome_); }
     const T& operator*() const& { return *std::get_if<0>(&outcome_); }
     T&& operator*() && { return std::move(*std::get_if<0>(&outcome_)); }
     T* operator->() { return std::get_if<0>(&outcome_); }
     const T* operator->() const { return std::get_if<0>(&outcome_); }
 
-    /// Only when not has_value().
+    /// Requires !has_value().
     const Failure& error() const { return *std::get_if<1>(&outcome_); }
 
 private:
