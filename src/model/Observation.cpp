@@ -1,5 +1,7 @@
 #include "model/Observation.h"
 
+#include "model/ScopedValue.h"
+
 #include <utility>
 
 namespace marlevo {
@@ -18,7 +20,7 @@ ChangeRegistry::~ChangeRegistry() {
 void ChangeRegistry::publish(DocumentProperty property) {
     // New readers are added at the front. A cursor moves to the end, so it never reaches them.
     Cursor cursor{first_, cursors_};
-    cursors_ = &cursor;
+    const ScopedValue publishing(cursors_, &cursor);
     while (Reader* reader = cursor.next) {
         cursor.next = reader->next_;
         if (!(reader->dependencies_ & dependencyBit(property))) continue;
@@ -26,7 +28,6 @@ void ChangeRegistry::publish(DocumentProperty property) {
         const std::shared_ptr<const Reader::Callback> onChange = reader->onChange_;
         (*onChange)(property);
     }
-    cursors_ = cursor.outer;
 }
 
 Reader::Reader(ChangeRegistry& registry, Callback onChange)

@@ -1,5 +1,6 @@
 #include "tools/PointerGesture.h"
 
+#include "model/ScopedValue.h"
 #include "tools/EyeDropper.h"
 #include "tools/FillTool.h"
 #include "tools/Selection.h"
@@ -75,11 +76,10 @@ void PointerGesture::startMove(const Sample& sample) {
 }
 
 void PointerGesture::updateMove(Size sincePress) {
-    std::get<Moving>(state_).isOwnChange = true;
+    const ScopedValue ownChange(isOwnChange_, true);
     updateSelectDrag(document_, sincePress);
     auto* const moving = std::get_if<Moving>(&state_);
     if (moving == nullptr) return;  // a reader of the document has ended the move
-    moving->isOwnChange = false;
     if (const Stroke* const stroke = selectedStroke(document_)) moving->points = stroke->points;
 }
 
@@ -89,7 +89,7 @@ void PointerGesture::endMoveAfter(DocumentProperty change) {
     if (change == DocumentProperty::layers) {
         const auto& moving = std::get<Moving>(state_);
         const Stroke* const stroke = selectedStroke(document_);
-        if (moving.isOwnChange || (stroke && stroke->points == moving.points)) return;
+        if (isOwnChange_ || (stroke && stroke->points == moving.points)) return;
     }
     state_.emplace<Over>();
     endSelectDrag(document_);

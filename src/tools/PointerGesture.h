@@ -55,7 +55,6 @@ private:
 
         Reader reader;     ///< of all that the move depends on
         PointList points;  ///< of the selected stroke, as this move has left them
-        bool isOwnChange = false;
     };
     struct Pressing {};  ///< fill tool or eyedropper
     struct Over {};      ///< the press has not ended but does nothing more
@@ -69,6 +68,7 @@ private:
 
     DrawingDocument& document_;
     std::variant<Idle, Drawing, Selecting, Moving, Pressing, Over> state_;
+    bool isOwnChange_ = false;  ///< true while a move changes the layers
 };
 
 }  // namespace marlevo

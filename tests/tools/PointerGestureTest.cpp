@@ -185,6 +185,10 @@ TEST(PointerGesture, EndsWhatThePressBeganWhicheverToolIsChosenByThen) {
     }
 }
 
+void eraseFirstStroke(Hand& hand) {
+    hand.document.layers.modifyAndPublish([](LayerList& all) { all[0].strokes.erase(0); });
+}
+
 TEST(PointerGesture, EndsAMoveWithWhatItMovesAndLeavesTheNextStrokeAlone) {
     const std::vector<std::pair<const char*, void (*)(Hand&)>> interruptions{
         {"another tool", [](Hand& h) { h.choose(fill); }},
@@ -195,9 +199,15 @@ TEST(PointerGesture, EndsAMoveWithWhatItMovesAndLeavesTheNextStrokeAlone) {
         {"clearing all", [](Hand& h) { h.document.clearAll(); }},
         {"undo", [](Hand& h) { h.document.undo(); }},
         {"another layer", [](Hand& h) { h.document.addLayer(); }},
-        {"the next stroke in its place",
+        {"the next stroke in its place", eraseFirstStroke},
+        {"the same after a movement that failed",
          [](Hand& h) {
-             h.document.layers.modifyAndPublish([](LayerList& all) { all[0].strokes.erase(0); });
+             {
+                 Reader reader(h.document.changeRegistry(), [](DocumentProperty) { throw 0; });
+                 reader.observe([&] { (void)*h.document.layers; });
+                 EXPECT_ANY_THROW(h.moveTo(middle));
+             }
+             eraseFirstStroke(h);
          }},
         {"another picture", [](Hand& h) { h.document.layers = LayerList{Layer("Other")}; }},
     };
