@@ -1,7 +1,9 @@
 #include "render/RasterCompositing.h"
+#include "render/ScreenPicture.h"
 #include "tests/ui/Pointer.h"
 #include "tools/Selection.h"
 #include "tools/StrokeCapture.h"
+#include "ui/canvas/CanvasScrollArea.h"
 #include "ui/controls/Colors.h"
 #include "ui/windows/ContentView.h"
 #include "ui/windows/DocumentWindow.h"
@@ -50,7 +52,7 @@ class CanvasPaintingTests : public QObject {
         MarlevoApp app{Services{}};
         DocumentWindow window{app};
         DrawingDocument& document = window.document();
-        CanvasView& view = window.canvasView();
+        QWidget& view = window.canvasView();
 
         Setting() {
             document.canvasSize = {300, 200};

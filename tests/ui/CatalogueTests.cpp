@@ -4,6 +4,7 @@
 #include "ui/windows/Translations.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>

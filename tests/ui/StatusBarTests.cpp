@@ -1,7 +1,10 @@
 #include "tests/ui/RunningApp.h"
 #include "tests/ui/SeenControls.h"
+#include "ui/canvas/CanvasScrollArea.h"
 #include "ui/canvas/CanvasZoom.h"
+#include "ui/canvas/StatusBar.h"
 #include "ui/controls/SmallButton.h"
+#include "ui/sidebar/SidebarView.h"
 #include "ui/windows/Translations.h"
 
 #include <QAccessible>

@@ -1,24 +1,16 @@
 #pragma once
 
-#include "io/AutoSave.h"
 #include "model/DrawingDocument.h"
 #include "model/ImageCache.h"
-#include "platform/NotificationCenter.h"
-#include "ui/canvas/CanvasScrollArea.h"
-#include "ui/canvas/StatusBar.h"
-#include "ui/controls/SheetHost.h"
-#include "ui/sidebar/SidebarView.h"
-#include "ui/windows/KeyMonitor.h"
 #include "ui/windows/WindowAccessor.h"
-#include "ui/windows/WindowTitleUpdater.h"
 
-#include <QPointer>
-#include <QSplitter>
 #include <QWidget>
 
-#include <optional>
+#include <memory>
 
 namespace marlevo {
+
+class NotificationCenter;
 
 /// The content of a document window. Owns the document and shows the sidebar, the canvas with the
 /// status bar, and the new-canvas sheet over them.
@@ -28,9 +20,10 @@ class ContentView final : public QWidget {
 public:
     /// The services and the notifications must outlive the view.
     ContentView(const Services& services, NotificationCenter& notifications);
+    ~ContentView() override;
 
     DrawingDocument& document() { return document_; }
-    CanvasView& canvasView() { return canvas_.view(); }
+    QWidget& canvasView();
     WindowAccessor::Coordinator& closeGuard() { return closeGuard_; }
 
     /// The name of the file; the program's name for a drawing without a file.
@@ -38,7 +31,7 @@ public:
 
     /// True while the new-canvas sheet covers the content, as it does at first. Each time shows a
     /// new sheet.
-    bool showNewCanvas() const { return !sheet_.isNull(); }
+    bool showNewCanvas() const;
     void setShowNewCanvas(bool show);
 
     /// Sets the zoom at which the canvas fits into the application's active window, clamped to the
@@ -46,7 +39,7 @@ public:
     void fitToWindow();
 
     /// True if auto-save keeps the drawing.
-    bool isAutoSaved() const { return autoSave_ && autoSave_->isOn(); }
+    bool isAutoSaved() const;
 
     /// Ends the gesture on the canvas and saves as auto-save does: before the program is ended.
     void saveBeforeEnd();
@@ -60,22 +53,15 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void layOut();
+    struct Parts;
+
     void firstShown();
 
-    // The views are declared after the document and the cache and so are destroyed before them.
+    // Each is destroyed before those declared above it: the parts use the document and the cache.
     ImageCache images_;
     DrawingDocument document_;
-    QSplitter columns_;
-    SidebarView sidebar_;
-    CanvasScrollArea canvas_;
-    StatusBar statusBar_;
     WindowAccessor::Coordinator closeGuard_;
-    WindowTitleUpdater titleUpdater_;
-    NotificationCenter::Observation newCanvasRequests_;
-    QPointer<SheetHost> sheet_;
-    std::optional<AutoSave> autoSave_;
-    std::optional<KeyMonitor> keyMonitor_;
+    const std::unique_ptr<Parts> parts_;
 };
 
 }  // namespace marlevo

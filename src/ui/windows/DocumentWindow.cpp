@@ -45,7 +45,7 @@ DocumentWindow::~DocumentWindow() = default;
 
 DrawingDocument& DocumentWindow::document() { return content_->document(); }
 
-CanvasView& DocumentWindow::canvasView() { return content_->canvasView(); }
+QWidget& DocumentWindow::canvasView() { return content_->canvasView(); }
 
 void DocumentWindow::followSheet() {
     using Cover = MenuCommands::Cover;

@@ -8,7 +8,6 @@
 
 namespace marlevo {
 
-class CanvasView;
 class ContentView;
 class DrawingDocument;
 class MarlevoApp;
@@ -27,7 +26,7 @@ public:
 
     DrawingDocument& document();
     ContentView& content() { return *content_; }
-    CanvasView& canvasView();
+    QWidget& canvasView();
 
     /// Closes the window; the close guard may ask the user and refuse. Open panels are cancelled
     /// first, because they would block the close.
