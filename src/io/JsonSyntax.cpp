@@ -131,7 +131,7 @@ public:
             if (text_[position_] == '\\') {
                 if (!escape()) return false;
             } else if (static_cast<unsigned char>(text_[position_]) < 0x20) {
-                return fail("a control character stands in a string");
+                return fail("a string contains a control character");
             } else {
                 const std::size_t length = utf8Length(text_.substr(position_));
                 if (length == 0) return fail("the text is not UTF-8");
@@ -200,7 +200,7 @@ private:
     }
 
     bool escape() {
-        constexpr std::string_view lone = "a lone surrogate stands in a string";
+        constexpr std::string_view lone = "a string contains a lone surrogate";
         ++position_;
         if (atEnd()) return fail("the text ends within a string");
         if (text_[position_] != 'u') {
