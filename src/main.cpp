@@ -50,15 +50,15 @@ void saveAtExit() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    // A closed output and a limit on file size are errors of the write that meets them, not ends of
-    // the program.
+    // By default a write to a closed output or beyond the limit on file size ends the program. With
+    // the signals ignored, the write returns an error.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 
     QApplication application(argc, argv);
     QApplication::setStyle(new marlevo::MarlevoStyle);
-    // Every position of the pointer becomes a point of the stroke: none may be merged away. After
-    // the application, which asks for merging when it is made on X11.
+    // Each position of the pointer becomes a point of the stroke, so pointer events must not be
+    // merged. Set here because the constructor of the application turns merging on for X11.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
     QApplication::setApplicationName(QStringLiteral("Marlevo"));
@@ -79,7 +79,7 @@ int main(int argc, char* argv[]) {
     marlevo::QtPrinter printer;
     marlevo::QtPasteboard pasteboard;
     const marlevo::QtStrings strings;
-    // Behind what their work uses, so that they end first.
+    // Declared after everything that their work uses, and so destroyed first.
     marlevo::WorkQueue flushQueue;
     marlevo::WorkQueue writeQueue;
     marlevo::BackgroundThread backgroundQueue;
@@ -94,7 +94,7 @@ int main(int argc, char* argv[]) {
                              .printer = &printer,
                              .pasteboard = &pasteboard,
                              .strings = &strings});
-    // The application has removed the toolkit's own options from the arguments.
+    // The constructor of the application has removed the toolkit's own options.
     app.openWindows(drawingsToOpen(std::span(argv, static_cast<std::size_t>(argc))));
     const marlevo::TerminationSignals signals([&app] { app.saveBeforeEnd(); });
     running = &app;

@@ -155,7 +155,7 @@ private:
     std::vector<Part> parts_;
 };
 
-/// Puts the place of the first number that is not finite into `path`. False if there is none.
+/// Puts the place of the first number that is not finite into `path`. False if all are.
 bool findNonFinite(double number, KeyPath& /*path*/) { return !std::isfinite(number); }
 
 bool findNonFinite(const PointList& points, KeyPath& path) {

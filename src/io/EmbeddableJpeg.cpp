@@ -36,7 +36,7 @@ constexpr std::string_view exifSignature{"Exif\0\0", 6};
 constexpr std::string_view profileSignature{"ICC_PROFILE\0", 12};
 constexpr std::string_view adobeSignature{"Adobe", 5};
 
-/// The orientation in Exif data, which are a small TIFF file; 1 if there is none.
+/// The orientation in Exif data, which are a small TIFF file; 1 if they have none.
 int orientationIn(const ByteReader& exif) {
     const bool isLittle = exif.hasText(0, "II");
     if (!isLittle && !exif.hasText(0, "MM")) return 1;
@@ -76,8 +76,8 @@ public:
     }
 
 private:
-    /// The code of the marker at `at`, which then is the position behind it; nothing if there is
-    /// none.
+    /// The code of the marker at `at`; advances `at` to the position behind it. Nothing if the
+    /// bytes there are no marker.
     std::optional<std::uint8_t> nextMarker(std::size_t& at) const {
         if (file_.byte(at) != 0xFF) return std::nullopt;
         while (file_.byte(at) == 0xFF)
@@ -124,7 +124,7 @@ private:
         height_ = frame.half(1);
         width_ = frame.half(3);
         isGray_ = components == 1;
-        // Only image programs take components named R, G and B for these colours.
+        // Image programs read components named R, G and B as these colours, page readers do not.
         const bool namesRed = frame.byte(6) == 'R';
         return width_ > 0 && height_ > 0 && !namesRed;
     }

@@ -6,7 +6,7 @@ namespace marlevo {
 
 std::error_code FileDescriptor::close() {
     const int descriptor = std::exchange(descriptor_, -1);
-    // Not repeated after a signal: the system has released the descriptor by then.
+    // Not repeated after a signal, because the system has already released the descriptor.
     if (descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR) return {};
     return lastSystemError();
 }

@@ -10,7 +10,7 @@
 namespace marlevo {
 
 /// Takes dropped images into a document. An image that is still loading at the destruction of this
-/// object is discarded when its load ends; by then the main queue may be gone, too.
+/// object is discarded when its load ends. The main queue may no longer exist then.
 class ImageDrop {
 public:
     /// The document must outlive this object.
@@ -28,7 +28,7 @@ private:
     /// Shared with the loads. Written on the user-interface thread only.
     struct Target {
         std::mutex mutex;
-        DrawingDocument* document = nullptr;  ///< absent from the destruction on
+        DrawingDocument* document = nullptr;  ///< null after the destruction
     };
 
     std::shared_ptr<Target> target_;

@@ -11,8 +11,8 @@ namespace marlevo {
 
 namespace {
 
-/// What turns the unit square of an image with an Exif orientation, its top row uppermost, upright:
-/// the six numbers of a PDF matrix, by orientation, from 1.
+/// The matrix that turns the unit square of an image upright, for each Exif orientation from 1: the
+/// six numbers of a PDF matrix. The image's top row is uppermost before.
 constexpr std::array<std::array<double, 6>, 8> uprightMatrices{{
     {1, 0, 0, 1, 0, 0},
     {-1, 0, 0, 1, 1, 0},
@@ -24,10 +24,10 @@ constexpr std::array<std::array<double, 6>, 8> uprightMatrices{{
     {0, 1, -1, 0, 1, 0},
 }};
 
-// A width of 0 would be a line of one device pixel, however fine the device.
+// A width of 0 means one device pixel, whatever the resolution of the device.
 constexpr double thinnestLine = 0.001;
 
-// Readers that count in fixed point lose paths that reach farther when they enlarge the page.
+// Readers with fixed-point coordinates lose paths beyond this when the page is enlarged.
 constexpr double safeCoordinate = 32768;
 
 /// 0 for NaN.
@@ -40,7 +40,7 @@ bool canHoldImage(const Rect& rect) {
            isCoordinate(rect.maxY()) && isSide(rect.size.width) && isSide(rect.size.height);
 }
 
-/// Whether the JPEG's pixels turn into the decoded ones: a codec may see an orientation elsewhere.
+/// True if the JPEG has the decoded size when upright. A codec may use another orientation.
 bool matches(const EmbeddableJpeg& jpeg, const RasterImage& decoded) {
     const bool isTurned = jpeg.orientation >= 5;
     return decoded.width() == (isTurned ? jpeg.height : jpeg.width) &&
@@ -95,7 +95,7 @@ void PdfContext::fillPath(const Path& path, const Color& color) {
 void PdfContext::strokePath(const Path& path, const Color& color, double lineWidth) {
     if (!(lineWidth > 0) || !selectOpacity(color.alpha)) return;
     selectColor(state_.strokeColor, color, "RG");
-    // From anywhere near the page the widest line covers all of it.
+    // A line of this width covers the whole page from any point near it.
     const double widestLine = 4 * farthest(0);
     const double width = std::clamp(lineWidth, thinnestLine, widestLine);
     if (width != state_.lineWidth) content_.addFine({width}, "w");
@@ -117,13 +117,13 @@ void PdfContext::drawImageFile(std::span<const std::uint8_t> file, const RasterI
 
 std::vector<std::uint8_t> PdfContext::finish() { return file_.write(content_.finish()); }
 
-/// How far paths drawn with this pen may reach, so that parts beyond are invisible.
+/// The largest coordinate of paths drawn with this pen. Parts beyond it are invisible.
 double PdfContext::farthest(double lineWidth) const {
     return std::max({safeCoordinate, page_.width, page_.height}) + lineWidth;
 }
 
-/// Makes the global alpha times the given one the opacity of what follows; false when nothing can
-/// be seen with it.
+/// Sets the opacity of the next operations to the global alpha times the given one. False if these
+/// would be invisible.
 bool PdfContext::selectOpacity(double alpha) {
     const double opacity = unitClamped(state_.alpha) * unitClamped(alpha);
     if (opacity == 0 || state_.isDegenerate) return false;

@@ -19,9 +19,9 @@ namespace marlevo {
 /// may throw std::exception, for example when memory is short; the page is incomplete then.
 class PdfContext final : public GraphicsContext {
 public:
-    /// The sides of a page, in points: less than the least is 0 in three decimals; readers that
-    /// count in 32 bits do not hold more than the most. Some readers refuse pages of more than
-    /// 14,400 points (200 inches), most do not.
+    /// The range of a page's sides, in points. A shorter side is 0 in three decimals. A longer one
+    /// overflows the coordinates of readers that use 32 bits. Some readers refuse pages of more
+    /// than 14,400 points (200 inches), most do not.
     static constexpr double minSide = 0.001;
     static constexpr double maxSide = 1e9;
 
@@ -42,13 +42,13 @@ public:
     void strokePath(const Path& path, const Color& color, double lineWidth) override;
     void drawImage(const RasterImage& image, const Rect& rect) override;
 
-    /// Keeps the bytes of a JPEG file where page readers show them as the pixels are
+    /// Keeps the bytes of a JPEG file if page readers show it with the decoded pixels
     /// (EmbeddableJpeg.h); other files are kept as their pixels, without loss. The bytes must stay
     /// until the page is finished.
     void drawImageFile(std::span<const std::uint8_t> file, const RasterImage& decoded,
                        const Rect& rect) override;
 
-    /// The file. Nothing can be drawn any more.
+    /// The bytes of the file. To be called once; nothing can be drawn afterwards.
     std::vector<std::uint8_t> finish();
 
 private:
@@ -57,7 +57,7 @@ private:
         friend bool operator==(const Rgb&, const Rgb&) = default;
     };
 
-    /// What the page's own q and Q save and restore, and `alpha` with it.
+    /// The state that the page's operators q and Q save and restore, and `alpha`.
     struct State {
         double alpha = 1;
         bool isDegenerate = false;  ///< the frame has no area: nothing can be seen

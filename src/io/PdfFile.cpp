@@ -78,7 +78,7 @@ std::string PdfFile::addJpeg(std::span<const std::uint8_t> file, const Embeddabl
 }
 
 std::string PdfFile::addOpacity(double opacity) {
-    // Named by the value, so that each value is there once.
+    // Named by the value, so that equal values share one object.
     std::string name = "/a" + std::to_string(std::lround(opacity * 10000));
     if (!qpdf_oh_has_key(pdf_.get(), graphicsStates_, name.c_str())) {
         const std::string value = decimal(opacity);

@@ -111,7 +111,7 @@ private:
 };
 
 void addFlattened(PathWriter& writer, const Path& path, PathUse use, double farthest) {
-    // A plane on which the range of flattened paths is the one wanted.
+    // At this scale the range of flattened paths ends at `farthest`.
     const double scale = FlattenedPath::maxCoordinate / farthest;
     FlattenedPath flattened;
     flatten(path, {scale, scale, 0, 0}, flatteningTolerance * scale, flattened,

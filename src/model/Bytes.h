@@ -16,7 +16,7 @@ public:
     std::span<const std::uint8_t> span() const { return *bytes_; }
     std::size_t size() const { return bytes_->size(); }
 
-    /// True when both share one block: a cheap "known equal".
+    /// True if both share one block and so are equal. Takes constant time.
     bool sharesWith(const Bytes& other) const { return bytes_ == other.bytes_; }
 
     friend bool operator==(const Bytes& a, const Bytes& b) {

@@ -23,8 +23,8 @@ class ImageCache;
 ///
 /// Used on the user-interface thread only. Operations report no errors: an invalid index, an absent
 /// selection or an empty history changes nothing. Each property publishes its own changes to the
-/// readers that have read it (Property.h). Operations publish in the middle; a reader must not
-/// change `layers` then, because operations do not read them again after each step.
+/// readers that have read it (Property.h). Operations publish before they are complete. A reader
+/// must not change `layers` then, because operations do not read them again after each step.
 ///
 /// The class holds stored state, its observation, the layers and the history. Everything else that
 /// is done to a document is a free function, declared in the folder that defines it.
@@ -92,7 +92,7 @@ public:
     /// True when no tool flag is set: the brush draws.
     bool isDrawingMode() const;
 
-    /// Adds a layer, "Background", if there is none.
+    /// Adds a layer, "Background", if the list is empty.
     void ensureLayers();
 
     void addLayer();
@@ -119,7 +119,7 @@ public:
     bool canRedo() const { return !redoStack->empty(); }
 
 private:
-    /// Lowers `activeLayerIndex` to the last layer's; to −1 when there is none.
+    /// Lowers `activeLayerIndex` to the last layer's; to −1 without layers.
     void clampActiveLayerIndex();
 
     template <typename Source, typename Target>

@@ -6,13 +6,13 @@
 
 namespace marlevo {
 
-/// Runs a function at once, and again after each change of a property that it read the last time:
-/// keeps what is shown equal to a document. The registry must outlive this object.
+/// Runs a function at once, and again after each change of a property that its last run read. So
+/// what the function shows stays equal to a document. The registry must outlive this object.
 class Follower {
 public:
     Follower(ChangeRegistry& registry, std::function<void()> show);
 
-    /// Runs `show` now, for when the thing shown has changed in another way.
+    /// Runs `show` now. For changes that no property publishes.
     void refresh() { reader_.observe(show_); }
 
 private:

@@ -12,8 +12,8 @@ namespace marlevo {
 
 class ImageCodec;
 
-/// The decoded pixels of the image files that were drawn last. Its contents change nothing but the
-/// time that a drawing takes. A window has one, and all that draws the window's picture shares it.
+/// The decoded pixels of the image files that were drawn last. Its contents affect only how long
+/// drawing takes. Each window has one cache, shared by everything that draws the window's picture.
 ///
 /// Used on the user-interface thread; decodeAhead() uses other threads meanwhile.
 class ImageCache {

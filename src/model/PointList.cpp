@@ -7,7 +7,7 @@ namespace marlevo {
 
 namespace {
 
-// Once NaN, the box stays NaN: it does not contain the point that made it so.
+// No comparison with NaN is true, so a side that is NaN stays NaN.
 void stretch(double& least, double& greatest, double value) {
     if (std::isnan(value)) least = greatest = value;
     if (value < least) least = value;

@@ -30,14 +30,14 @@ public:
 
     void append(Point point);
 
-    /// Frees memory kept ready for further points.
+    /// Frees the spare capacity.
     void shrinkToFit();
 
     /// The smallest rectangle that holds every point, in constant time; all zero without points. A
     /// side is NaN if a coordinate along it is.
     Rect bounds() const;
 
-    /// True when both share one block: a cheap "known equal".
+    /// True if both share one block and so are equal. Takes constant time.
     bool sharesWith(const PointList& other) const { return block_ == other.block_; }
 
     friend bool operator==(const PointList& a, const PointList& b);

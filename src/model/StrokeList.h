@@ -68,7 +68,7 @@ public:
                (!tail_ || stroke_tree::visit(*tail_, tailSize_, treeSize(), search, visitor));
     }
 
-    /// True when both share all their strokes: a cheap "known equal".
+    /// True if both share all their strokes and so are equal. Takes constant time.
     bool sharesWith(const StrokeList& other) const {
         return tree_ == other.tree_ && tailSize_ == other.tailSize_ &&
                (tailSize_ == 0 || tail_ == other.tail_);

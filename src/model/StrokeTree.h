@@ -84,7 +84,7 @@ private:
 
 /// Up to `fanOut` strokes. As the open leaf of a list, versions of that list that have different
 /// numbers of its strokes may share it; its summary is then unused. A slot that one version has
-/// filled is never written again, so that the others do not notice.
+/// filled is never written again, so the other versions do not change.
 struct Leaf : Node {
     Leaf() : Node(0) {}
     Leaf(const Leaf& other) : Leaf(other, other.filled) { summary = other.summary; }

@@ -4,7 +4,7 @@
 
 namespace marlevo {
 
-/// Work whose end is not waited for.
+/// Runs work in the background.
 class BackgroundQueue {
 public:
     virtual ~BackgroundQueue() = default;

@@ -9,7 +9,7 @@ ThreadPool::ThreadPool(std::size_t threads) {
         for (std::size_t i = 0; i < threads; ++i)
             threads_.emplace_back([this](const std::stop_token& stop) { run(stop); });
     } catch (const std::system_error&) {
-        // The threads that there are, and the caller, do all the work.
+        // The threads started so far and the caller do all the work.
     }
 }
 

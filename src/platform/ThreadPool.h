@@ -11,12 +11,12 @@
 
 namespace marlevo {
 
-/// Threads that sleep until there is work to share. parallelFor() shares by one such pool.
+/// Threads that sleep until there is work to share. parallelFor() uses one pool.
 class ThreadPool {
 public:
     using Work = std::function<void(std::size_t)>;
 
-    /// With fewer threads than wanted, perhaps none, when the system has no more.
+    /// Has fewer threads, or none, if the system cannot start more.
     explicit ThreadPool(std::size_t threads);
     ThreadPool(const ThreadPool&) = delete;
     ThreadPool& operator=(const ThreadPool&) = delete;

@@ -16,8 +16,8 @@ namespace marlevo {
 /// thread of its own.
 class WorkQueue {
 public:
-    /// What the destruction does about the work that is not done yet. Either way all of it is done,
-    /// unless the program ends before.
+    /// How the destructor treats work that is not done yet. In both cases all of it is done, unless
+    /// the program ends before.
     enum class AtEnd : unsigned char {
         wait,   ///< returns when all is done
         detach  ///< returns at once; neither the caller nor the program's end waits for the thread

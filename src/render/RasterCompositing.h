@@ -27,15 +27,15 @@ Scene sceneOf(const DrawingDocument& document, double scale);
 /// renderPicture() of the document's picture.
 std::optional<RasterImage> renderCGImage(const DrawingDocument& document);
 
-/// The picture in which a fill looks for its region: the same as renderCGImage().
+/// The picture that a fill reads: the same as renderCGImage().
 std::optional<RasterImage> renderForFill(const DrawingDocument& document);
 
 /// renderLayer() of one layer, stretched from the document's canvas to `size`.
 std::optional<RasterImage> renderSingleLayer(const DrawingDocument& document, const Layer& layer,
                                              Size size);
 
-/// Lends the document's image cache while its picture is rendered; a document without one gets a
-/// cache for this time.
+/// The image cache to render a document's picture with: the document's own, or, for a document
+/// without one, a cache with the lifetime of this object.
 class BorrowedImages {
 public:
     explicit BorrowedImages(const DrawingDocument& document);

@@ -23,7 +23,7 @@ public:
     explicit StrokeInProgress(std::size_t maxGrowingBytes = defaultMaxGrowingBytes)
         : maxGrowingBytes_(maxGrowingBytes) {}
 
-    /// Takes over the stroke as it is now, null if there is none, at `scale` device pixels per
+    /// Shows the stroke in its present state, or none if it is null, at `scale` device pixels per
     /// canvas pixel. Returns the device pixels that may have changed. After an exception no stroke
     /// is shown.
     IntRect update(const Stroke* stroke, double scale);

@@ -17,10 +17,10 @@ public:
 
     void press(Point at);
     void move(Point to);
-    /// Takes the last position; the press is over.
+    /// Ends the press at its last position.
     Click release(Point at);
 
-    /// The way from the last press to the position.
+    /// The distance from the last press to the position.
     Size sincePress(Point position) const;
 
 private:

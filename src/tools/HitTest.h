@@ -8,13 +8,13 @@
 
 namespace marlevo {
 
-/// Whether a click at `p` means this stroke, all in canvas pixels. `p` must lie in the bounds of
-/// all points grown by the tolerance; a shape is then hit, a freehand stroke only when `p` lies
-/// nearer than the tolerance to one of the infinite lines through neighbouring points. A stroke of
-/// fewer than two points is never hit.
+/// True if a click at `p` hits the stroke. All values are in canvas pixels. A shape is hit if `p`
+/// is in the bounds of its points, grown by the tolerance. A freehand stroke is hit if, in
+/// addition, a line through two neighbouring points, which counts as infinite, is nearer than the
+/// tolerance. A stroke of fewer than two points is never hit.
 bool isHit(const Stroke& stroke, Point p, double tolerance);
 
-/// The oldest stroke of the list that is hit. Looks only at strokes near `p`.
+/// The index of the oldest stroke in the list that is hit. Tests only strokes near `p`.
 std::optional<std::size_t> firstHit(const StrokeList& strokes, Point p, double tolerance);
 
 }  // namespace marlevo

@@ -14,8 +14,8 @@ namespace marlevo {
 ///
 /// A press of the select tool moves the selected stroke and selects one first if none is selected.
 /// A press of the fill tool or the eyedropper does nothing before the click. Any other press draws
-/// a stroke. Whatever a press began, its end ends, also when another tool is chosen by then, so
-/// that neither a stroke in progress nor the start positions of a move outlast the press.
+/// a stroke. The end of a press ends what the press began, even if another tool has been chosen
+/// since, so neither a stroke in progress nor the start positions of a move outlast the press.
 ///
 /// Positions in canvas pixels. Used on the document's thread; calls that do not belong to a press
 /// do nothing.
@@ -23,7 +23,7 @@ class PointerGesture {
 public:
     struct Sample {
         Point at;         ///< canvas pixels
-        Size sincePress;  ///< the way from the press in view points, divided by the zoom of now
+        Size sincePress;  ///< the distance from the press in view points, divided by the zoom
     };
 
     /// The document must outlive the gesture.
@@ -36,7 +36,7 @@ public:
     void move(const Sample& sample);
 
     /// Ends the press. The position adds no point. A click then fills, picks a colour or selects,
-    /// as the tool flags say at this moment.
+    /// depending on the tool flags at this moment.
     void end(Point at, Click click);
 
     /// Ends a press whose release cannot arrive: keeps what it did so far and clicks nothing.

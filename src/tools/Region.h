@@ -12,14 +12,14 @@ namespace marlevo {
 
 /// A set of cells of the fill grid, one bit a cell. Row 0 is the bottom row, as in GridPoint.
 ///
-/// The bits are kept with a border of empty cells all around the grid (columns −1 and width, rows
+/// The grid is stored with a border of empty cells around it (columns −1 and width, rows
 /// −1 and height), so that the eight neighbours of every cell can be read without a bounds check.
 class Region {
 public:
     using Word = std::uint64_t;
     static constexpr int wordBits = 64;
 
-    /// The smallest and largest column and row that hold a cell, all inclusive.
+    /// The smallest and largest column and row that have a cell, all inclusive.
     struct Bounds {
         int minX = 0;
         int minY = 0;
@@ -38,7 +38,7 @@ public:
     /// Whether the cell belongs to the set; false for every cell outside the grid.
     bool contains(GridPoint cell) const;
 
-    /// Adds a cell, which must lie inside the grid.
+    /// Adds a cell, which must be inside the grid.
     void insert(GridPoint cell);
 
     /// The number of cells in the set; takes one pass over the bits.
@@ -52,8 +52,8 @@ public:
     std::span<Word> row(int y) { return {words_.data() + rowStart(y), rowWords_}; }
     std::span<const Word> row(int y) const { return {words_.data() + rowStart(y), rowWords_}; }
 
-    /// The place of a cell in the sequence of all bits, for walking from cell to cell: one column
-    /// is a step of 1, one row a step of rowStride(). Cells of the border have a place, too.
+    /// The index of a cell's bit. The next column has the next index, the next row an index that is
+    /// greater by rowStride(). Cells of the border have an index, too.
     std::ptrdiff_t bitIndex(GridPoint cell) const {
         return static_cast<std::ptrdiff_t>(rowStart(cell.y)) * wordBits + cell.x;
     }
@@ -61,8 +61,8 @@ public:
         return static_cast<std::ptrdiff_t>(rowWords_ + 1) * wordBits;
     }
 
-    /// The cell at bit index `bit` and its eight neighbours as nine bits, in three rows of three:
-    /// the row below lowest, in each row the western cell lowest. The cell lies inside the grid.
+    /// The cell at a bit index and its eight neighbours as nine bits: from the lowest bit up, the
+    /// rows from bottom to top, each from west to east. The cell must be inside the grid.
     unsigned neighbourhood(std::ptrdiff_t bit) const {
         const auto western = static_cast<std::size_t>(bit - 1);
         const Word* word = words_.data() + western / wordBits;

@@ -14,7 +14,8 @@ struct Stroke;
 // The selection of one stroke of a document. A selection that names no stroke, because the layers
 // have changed since, counts as none. Positions are in canvas pixels.
 
-/// Selects the topmost layer's oldest stroke at the point, or nothing when there is none there.
+/// Selects the oldest stroke at the point, on the topmost visible layer that has one there. Without
+/// such a stroke nothing is selected afterwards.
 void selectStroke(DrawingDocument& document, Point at);
 
 /// Null when no stroke is selected. Valid until the next change of the layers.

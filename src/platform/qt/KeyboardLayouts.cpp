@@ -53,7 +53,7 @@ char KeyboardLayouts::latinCharacter(std::uint32_t code) const {
     return 0;
 }
 
-/// 0 for what is not in ASCII.
+/// 0 for characters outside ASCII.
 char KeyboardLayouts::characterOf(std::uint32_t code, std::size_t layout) const {
     const std::size_t at = (code - firstCode_) * symbolsPerKey_ + layout * levels;
     if (code < firstCode_ || layout * levels >= symbolsPerKey_ || at >= symbols_.size()) return 0;

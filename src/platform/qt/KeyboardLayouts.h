@@ -8,18 +8,18 @@
 namespace marlevo {
 
 /// The first two layouts of the keyboard as the X server has them, read when the object is made.
-/// Without an X server nothing is known of them.
+/// Without an X server both are unknown.
 ///
 /// Keys are given by their X11 codes, layouts by their number from 0.
 class KeyboardLayouts {
 public:
     KeyboardLayouts();
 
-    /// Whether the layout makes Latin letters; absent when it is not known.
+    /// Whether the layout has Latin letters; absent if it is unknown.
     std::optional<bool> isLatin(std::uint32_t layout) const;
 
-    /// What the key makes in the first layout with Latin letters, in ASCII and upper case; 0 when
-    /// there is none.
+    /// The character of the key in the first layout with Latin letters, in ASCII and upper case; 0
+    /// without such a layout or character.
     char latinCharacter(std::uint32_t code) const;
 
 private:

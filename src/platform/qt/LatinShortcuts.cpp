@@ -25,7 +25,7 @@ struct Keys {
 constexpr std::array usKeyboard{Keys{20, "-="}, Keys{24, "QWERTYUIOP"}, Keys{38, "ASDFGHJKL"},
                                 Keys{52, "ZXCVBNM,"}};
 
-/// 0 for the keys that no shortcut needs.
+/// 0 for keys that no shortcut uses.
 int usKey(quint32 code) {
     for (const auto& [firstCode, characters] : usKeyboard)
         if (code - firstCode < characters.size()) return characters[code - firstCode];
@@ -40,7 +40,7 @@ bool isOfAnotherScript(int key) {
 /// The number of the layout in use, by the bits of an X11 key event.
 quint32 layoutOf(const QKeyEvent& event) { return event.nativeModifiers() >> 13 & 3; }
 
-/// 0 when the event needs no other key.
+/// The key that replaces the one of the event; 0 if the event stays as it is.
 int latinKey(const QKeyEvent& event) {
     const quint32 code = event.nativeScanCode();
     if (!event.modifiers().testFlag(Qt::ControlModifier) || usKey(code) == 0) return 0;
@@ -61,13 +61,13 @@ struct ChangedKeyEvent : QKeyEvent {
         if (type() == ShortcutOverride) ignore();
     }
 
-    /// Ctrl makes letters control characters.
+    /// With Ctrl, letters have no printable text.
     static QString textOf(int key) {
         return key >= Qt::Key_A && key <= Qt::Key_Z ? QString() : QString(QChar(key));
     }
 };
 
-/// The action of the window that has the shortcut; null when there is none.
+/// The action of the window that has the shortcut, or null.
 QAction* actionFor(const QKeyEvent& press, const QObject& window) {
     const QKeySequence keys(press.keyCombination());
     for (const QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -84,7 +84,7 @@ QAction* actionFor(const QKeyEvent& press, const QObject& window) {
 }  // namespace
 
 bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
-    // A window gets each event first, then hands it on to its widgets.
+    // Events are sent to the window first, then by the window to its widgets.
     if (isPassingOn_ || !receiver->isWindowType()) return false;
     const QEvent::Type type = event->type();
     if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease)
@@ -107,7 +107,7 @@ bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
     event->setAccepted(changed.isAccepted());
     if (type == QEvent::ShortcutOverride) {
         isClaimed_ = changed.isAccepted();
-        // Else the shortcuts would take the key for the one that it is.
+        // Accepted, so that Qt does not run a shortcut of the original key.
         if (actionFor(changed, *receiver) != nullptr) event->accept();
     }
     return true;

@@ -57,7 +57,7 @@ QtImageCodec::QtImageCodec() {
 std::optional<RasterImage> QtImageCodec::decode(std::span<const std::uint8_t> file) const {
     const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
                                                      static_cast<qsizetype>(file.size()));
-    // A damaged picture is no reason for messages: neither the toolkit's nor its libraries' own.
+    // A damaged picture prints no messages, neither the toolkit's nor those of its libraries.
     const MutedStandardError muted;
     QImage image = decodedImage(bytes);
     if (image.isNull() || exceedsLimit(image.size())) return std::nullopt;

@@ -19,7 +19,7 @@ struct Form {
     ImageCodec::Format format{};
 };
 
-/// The forms without loss first: many programs take the first that they read.
+/// Lossless formats first, because many programs use the first format that they can read.
 constexpr std::array forms{
     Form{QLatin1String("image/png"), ImageCodec::Format::png},
     Form{QLatin1String("image/tiff"), ImageCodec::Format::tiff},
@@ -27,8 +27,8 @@ constexpr std::array forms{
     Form{QLatin1String("image/jpeg"), ImageCodec::Format::jpeg},
 };
 
-/// A picture that is encoded when another program asks for it. It has a codec of its own because
-/// the clipboard keeps it until the very end of the program.
+/// A picture that is encoded when another program requests it. It has its own codec because the
+/// clipboard keeps it until the program ends.
 class PictureData final : public QMimeData {
 public:
     explicit PictureData(RasterImage picture) : picture_(std::move(picture)) {}

@@ -5,7 +5,7 @@
 namespace marlevo {
 
 /// The desktop's clipboard through Qt. Other programs get the picture as a file in one of the
-/// formats of QtImageCodec, encoded when they ask. At the program's end Qt hands the contents to
+/// formats of QtImageCodec, encoded on request. At the program's end Qt hands the contents to
 /// the clipboard manager, if one runs.
 class QtPasteboard final : public Pasteboard {
 public:

@@ -31,7 +31,7 @@ SavePanel::SavePanel(const SavePanelRequest& request, QWidget* parent)
 
 void SavePanel::examine(const std::filesystem::path& file) {
     if (hasExtension(file)) return examineWhole(file);
-    // In the field, so that the name seen is the name written.
+    // Added in the field, so that the user sees the name that is written.
     nameField().setText(nameField().text() + '.' + extensions_.first());
     examineWhole(chosenFile());
 }

@@ -11,7 +11,7 @@ namespace marlevo {
 class DrawingDocument;
 
 /// Presents drawing areas, status bars and canvas views to assistive technology. A canvas is
-/// described by its size, the chosen tools and the number of strokes at the time of the question.
+/// described by its size, the chosen tools and the number of strokes at the time of the query.
 /// Must be called before the first of them is shown; further calls do nothing.
 void installCanvasAccessibility();
 

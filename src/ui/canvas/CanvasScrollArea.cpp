@@ -21,15 +21,15 @@ constexpr int ringWidth = 2;
 
 static_assert(DropShadow::reach <= CanvasScrollArea::margin);
 
-// Of a point. A length that is larger by an error of calculation only is not rounded up.
+// In view points. A length that exceeds a whole number by less is not rounded up.
 constexpr double tolerance = 1e-6;
 
 int wholePoints(double length) { return static_cast<int>(std::ceil(length - tolerance)); }
 
 QSize wholePoints(QSizeF size) { return {wholePoints(size.width()), wholePoints(size.height())}; }
 
-/// What there is to scroll for a canvas of this length. The margins count only where the canvas
-/// itself does not fit.
+/// The length to scroll over, for a canvas of this length. Includes margins only if the canvas does
+/// not fit.
 int contentLength(int length, int room) {
     return length <= room ? length : length + 2 * CanvasScrollArea::margin;
 }
@@ -97,7 +97,7 @@ void CanvasScrollArea::followFocus(const QEvent& event) {
     case Qt::ActiveWindowFocusReason:
     case Qt::PopupFocusReason:
     case Qt::MenuBarFocusReason:
-        return setFocusVisible(isFocusVisible_);  // the focus was only lent
+        return setFocusVisible(isFocusVisible_);  // the focus returns
     default:
         return setFocusVisible(LastInput::instance().wasKey());
     }

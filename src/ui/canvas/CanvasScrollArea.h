@@ -12,8 +12,8 @@ class DrawingDocument;
 class ImageCache;
 
 /// The canvas on its desk: scrolls in both directions, centres a canvas smaller than itself, and
-/// draws the canvas's shadow. Its focus is the canvas's. A frame shows the focus while the keyboard
-/// is in use, as opposed to the pointer.
+/// draws the canvas's shadow. Its focus is the canvas's. A frame shows the focus if the focus was
+/// set by a key, and from the first key on that the canvas gets.
 class CanvasScrollArea final : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private:
     QPoint alignedToDevicePixels(QPoint viewportPosition) const;
 
     DrawingDocument& document_;
-    // Before the view, which loses the focus as it is deleted.
+    // Declared before the view, whose destructor takes the focus away and so hides the ring.
     QWidget focusRing_;  ///< above the canvas, because a large canvas covers the area
     bool isFocusVisible_ = false;
     CanvasView view_;

@@ -53,7 +53,7 @@ CanvasView::CanvasView(DrawingDocument& document, ImageCache& images, QWidget* p
       pointerShape_(document.changeRegistry(), [this] { showPointerOfTool(); }) {
     installCanvasAccessibility();
     setAcceptDrops(true);
-    setMouseTracking(true);  // a move with the button up shows that a release was lost
+    setMouseTracking(true);  // a move with the button up means that a release was lost
     setAccessibleName(tr("Canvas"));
     updateColors();
     connect(&AppearanceNotifier::instance(), &AppearanceNotifier::paletteChanged, this,
@@ -87,7 +87,8 @@ void CanvasView::updateWhatChanged() {
             update();
         }
         updateOverlay();
-        // The desk below need not be painted, unless the canvas ends within a view point.
+        // Opaque, so that the desk below is not painted, unless the canvas ends within a view
+        // point.
         setAttribute(Qt::WA_OpaquePaintEvent,
                      displaySize(document_.canvasSize, document_.zoom) == QSizeF(size()));
     });

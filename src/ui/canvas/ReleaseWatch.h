@@ -8,9 +8,9 @@ class QWidget;
 
 namespace marlevo {
 
-/// Notices, while a mouse button is held down over a widget, that the release cannot reach the
-/// widget: a modal panel has blocked its window, or a menu has opened and receives all events. The
-/// loss of the focus is no such case: the widget still gets the events of a press it received.
+/// Detects that the release of a mouse button cannot reach the widget that got the press: a modal
+/// panel has blocked the widget's window, or a menu has opened and receives all events. After a
+/// loss of the focus the widget still gets the release.
 class ReleaseWatch final : public QObject {
 public:
     /// `onLost` is called at most once for each start(). The widget must outlive the watch.

@@ -4,13 +4,13 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// What the focused value `drawingDocument` is kept under: the document of the document window with
-/// the focus, or none. What belongs to the application as a whole acts on it.
+/// The focused value `drawingDocument`: the document of the document window with the focus, or
+/// null. Commands of the whole application act on it.
 class DrawingDocumentKey final {
 public:
     DrawingDocument* get() const { return document_; }
 
-    /// Null for none. The document must outlive its time here.
+    /// Null without a focused document. Otherwise the document must exist until the next call.
     void set(DrawingDocument* document) { document_ = document; }
 
 private:

@@ -13,9 +13,9 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// The keys that a document window takes before its menus and its controls do. Sees every key of
-/// the application and acts on those that arrive in its own window while that has the focus; keys
-/// of panels, alerts, menus and other windows pass. In this order:
+/// Handles keys of a document window before its menus and controls do. Filters all keys of the
+/// application and acts on those of its own window while that has the focus; keys of panels,
+/// alerts, menus and other windows pass. In this order:
 ///
 /// 1. A repeat of a held key passes.
 /// 2. With Ctrl, by the letter that the key makes with Shift but without Ctrl and Caps Lock: "z"

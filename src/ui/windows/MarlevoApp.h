@@ -43,8 +43,8 @@ public:
     /// Opens a window with a fresh drawing, which is deleted when it is closed.
     DocumentWindow& openWindow();
 
-    /// Opens a window for each of the drawings, without the new-canvas sheet. A file that cannot be
-    /// read is one line on the console. With no drawing there is a fresh window instead.
+    /// Opens a window for each of the drawings, without the new-canvas sheet. An error of reading
+    /// is one line on the console. If no window is open afterwards, opens one with a fresh drawing.
     void openWindows(std::span<const std::filesystem::path> drawings);
 
     /// The document windows still open, in the order in which they were opened.
@@ -56,8 +56,8 @@ public:
 
     void showSettings();
 
-    /// Closes one document window after the other, the one used last first, each as if the user had
-    /// closed it, and stops at the first that the user keeps.
+    /// Closes the document windows, from the one used last to the one used first, as if the user
+    /// closed each. Stops if the user cancels a close.
     void quit();
 
     /// Saves the drawings of all windows as auto-save does, without a question, and waits for the

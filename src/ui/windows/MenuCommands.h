@@ -21,7 +21,7 @@ class MenuCommands final : public QMenuBar {
     Q_OBJECT
 
 public:
-    /// The application and the document must outlive the menus; `window` is what Close closes.
+    /// The application and the document must outlive the menus. Close closes `window`.
     MenuCommands(MarlevoApp& app, DrawingDocument& document, QWidget* window);
 
     /// Whether a sheet covers the document. The commands on the document are then disabled.

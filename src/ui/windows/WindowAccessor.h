@@ -26,7 +26,7 @@ public:
     /// The document must outlive the coordinator.
     explicit Coordinator(DrawingDocument& document, QObject* parent = nullptr);
 
-    /// Becomes the guard of the window that `view` is in after the current event.
+    /// After the current event, becomes the guard of the window that contains `view`.
     void setup(QWidget& view);
 
     /// Once true, the window closes without a question.

@@ -12,11 +12,11 @@ namespace marlevo {
 
 class DrawingDocument;
 
-/// Keeps the title of the window that a view is in equal to a text; each change arrives there after
-/// the current event.
+/// Keeps the title of a view's window equal to a text. The title changes after the event that
+/// changes the text.
 class WindowTitleUpdater final {
 public:
-    /// `title` reads the document, which must outlive the updater as the view must.
+    /// `title` reads the document. Document and view must outlive the updater.
     WindowTitleUpdater(DrawingDocument& document, QWidget& view, std::function<QString()> title);
 
 private:
