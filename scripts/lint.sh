@@ -56,4 +56,4 @@ fi
     git ls-files -- "${checked[@]}"
     if [ ${#changed[@]} -gt 0 ]; then git ls-files -- "${changed[@]}" | grep '\.cpp$' || true; fi
 } | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/lint 2>/dev/null
-echo "Lint: nothing to say."
+echo "Lint: no findings."
