@@ -196,7 +196,6 @@ TEST(PointerGesture, EndsAMoveWithWhatItMovesAndLeavesTheNextStrokeAlone) {
         {"another selection", [](Hand& h) { selectStroke(h.document, onSecond); }},
         {"deletion", [](Hand& h) { deleteSelectedStroke(h.document); }},
         {"clearing", [](Hand& h) { h.document.clearActiveLayer(); }},
-        {"clearing all", [](Hand& h) { h.document.clearAll(); }},
         {"undo", [](Hand& h) { h.document.undo(); }},
         {"another layer", [](Hand& h) { h.document.addLayer(); }},
         {"the next stroke in its place", eraseFirstStroke},

@@ -74,16 +74,6 @@ TEST_F(StrokeCapture, AShapeHasTwoPointsAndBeatsTheEraser) {
     EXPECT_EQ(strokes()[1].points, (PointList{{7, 7}, {7, 7}}));
 }
 
-TEST_F(StrokeCapture, AStrokeThatNeverMovedLeavesOnlyItsSnapshot) {
-    draw({{1, 1}, {2, 2}});
-    doc.undo();
-    draw({{1, 1}});
-    EXPECT_TRUE(strokes().isEmpty());
-    EXPECT_FALSE(doc.canRedo());
-    EXPECT_TRUE(doc.canUndo());
-    EXPECT_FALSE(doc.currentStroke->has_value());
-}
-
 TEST_F(StrokeCapture, TheLayerActiveAtTheEndReceivesTheStroke) {
     doc.ensureLayers();
     doc.addLayer();
