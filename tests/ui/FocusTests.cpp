@@ -48,10 +48,13 @@ private Q_SLOTS:
         QCOMPARE(qobject_cast<QAbstractButton*>(QApplication::focusWidget())->text(),
                  QString("Custom size"));
         QStringList buttons;
+        std::vector<int> places;
         for (int i = 0; i < 2; ++i) {
             type(s.window, Qt::Key_Tab);
             buttons << qobject_cast<QAbstractButton*>(QApplication::focusWidget())->text();
+            places.push_back(QApplication::focusWidget()->x());
         }
+        QVERIFY(places[0] < places[1]);
         buttons.sort();  // their order is the desktop's
         QCOMPARE(buttons, QStringList({"Cancel", "Create Canvas"}));
         type(s.window, Qt::Key_Escape);

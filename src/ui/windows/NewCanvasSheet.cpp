@@ -48,6 +48,18 @@ QAccessibleInterface* makeSheetInterface(const QString& className, QObject* obje
     return sheet ? new QAccessibleWidget(sheet, QAccessible::Dialog) : nullptr;
 }
 
+/// Makes the order of the buttons for Tab and for assistive technology that of their layout.
+void orderAsShown(QDialogButtonBox& box) {
+    QWidget* previous = nullptr;
+    for (int i = 0; i < box.layout()->count(); ++i) {
+        QWidget* const button = box.layout()->itemAt(i)->widget();
+        if (button == nullptr) continue;
+        button->raise();
+        if (previous) QWidget::setTabOrder(previous, button);
+        previous = button;
+    }
+}
+
 }  // namespace
 
 NewCanvasSheet::NewCanvasSheet(DrawingDocument& document, std::function<void()> dismiss)
@@ -171,12 +183,14 @@ QLayout* NewCanvasSheet::makeFooter() {
     create_.setDefault(true);
     connect(&create_, &QPushButton::clicked, this, &NewCanvasSheet::createCanvas);
 
-    // In the desktop's order.
-    auto* buttons = new QDialogButtonBox;
+    // In the desktop's order. A child of the sheet at once, because the order of two buttons alone,
+    // which is a circle, cannot be changed.
+    auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(&create_, QDialogButtonBox::AcceptRole);
     buttons->addButton(cancel, QDialogButtonBox::RejectRole);
     // With the proxy that the box sets, Tab would reach one of the buttons only.
     buttons->setFocusProxy(nullptr);
+    orderAsShown(*buttons);
 
     auto* footer = new QHBoxLayout;
     footer->setContentsMargins(padding, padding, padding, padding);
