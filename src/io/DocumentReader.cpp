@@ -2,6 +2,7 @@
 
 #include "io/Base64.h"
 #include "io/DocumentFields.h"
+#include "io/JsonEscape.h"
 #include "io/JsonSyntax.h"
 #include "platform/ParallelFor.h"
 
@@ -95,7 +96,7 @@ private:
             if (const auto error = std::move(entry).get(member)) return broken(error);
             const auto rawKey = JsonSyntax::leadingString(textFrom(member.key().raw() - 1));
             if (!rawKey) return broken(simdjson::STRING_ERROR);
-            const std::string key = JsonSyntax::unescape(*rawKey);
+            const std::string key = JsonEscape::replaceAll(*rawKey);
 
             bool isKnown = false;
             forEachField<Record>([&](std::size_t index, const auto& field) {
@@ -264,7 +265,7 @@ private:
         if (!is(value, json_type::string)) return problem("a string was expected");
         const auto raw = JsonSyntax::leadingString(textFrom(value));
         if (!raw) return broken(simdjson::STRING_ERROR);
-        string = JsonSyntax::unescape(*raw);
+        string = JsonEscape::replaceAll(*raw);
         return consumeString(value);
     }
 

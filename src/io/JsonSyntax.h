@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace marlevo {
@@ -36,9 +35,6 @@ public:
 
     /// The number at the start of the text. Nothing if the text starts with another value.
     static std::optional<std::string_view> leadingNumber(std::string_view text);
-
-    /// A result of leadingString() with its escapes replaced.
-    static std::string unescape(std::string_view string);
 };
 
 }  // namespace marlevo
