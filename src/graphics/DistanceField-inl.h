@@ -97,41 +97,21 @@ public:
         const double length = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
         if (length <= maxPieceLength) {
             addPiece(a, b);
-        } else {
-            addInPieces(a, b, length);
+            return;
         }
+        // The pieces depend on the segment only.
+        const int count = static_cast<int>(std::ceil(length / maxPieceLength));
+        const auto pointAt = [&](int piece) {
+            const double t = double(piece) / count;
+            return Point{a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};
+        };
+        for (int piece = 0; piece < count; ++piece)
+            addPiece(pointAt(piece), pointAt(piece + 1));
     }
 
 private:
     // Keeps the rounding errors of coordinates relative to a piece below 1/2000 of a pixel.
     static constexpr double maxPieceLength = 2048;
-
-    // The pieces depend on the segment only. Pieces out of reach are skipped.
-    void addInPieces(Point a, Point b, double length) {
-        double first = 0;
-        double last = 1;
-        clip(a.x, b.x, left_, right_, first, last);
-        clip(a.y, b.y, top_, bottom_, first, last);
-        if (!(first <= last)) return;
-        const double count = std::ceil(length / maxPieceLength);
-        const auto pointAt = [&](int piece) {
-            const double t = piece / count;
-            return Point{a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};
-        };
-        const auto start = static_cast<int>(std::max(std::floor(first * count) - 1, 0.0));
-        const auto end = static_cast<int>(std::min(std::floor(last * count) + 2, count));
-        for (int piece = start; piece < end; ++piece) {
-            addPiece(pointAt(piece), pointAt(piece + 1));
-        }
-    }
-
-    static void clip(double a, double b, double low, double high, double& first, double& last) {
-        if (a == b) return;
-        const double atLow = (low - a) / (b - a);
-        const double atHigh = (high - a) / (b - a);
-        first = std::max(first, std::min(atLow, atHigh));
-        last = std::min(last, std::max(atLow, atHigh));
-    }
 
     HWY_INLINE void addPiece(Point a, Point b) {
         const double minX = std::min(a.x, b.x);

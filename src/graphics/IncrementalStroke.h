@@ -33,11 +33,6 @@ public:
 
     /// Memory for pixels, in bytes.
     virtual std::size_t bytes() const = 0;
-
-private:
-    // The two kinds, as in Rasterizer.h.
-    static std::unique_ptr<IncrementalStroke> makeByDistance(double deviceWidth);
-    static std::unique_ptr<IncrementalStroke> makeByArea(double deviceWidth);
 };
 
 }  // namespace marlevo

@@ -32,18 +32,9 @@ Bounds boundsOf(const Path& path) {
     Bounds bounds;
     for (const Path::Element& e : path.elements()) {
         bounds.include(e.point);
-        switch (e.kind) {
-        case Path::Kind::move:
-        case Path::Kind::line:
-            break;
-        case Path::Kind::quadCurve:
-            bounds.include(e.control);
-            break;
-        case Path::Kind::rect:
-        case Path::Kind::ellipse:
+        if (e.kind == Path::Kind::quadCurve) bounds.include(e.control);
+        if (e.kind == Path::Kind::rect || e.kind == Path::Kind::ellipse)
             bounds.include({e.rect().maxX(), e.rect().maxY()});
-            break;
-        }
     }
     return bounds;
 }
@@ -112,13 +103,6 @@ void strokeByDistance(const FlattenedPath& line, double deviceWidth, const Cover
         field.add(line, pen.reach, occlusion);
         field.drainInto(sink, pen);
     }
-}
-
-IntRect areaByDistance(const FlattenedPath& line, double deviceWidth) {
-    constexpr int limit = static_cast<int>(FlattenedPath::maxCoordinate) * 2;
-    return Bounds::of(line.points)
-        .grownBy(RoundPen(deviceWidth).reach)
-        .pixelsWithin({-limit, -limit, limit, limit});
 }
 
 void fillOutline(const FlattenedPath& outline, const BlendSink& sink) {

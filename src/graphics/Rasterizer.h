@@ -47,9 +47,6 @@ void rasterizeStroke(const Path& path, double lineWidth, const DeviceFrame& fram
 /// pens thinner than a pixel. A width that is not positive draws nothing.
 void strokeByDistance(const FlattenedPath& line, double deviceWidth, const CoverageSink& sink);
 
-/// The pixels that strokeByDistance() may touch.
-IntRect areaByDistance(const FlattenedPath& line, double deviceWidth);
-
 /// Blends the inside of `outline` by the non-zero rule; contours count as closed.
 ///
 /// The coverage of a pixel is the exact area of the outline in it, with corners rounded to 1/256
