@@ -8,10 +8,17 @@ namespace marlevo {
 
 namespace {
 
-// Enough for a curve that bends by 50,000 pixels. Beyond that the error grows, not the memory.
+// Enough for a curve that bends by 120,000 pixels. Beyond that the error grows, not the memory.
 constexpr int maxSegmentsPerCurve = 512;
 
 bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+
+/// The first and the last piece of a curve, as a share of the others. It follows from the equal
+/// distances of corners and chords.
+constexpr double endPiece = (2 + std::numbers::sqrt2) / 4;
+
+/// The greatest bend of a curve in two segments, in tolerances: see segmentsPerCurve().
+constexpr double twoSegmentsBend = 32 * endPiece * endPiece;
 
 /// Appends the elements of a path to a FlattenedPath, whose points are finite and of any size.
 class Flattener {
@@ -19,7 +26,8 @@ public:
     Flattener(const DeviceFrame& frame, double tolerance, const Bounds& cull, FlattenedPath& out)
         : frame_(frame), tolerance_(tolerance),
           oneSegmentBendSquare_(4 * tolerance * (4 * tolerance)),
-          twoSegmentsBendSquare_(16 * tolerance * (16 * tolerance)), cull_(cull), out_(out) {}
+          twoSegmentsBendSquare_(twoSegmentsBend * tolerance * (twoSegmentsBend * tolerance)),
+          cull_(cull), out_(out) {}
 
     void add(const Path::Element& element) {
         if (!isFinite(element.point) || !isFinite(element.control)) return;
@@ -90,26 +98,29 @@ private:
         const Point bend{from.x - 2 * control.x + to.x, from.y - 2 * control.y + to.y};
         const double bendSquare = bend.x * bend.x + bend.y * bend.y;
         const Point slope{2 * (control.x - from.x), 2 * (control.y - from.y)};
-        const auto pointAt = [&](double t) {
-            return Point{from.x + t * (slope.x + t * bend.x), from.y + t * (slope.y + t * bend.y)};
+        const auto addCorner = [&](double t, double step) {
+            const double bends = t * t - step * step / 8;
+            lineTo({from.x + t * slope.x + bends * bend.x, from.y + t * slope.y + bends * bend.y});
         };
         // The curves of freehand lines are so short that one or two segments are enough.
         if (bendSquare < twoSegmentsBendSquare_) {
-            if (bendSquare >= oneSegmentBendSquare_) lineTo(pointAt(0.5));
+            if (bendSquare >= oneSegmentBendSquare_) addCorner(0.5, 0.5 / endPiece);
         } else if (const Point corners[]{from, control, to}; Bounds::of(corners).touches(cull_)) {
             const int count = segmentsPerCurve(bendSquare);
-            const double step = 1.0 / count;
-            for (int i = 1; i < count; ++i)
-                lineTo(pointAt(i * step));
+            const double step = 1 / (count - 2 + 2 * endPiece);
+            for (int i = 0; i < count - 1; ++i)
+                addCorner((endPiece + i) * step, step);
         }
         lineTo(to);
     }
 
-    // Equal steps of the parameter: the distance of a piece of length h from its chord is at most
-    // h² / 4 of the curve's second difference, here called its bend.
+    // Pieces have equal steps of the parameter, except the first and the last. A chord over a step
+    // h between points of the curve is inside it by up to h² / 4 of the curve's second difference,
+    // here called its bend. So corners are moved outwards by h² / 8 of it: then they are outside as
+    // far as chords are inside.
     int segmentsPerCurve(double bendSquare) const {
-        const double count = std::sqrt(std::sqrt(bendSquare) / (4 * tolerance_));
-        return 1 + static_cast<int>(std::min(count, maxSegmentsPerCurve - 1.0));
+        const double steps = std::sqrt(std::sqrt(bendSquare) / (8 * tolerance_));
+        return 1 + static_cast<int>(std::min(steps + 2 - 2 * endPiece, maxSegmentsPerCurve - 1.0));
     }
 
     void addRect(const Rect& rect) {
