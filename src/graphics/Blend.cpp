@@ -20,12 +20,16 @@ void blendCovered(std::uint8_t* HWY_RESTRICT pixels, const std::uint8_t* HWY_RES
     const Pixels d;
     const hn::Rebind<std::uint8_t, Pixels> dCoverage;
     const ColorBlender<> blender(color);
-    for (std::size_t at = 0; at < count; at += hn::Lanes(d)) {
-        std::array<std::uint8_t, maxPixelsPerVector> covered{};
-        std::memcpy(covered.data(), coverage + at, std::min(hn::Lanes(d), count - at));
-        blender.blend(hn::PromoteTo(d, hn::LoadU(dCoverage, covered.data())), pixels + 4 * at,
-                      count - at);
-    }
+    const auto blend = [&](const std::uint8_t* from, std::size_t at) {
+        blender.blend(hn::PromoteTo(d, hn::LoadU(dCoverage, from)), pixels + 4 * at, count - at);
+    };
+    std::size_t done = 0;
+    for (; done + hn::Lanes(d) <= count; done += hn::Lanes(d))
+        blend(coverage + done, done);
+    if (done == count) return;
+    std::array<std::uint8_t, maxPixelsPerVector> rest{};
+    std::memcpy(rest.data(), coverage + done, count - done);
+    blend(rest.data(), done);
 }
 
 void blendFully(std::uint8_t* pixels, std::size_t count, PackedColor color) {

@@ -3,9 +3,9 @@
 #include "graphics/IntRect.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -65,15 +65,10 @@ public:
         return found != 0;
     }
 
-    /// Calls take(block) for each block of a strip whose bit is set, and clears the bits.
-    template <class Take>
-    void drain(int strip, Take take) {
-        std::uint64_t* const words = wordsOf(strip);
-        for (int word = 0; word < wordsPerStrip_; ++word) {
-            for (std::uint64_t bits = words[word]; bits != 0; bits &= bits - 1)
-                take(word * 64 + std::countr_zero(bits));
-            words[word] = 0;
-        }
+    /// The bits of the 64 blocks of a strip from number `first` on, a multiple of 64, from the
+    /// lowest bit up. Clears them.
+    std::uint64_t takeBits(int strip, int first) {
+        return std::exchange(wordsOf(strip)[first / 64], 0);
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -106,11 +107,14 @@ HWY_INLINE void drainField(DistanceField& field, const RoundPen& pen, const Sink
     for (int strip = 0; strip < grid.stripCount(); ++strip) {
         const int left = grid.left() + strip * BlockGrid::blockWidth;
         DistanceField::Block* const blocks = field.strip(strip);
-        grid.drain(strip, [&](int block) {
-            BlockCoverage coverage;
-            takeCoverage(blocks[block], pen, coverage.data());
-            put(sink, left, grid.top() + block * BlockGrid::blockHeight, coverage);
-        });
+        for (int first = 0; first < grid.blocksPerStrip(); first += 64) {
+            for (std::uint64_t bits = grid.takeBits(strip, first); bits != 0; bits &= bits - 1) {
+                const int block = first + std::countr_zero(bits);
+                BlockCoverage coverage;
+                takeCoverage(blocks[block], pen, coverage.data());
+                put(sink, left, grid.top() + block * BlockGrid::blockHeight, coverage);
+            }
+        }
     }
 }
 
