@@ -1,6 +1,7 @@
-// Draws the same scenes with Marlevo's rasteriser, cairo and Qt, and prints one table: the time a
-// shape takes in each, the ratio, the time of only blending the covered pixels, and the difference
-// of each from a supersampled truth. Then the time of repainting a small part of a picture.
+// Draws the same scenes with Marlevo's rasteriser, cairo, Qt and AGG, and prints one table: the
+// time a shape takes in each, the ratio, the time of only blending the covered pixels, and the
+// difference of each from a supersampled truth. Then the time of repainting a small part of a
+// picture.
 
 #include "bench/RasterScenes.h"
 #include "bench/SupersampledTruth.h"
@@ -10,13 +11,23 @@
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
+#include <agg_conv_curve.h>
+#include <agg_conv_stroke.h>
+#include <agg_ellipse.h>
+#include <agg_path_storage.h>
+#include <agg_pixfmt_rgba.h>
+#include <agg_rasterizer_scanline_aa.h>
+#include <agg_renderer_scanline.h>
+#include <agg_scanline_u.h>
 #include <cairo.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <fstream>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace marlevo::bench {
@@ -25,7 +36,7 @@ namespace {
 
 constexpr IntRect wholePicture{0, 0, sceneWidth, sceneHeight};
 
-/// Pixels in the order blue, green, red, alpha, which all three support.
+/// Pixels in the order blue, green, red, alpha, which all of them support.
 struct Picture {
     std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(4 * sceneWidth * sceneHeight);
 
@@ -161,6 +172,73 @@ std::vector<QPainterPath> toQt(const std::vector<Shape>& shapes) {
     return paths;
 }
 
+agg::path_storage toAgg(const Path& path) {
+    agg::path_storage result;
+    for (const Path::Element& e : path.elements()) {
+        const Rect rect = e.rect();
+        switch (e.kind) {
+        case Path::Kind::move:
+            result.move_to(e.point.x, e.point.y);
+            break;
+        case Path::Kind::line:
+            result.line_to(e.point.x, e.point.y);
+            break;
+        case Path::Kind::quadCurve:
+            result.curve3(e.control.x, e.control.y, e.point.x, e.point.y);
+            break;
+        case Path::Kind::rect:
+            result.move_to(rect.minX(), rect.minY());
+            result.line_to(rect.maxX(), rect.minY());
+            result.line_to(rect.maxX(), rect.maxY());
+            result.line_to(rect.minX(), rect.maxY());
+            result.close_polygon();
+            break;
+        case Path::Kind::ellipse: {
+            agg::ellipse ellipse(rect.minX() + rect.size.width / 2,
+                                 rect.minY() + rect.size.height / 2, rect.size.width / 2,
+                                 rect.size.height / 2);
+            result.concat_path(ellipse);
+            break;
+        }
+        }
+    }
+    return result;
+}
+
+void drawAgg(const std::vector<Shape>& shapes, std::vector<agg::path_storage>& paths,
+             Picture& picture) {
+    agg::rendering_buffer rows(picture.bytes.data(), sceneWidth, sceneHeight, 4 * sceneWidth);
+    agg::pixfmt_bgra32_pre pixels(rows);
+    agg::renderer_base<agg::pixfmt_bgra32_pre> base(pixels);
+    agg::rasterizer_scanline_aa<> rasterizer;
+    rasterizer.clip_box(0, 0, sceneWidth, sceneHeight);
+    agg::scanline_u8 scanline;
+    for (std::size_t i = 0; i < shapes.size(); ++i) {
+        const Shape& shape = shapes[i];
+        agg::conv_curve<agg::path_storage> curves(paths[i]);
+        rasterizer.reset();
+        if (shape.lineWidth == 0) {
+            rasterizer.add_path(curves);
+        } else {
+            agg::conv_stroke<agg::conv_curve<agg::path_storage>> stroke(curves);
+            stroke.width(shape.lineWidth);
+            stroke.line_cap(agg::round_cap);
+            stroke.line_join(agg::round_join);
+            stroke.inner_join(agg::inner_round);
+            rasterizer.add_path(stroke);
+        }
+        agg::rgba color(shape.color.red, shape.color.green, shape.color.blue, shape.opacity);
+        agg::render_scanlines_aa_solid(rasterizer, scanline, base, color.premultiply());
+    }
+}
+
+std::vector<agg::path_storage> toAgg(const std::vector<Shape>& shapes) {
+    std::vector<agg::path_storage> paths;
+    for (const Shape& shape : shapes)
+        paths.push_back(toAgg(shape.path));
+    return paths;
+}
+
 /// The coverage of a shape as runs of whole 8-pixel blocks, for blending only.
 class CoveredRuns {
 public:
@@ -235,8 +313,17 @@ private:
     std::size_t count_ = 0;
 };
 
-void measure(const Scene& scene, int rounds) {
+/// The time a shape took by an earlier table of this program, or 0 if it has no such row.
+double timeBefore(const std::string& file, const std::string& scene) {
+    std::ifstream table(file);
+    for (std::string row; std::getline(table, row);)
+        if (row.starts_with(scene)) return std::atof(row.c_str() + scene.size());
+    return 0;
+}
+
+void measure(const Scene& scene, int rounds, const std::string& baseline) {
     const std::vector<QPainterPath> paths = toQt(scene.shapes);
+    std::vector<agg::path_storage> aggPaths = toAgg(scene.shapes);
     std::vector<CoveredRuns> covered;
     for (const Shape& shape : scene.shapes)
         covered.emplace_back(shape);
@@ -246,6 +333,7 @@ void measure(const Scene& scene, int rounds) {
         [&] { drawOurs(scene.shapes, picture); },
         [&] { drawCairo(scene.shapes, picture); },
         [&] { drawQt(scene.shapes, paths, picture); },
+        [&] { drawAgg(scene.shapes, aggPaths, picture); },
         [&] {
             for (const CoveredRuns& runs : covered)
                 runs.blendOnto(picture);
@@ -260,26 +348,30 @@ void measure(const Scene& scene, int rounds) {
         }
     }
     const double count = static_cast<double>(scene.shapes.size());
-    const auto [ours, cairo, qt, floor] = best;
+    const auto [ours, cairo, qt, agg, floor] = best;
 
-    Straying straying[3];
+    Straying straying[4];
     const std::size_t step = std::max<std::size_t>(scene.shapes.size() / 10, 1);
     for (std::size_t i = 0; i < scene.shapes.size(); i += step) {
         std::vector<Shape> one{scene.shapes[i]};
         one.front().opacity = 1;
         const SupersampledTruth truth(one.front());
-        Picture pictures[3];
+        std::vector<agg::path_storage> aggPath = toAgg(one);
+        Picture pictures[4];
         drawOurs(one, pictures[0]);
         drawCairo(one, pictures[1]);
         drawQt(one, toQt(one), pictures[2]);
-        for (int k = 0; k < 3; ++k)
+        drawAgg(one, aggPath, pictures[3]);
+        for (int k = 0; k < 4; ++k)
             straying[k].add(truth, pictures[k]);
     }
 
-    std::printf("%-38s %8.1f %8.1f %8.1f %7.1f %7.1f %8.1f %7.1f %9.2f %7.2f %7.2f\n",
-                scene.name.c_str(), ours / count, cairo / count, qt / count, cairo / ours,
-                qt / ours, floor / count, ours / floor, straying[0].mean(), straying[1].mean(),
-                straying[2].mean());
+    std::printf("%-38s %8.1f %8.1f %8.1f %8.1f %7.1f %7.1f %7.1f %8.2f %8.1f %7.1f %7.2f %7.2f "
+                "%7.2f %7.2f\n",
+                scene.name.c_str(), ours / count, cairo / count, qt / count, agg / count,
+                cairo / ours, qt / ours, agg / ours,
+                timeBefore(baseline, scene.name) * count / ours, floor / count, ours / floor,
+                straying[0].mean(), straying[1].mean(), straying[2].mean(), straying[3].mean());
     std::fflush(stdout);
 }
 
@@ -335,10 +427,14 @@ void measureRepaint(const std::vector<Shape>& strokes, int side, int rounds) {
 
 }  // namespace marlevo::bench
 
-// raster [rounds] [scene]: more rounds give steadier figures; a number selects one scene.
+// raster [rounds] [scene] [baseline]: more rounds give steadier figures; a number above 0 selects
+// one scene. With the table of an earlier build as baseline, the column "before/" has the ratio of
+// its times to those of this run, else 0.
 int main(int argc, char** argv) {
     using namespace marlevo::bench;
     const int rounds = argc > 1 ? std::atoi(argv[1]) : 5;
+    const int only = argc > 2 ? std::atoi(argv[2]) : 0;
+    const std::string baseline = argc > 3 ? argv[3] : "";
     SceneMaker maker;
     const Scene scenes[] = {
         maker.strokes("strokes, 100 points, width 3", 1000, 100, 3, 3, 1),
@@ -348,12 +444,10 @@ int main(int argc, char** argv) {
         maker.shapes(500),
     };
     std::printf("%d x %d, one thread; microseconds a shape; stray: mean difference, of 255, to 8 x "
-                "8 samples\n%-38s %8s %8s %8s %7s %7s %8s %7s %9s %7s %7s\n",
-                sceneWidth, sceneHeight, "", "ours", "cairo", "Qt", "cairo/", "Qt/", "floor",
-                "/floor", "stray", "cairo", "Qt");
-    for (int i = 0; i < static_cast<int>(std::size(scenes)); ++i) {
-        if (argc > 2 && std::atoi(argv[2]) != i + 1) continue;
-        measure(scenes[i], rounds);
-    }
-    if (argc <= 2) measureRepaint(maker.strokes("", 10000, 100, 3, 3, 1).shapes, 64, rounds);
+                "8 samples\n%-38s %8s %8s %8s %8s %7s %7s %7s %8s %8s %7s %7s %7s %7s %7s\n",
+                sceneWidth, sceneHeight, "", "ours", "cairo", "Qt", "AGG", "cairo/", "Qt/", "AGG/",
+                "before/", "floor", "/floor", "stray", "cairo", "Qt", "AGG");
+    for (int i = 0; i < static_cast<int>(std::size(scenes)); ++i)
+        if (only == 0 || only == i + 1) measure(scenes[i], rounds, baseline);
+    if (only == 0) measureRepaint(maker.strokes("", 10000, 100, 3, 3, 1).shapes, 64, rounds);
 }

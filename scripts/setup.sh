@@ -14,7 +14,7 @@ for purpose in "${@:-build}"; do
         run)   wanted+=("${build[@]}")
                [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || wanted+=("${virtual_display[@]}" imagemagick) ;;
         test)  wanted+=("${build[@]}" libgtest-dev libgmock-dev poppler-utils mupdf-tools ghostscript "${virtual_display[@]}") ;;
-        bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev libxcb-xtest0-dev python3 "${virtual_display[@]}") ;;
+        bench) wanted+=("${build[@]}" libbenchmark-dev libcairo2-dev libagg-dev libxcb-xtest0-dev python3 "${virtual_display[@]}") ;;
         package) wanted+=(dpkg-dev desktop-file-utils appstream lintian) ;;
         pictures) wanted+=("${virtual_display[@]}") ;;
         lint)  wanted+=(clang-format clang-tidy shellcheck) ;;
