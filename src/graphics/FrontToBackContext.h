@@ -25,7 +25,6 @@ public:
     };
 
     /// Draws on the pixels and in the frame of `target`, which must not change until flush().
-    explicit FrontToBackContext(BitmapContext& target) : FrontToBackContext(target, Limits()) {}
     FrontToBackContext(BitmapContext& target, Limits limits)
         : target_(target), limits_(limits), occlusion_(target.target().area) {}
 

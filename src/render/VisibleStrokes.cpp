@@ -1,6 +1,5 @@
 #include "render/VisibleStrokes.h"
 
-#include "graphics/FrontToBackContext.h"
 #include "render/DeviceBounds.h"
 
 #include <cstddef>
@@ -30,7 +29,8 @@ VisibleStrokes::VisibleStrokes(const LayerRun& run, const IntRect& area, double 
     }
 }
 
-void VisibleStrokes::draw(BitmapContext& context, const DrawStroke& drawStroke) const {
+void VisibleStrokes::draw(BitmapContext& context, const DrawStroke& drawStroke,
+                          FrontToBackContext::Limits limits) const {
     const FloatBox near = FloatBox::around(onCanvas(context.area(), scale_), penFringe / scale_);
     std::vector<const Found*> strokes;
     for (const Found& each : found_)
@@ -43,7 +43,7 @@ void VisibleStrokes::draw(BitmapContext& context, const DrawStroke& drawStroke) 
     };
     if (strokes.size() < leastInReverse) return drawBelow();
 
-    FrontToBackContext fromTop(context);
+    FrontToBackContext fromTop(context, limits);
     const std::size_t sampled = below - below / partOfSample;
     while (below > 0 && !fromTop.hidesAll() && !fromTop.isFull()) {
         if (below == sampled && fromTop.visibleShare() > mostOpenAfterSample) break;

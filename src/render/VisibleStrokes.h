@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics/BitmapContext.h"
+#include "graphics/FrontToBackContext.h"
 #include "graphics/IntRect.h"
 #include "model/FloatBox.h"
 #include "render/LayerRun.h"
@@ -25,8 +26,10 @@ public:
     std::size_t count() const { return found_.size(); }
 
     /// Draws the strokes that may be visible in the context's area. Leaves out those that opaque
-    /// strokes hide: an opaque pixel does not depend on what is below it.
-    void draw(BitmapContext& context, const DrawStroke& drawStroke) const;
+    /// strokes hide: an opaque pixel does not depend on what is below it. When as much is recorded
+    /// as `limits` allow, draws the strokes below without leaving any out.
+    void draw(BitmapContext& context, const DrawStroke& drawStroke,
+              FrontToBackContext::Limits limits = {}) const;
 
 private:
     struct Found {

@@ -23,17 +23,6 @@ Path ellipse(Rect rect) {
 
 }  // namespace
 
-TEST(BitmapContext, CoversFractionalRectanglesByTheirArea) {
-    Canvas canvas(10, 10);
-    BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));
-    context.fillRect({{2.5, 3.25}, {4, 2.75}}, black);
-    EXPECT_NEAR(canvas.alpha(2, 3), 255 * 0.5 * 0.75, 1);
-    EXPECT_NEAR(canvas.alpha(4, 3), 255 * 0.75, 1);
-    EXPECT_NEAR(canvas.alpha(6, 5), 255 * 0.5, 1);
-    EXPECT_EQ(canvas.alpha(4, 5), 255);
-    EXPECT_EQ(canvas.alpha(4, 6), 0);
-}
-
 TEST(BitmapContext, MultipliesAlphaAndRestoresItWithTheFrame) {
     Canvas canvas(40, 40);
     BitmapContext context(canvas.buffer(), DeviceFrame::yDown(1));

@@ -78,18 +78,13 @@ TEST(Flatten, SeparatesContoursAndDropsLoneMoves) {
 }
 
 TEST(Flatten, LinesFromFarAwayKeepTheirPlace) {
-    Path path;
-    path.move({-1e7, 50 - 1e7 / 4});
-    path.addLine({3e7, 50 + 3e7 / 4});
-    const FlattenedPath lines = flattened(path);
-    for (double x = -1000; x <= 1000; x += 100) {
-        EXPECT_LT(distanceToLines({x, 50 + x / 4}, lines), 1e-3);
-    }
+    const Point left{-1e7, 50 - 1e7 / 4};
+    const Point right{3e7, 50 + 3e7 / 4};
+    for (const FlattenedPath& lines : {flattened(line(left, right)), flattened(line(right, left))})
+        for (double x = -1000; x <= 1000; x += 100)
+            EXPECT_LT(distanceToLines({x, 50 + x / 4}, lines), 1e-3);
 
-    Path level;
-    level.move({-1e300, 50});
-    level.addLine({1e300, 50});
-    EXPECT_LT(distanceToLines({640, 50}, flattened(level)), 1e-9);
+    EXPECT_LT(distanceToLines({640, 50}, flattened(line({-1e300, 50}, {1e300, 50}))), 1e-9);
 }
 
 TEST(Flatten, GivesFinitePointsInRangeForAnyInput) {

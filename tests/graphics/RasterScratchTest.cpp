@@ -89,22 +89,6 @@ TEST(RasterScratch, HoldsNoTraceOfAShapeThatFailed) {
     }
 }
 
-TEST(RasterScratch, FreesWhatARareShapeNeeded) {
-    inNewThread([] {
-        Path path;
-        path.move({0, 0});
-        for (int i = 0; i < 300000; ++i)
-            path.addLine({i % 50 * 1.0, i % 2 ? 1.0 : 58.0});
-        Canvas canvas(9000, 60);  // two bands
-        path.addLine({8999, 30});
-        rasterizeStroke(path, 3, DeviceFrame::yDown(1), BlendSink{canvas.buffer(), opaque});
-        rasterizeFill(path, DeviceFrame::yDown(1), {canvas.buffer(), opaque});
-        const RasterScratch& scratch = RasterScratch::ofThread();
-        EXPECT_LT(scratch.flattened.points.capacity(), 100000U);
-        EXPECT_LT(scratch.edges.capacity(), 100000U);
-    });
-}
-
 /// The address sanitizer reports an access beyond the last cell of a row.
 TEST(RasterScratch, HasRoomForEdgesInTheLastColumn) {
     for (int width = 13; width < 36; ++width) {

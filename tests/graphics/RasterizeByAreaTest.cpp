@@ -8,7 +8,8 @@
 #include <numbers>
 #include <random>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 const PackedColor opaque = packColor(black, 1, PixelOrder::argb);
@@ -148,23 +149,26 @@ TEST(RasterizeByArea, AcceptsCoordinatesOfAnySize) {
 
 TEST(RasterizeByArea, EndsAtItsLimitOnEachSide) {
     constexpr int limit = 1 << 21;
+    const auto coverage = [](const FlattenedPath& outline, int x, int y) {
+        Canvas pixel({x, y, x + 1, y + 1});
+        fillOutline(outline, {pixel.buffer(), opaque});
+        return pixel.alpha(x, y);
+    };
     for (const double beyond : {0.0, 7.0, 1e7, 1e300}) {
-        const double end = limit + beyond;
-        const FlattenedPath all = polygon({{-end, -end}, {end, -end}, {end, end}, {-end, end}});
-        for (const int edge : {-limit, limit}) {
-            const int inside = edge < 0 ? edge : edge - 1;
-            const int outside = edge < 0 ? edge - 1 : edge;
-            Canvas columns({edge - 20, 5, edge + 20, 9});
-            fillOutline(all, {columns.buffer(), opaque});
-            EXPECT_EQ(columns.alpha(inside, 7), 255) << edge << ", " << beyond;
-            EXPECT_EQ(columns.alpha(outside, 7), 0) << edge << ", " << beyond;
-            Canvas rows({5, edge - 20, 9, edge + 20});
-            fillOutline(all, {rows.buffer(), opaque});
-            EXPECT_EQ(rows.alpha(7, inside), 255) << edge << ", " << beyond;
-            EXPECT_EQ(rows.alpha(7, outside), 0) << edge << ", " << beyond;
+        for (int side = 0; side < 4; ++side) {
+            const auto end = [&](int which) { return limit + (side == which ? beyond : 0); };
+            const FlattenedPath all = polygon(
+                {{-end(0), -end(1)}, {end(2), -end(1)}, {end(2), end(3)}, {-end(0), end(3)}});
+            for (const int edge : {-limit, limit}) {
+                const int inside = edge < 0 ? edge : edge - 1;
+                const int outside = edge < 0 ? edge - 1 : edge;
+                EXPECT_EQ(coverage(all, inside, 7), 255) << edge << ", " << beyond;
+                EXPECT_EQ(coverage(all, outside, 7), 0) << edge << ", " << beyond;
+                EXPECT_EQ(coverage(all, 7, inside), 255) << edge << ", " << beyond;
+                EXPECT_EQ(coverage(all, 7, outside), 0) << edge << ", " << beyond;
+            }
         }
     }
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -9,7 +9,8 @@
 #include <numbers>
 #include <random>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 /// Compares the outline of a stroke, and the filled outline, with the set of points near its line.
@@ -134,4 +135,3 @@ TEST(Stroker, AcceptsWidthsOfAnySize) {
 }
 
 }  // namespace
-}  // namespace marlevo

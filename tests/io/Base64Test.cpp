@@ -4,7 +4,8 @@
 
 #include <string>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 std::vector<std::uint8_t> bytesOf(std::string_view text) { return {text.begin(), text.end()}; }
@@ -41,4 +42,3 @@ TEST(Base64, refusesAllOtherTexts) {
 }
 
 }  // namespace
-}  // namespace marlevo

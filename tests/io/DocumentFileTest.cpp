@@ -15,7 +15,8 @@
 #include <limits>
 #include <thread>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -270,4 +271,3 @@ TEST(AutoSaving, writesTheMomentOfItsCycleBeforeALaterSave) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -12,7 +12,8 @@
 #include <random>
 #include <string>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 /// The sample with the first `from` replaced by `to`.
@@ -255,4 +256,3 @@ TEST(DocumentReader, limitsNesting) {
 }
 
 }  // namespace
-}  // namespace marlevo

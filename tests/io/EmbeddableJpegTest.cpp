@@ -7,7 +7,8 @@
 #include <cmath>
 #include <string_view>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using Primaries = std::array<std::array<double, 3>, 3>;
@@ -128,4 +129,3 @@ TEST(EmbeddableJpeg, RefusesFilesCutShortAnywhere) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -11,7 +11,8 @@
 
 #include <memory>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using testing::StartsWith;
@@ -106,4 +107,3 @@ TEST_F(Exchange, ACanvasWithoutPictureIsNeitherPrintedNorCopied) {
 }
 
 }  // namespace
-}  // namespace marlevo

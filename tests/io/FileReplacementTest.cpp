@@ -9,7 +9,8 @@
 #include <map>
 #include <set>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using testing::ElementsAre;
@@ -138,4 +139,3 @@ TEST_F(FileReplacing, RepeatsInterruptedCallsAndContinuesShortWrites) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -6,7 +6,8 @@
 
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 class FakeProvider : public ItemProvider {
@@ -76,4 +77,3 @@ TEST_F(ImageDropTest, ImagesThatArriveAfterTheirViewIsGoneAreDropped) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -11,7 +11,8 @@
 #include <random>
 #include <string>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 std::string textOf(double number) {
@@ -98,4 +99,3 @@ TEST(NumberText, hasTheShortestDigitsThatReadBack) {
 }
 
 }  // namespace
-}  // namespace marlevo

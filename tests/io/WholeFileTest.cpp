@@ -8,7 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -155,4 +156,3 @@ TEST(FlushBehind, flushesInOrderBeforeTheQueueEnds) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -8,7 +8,8 @@
 #include <utility>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using testing::ElementsAre;
@@ -227,4 +228,3 @@ TEST(LayerList, SharesTheLayersThatDidNotChange) {
 }
 
 }  // namespace
-}  // namespace marlevo

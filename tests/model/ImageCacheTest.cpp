@@ -11,7 +11,8 @@
 #include <mutex>
 #include <thread>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 Layer imageOf(std::uint8_t shade) { return imageLayer({1, 1, shade, shade, shade, 255}); }
@@ -66,10 +67,16 @@ TEST(ImageCache, KeepsWhatWasUsedLastWithinItsBound) {
     EXPECT_TRUE(images.known(third));
     EXPECT_EQ(codec.decoded, 3);
 
+    Layer layer("Image");
+    layer.imageData = third;
+    images.retainOnly({layer});
+    images.image(second);
+    EXPECT_TRUE(images.known(third)) << "the dropped image has made room";
+
     ImageCache tooSmall(&codec, bytesOfImage - 1);
     EXPECT_TRUE(tooSmall.image(first));
     EXPECT_TRUE(tooSmall.image(first));
-    EXPECT_EQ(codec.decoded, 5);
+    EXPECT_EQ(codec.decoded, 6);
 }
 
 TEST(ImageCache, DecodesNoMoreAheadThanItKeeps) {
@@ -107,4 +114,3 @@ TEST(ImageCache, DecodesOnSeveralThreadsAtOnce) {
 }
 
 }  // namespace
-}  // namespace marlevo

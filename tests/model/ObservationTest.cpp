@@ -8,7 +8,8 @@
 #include <optional>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using testing::ElementsAre;
@@ -71,6 +72,9 @@ TEST(Observation, CallsOnlyReadersThatReadTheProperty) {
     EXPECT_TRUE(other.calls.empty());
     doc.showGrid = true;
     EXPECT_THAT(other.calls, ElementsAre(P::showGrid));
+    seen = 0;
+    doc.isEraser = true;
+    EXPECT_EQ(seen, 2.0) << "read after the nested reader";
 
     // A new call of observe() replaces the properties of the last one.
     zoomReader.observe([&] { return *doc.lineWidth; });
@@ -163,4 +167,3 @@ TEST(Observation, AReaderMayOutliveItsDocument) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -5,7 +5,8 @@
 #include <cmath>
 #include <limits>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(PointList, AppendsInPlaceWhenAloneAndLeavesCopiesAsTheyWere) {
@@ -39,4 +40,3 @@ TEST(PointList, BoundsHoldEveryPointOrAreNotANumber) {
 }
 
 }  // namespace
-}  // namespace marlevo

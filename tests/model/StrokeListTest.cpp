@@ -13,7 +13,8 @@
 #include <thread>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 /// A stroke at a random place in 1000 × 1000. Its colour identifies it.
@@ -142,26 +143,6 @@ TEST(StrokeList, EqualsAVectorThroughRandomEditsAndKeepsOldVersions) {
     }
 }
 
-TEST(StrokeList, ChangesInPlaceOnlyWhenAlone) {
-    RandomEdits edits(1);
-    StrokeList list;
-    for (int i = 0; i < 5000; ++i)
-        list.append(edits.stroke());
-
-    for (const std::size_t at : {std::size_t{100}, list.size() - 1}) {
-        const Stroke* const place = &list[at];
-        list.modify(at, [](Stroke& stroke) { stroke.opacity = 0.5; });
-        EXPECT_EQ(&list[at], place);
-
-        const StrokeList snapshot = list;
-        list.modify(at, [](Stroke& stroke) { stroke.opacity = 0.25; });
-        EXPECT_NE(&list[at], place);
-        EXPECT_EQ(&snapshot[at], place);
-        EXPECT_EQ(snapshot[at].opacity, 0.5);
-        EXPECT_EQ(&list[at - 1], &snapshot[at - 1]);
-    }
-}
-
 TEST(StrokeList, SharesWithCopiesUntilOneChanges) {
     RandomEdits edits(2);
     for (const int size : {0, 5, 32, 1000}) {
@@ -199,7 +180,7 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrderAndStopsWhenAsked) {
     twin.replace(1234, lost);
     Stroke wide = edits.stroke();
     wide.lineWidth = std::numeric_limits<double>::quiet_NaN();
-    twin.replace(1500, wide);
+    twin.replace(500, wide);
 
     for (int i = 0; i < 200; ++i) {
         // Behind those two.
@@ -217,7 +198,7 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrderAndStopsWhenAsked) {
         for (std::size_t at = 0; at < twin.plain.size(); ++at) {
             const Stroke& stroke = twin.plain[at];
             const Rect painted = stroke.boundingRect().grownBy(stroke.lineWidth / 2);
-            if (at == 1234 || at == 1500 ||
+            if (at == 1234 || at == 500 ||
                 (painted.minX() <= area.maxX() && painted.maxX() >= area.minX() &&
                  painted.minY() <= area.maxY() && painted.maxY() >= area.minY()))
                 expected.push_back(at);
@@ -400,4 +381,3 @@ TEST(StrokeSummary, ReachesWhatTouchesByRoundingAlone) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using Type = Stroke::ShapeType;
@@ -50,4 +51,3 @@ TEST(Stroke, ShapesSpanTheirFirstTwoPointsWhicheverWayTheyWereDragged) {
 }
 
 }  // namespace
-}  // namespace marlevo

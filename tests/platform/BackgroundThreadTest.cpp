@@ -4,7 +4,8 @@
 
 #include <chrono>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(BackgroundThread, EndsWithTheWorkThatHasBegunAndDropsTheRest) {
@@ -23,4 +24,3 @@ TEST(BackgroundThread, EndsWithTheWorkThatHasBegunAndDropsTheRest) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(FileAddressTest, AddressesOfThisMachineArePathsByteForByte) {
@@ -21,4 +22,3 @@ TEST(FileAddressTest, OtherTextsAreNoPaths) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -7,7 +7,8 @@
 #include <thread>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using testing::Each;
@@ -47,4 +48,3 @@ TEST(ParallelFor, PassesOnWhatAPieceThrowsAndWorksAgain) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(Preferences, callObserversAfterChangesUntilTheyAreRemoved) {
@@ -29,4 +30,3 @@ TEST(Preferences, callObserversAfterChangesUntilTheyAreRemoved) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -5,7 +5,8 @@
 #include <chrono>
 #include <future>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(ThreadPool, RunsPiecesAtTheSameTime) {
@@ -40,4 +41,3 @@ TEST(ThreadPool, TouchesNothingOfARoundThatHasEnded) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -8,7 +8,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(WorkQueueTest, ADetachedQueueEndsAtOnceAndItsWorkIsDoneInOrder) {
@@ -55,4 +56,3 @@ TEST(WorkQueueTest, WorksInPostWhenTheSystemHasNoThread) {
 }
 
 }  // namespace
-}  // namespace marlevo

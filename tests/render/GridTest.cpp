@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 Path lines(std::initializer_list<Rect> rects) {
@@ -34,4 +35,3 @@ TEST(Grid, LeavesOutOnlyLinesThatCannotTouchTheVisiblePart) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -12,7 +12,8 @@
 
 #include <thread>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 class LayerThumbnailTest : public testing::Test {
@@ -150,4 +151,3 @@ TEST_F(LayerThumbnailTest, RendersWhileTheLayerIsDrawnOn) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -7,15 +7,18 @@
 #include "tests/support/Canvas.h"
 #include "tests/support/Drawing.h"
 #include "tests/support/FakeImageCodec.h"
+#include "tests/support/OtherThreads.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <new>
 #include <random>
+#include <thread>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 /// Has no codec: the pictures here have no images.
@@ -139,9 +142,9 @@ public:
         }
     }
 
-private:
     Point anywhere() { return {below(7200) / 10.0 - 10, below(5200) / 10.0 - 10}; }
 
+private:
     void draw() {
         if (!document.currentStroke->has_value()) {
             document.saveState();
@@ -224,14 +227,17 @@ TEST(ScreenPicture, RepaintingTheDamageShowsThePicture) {
     RandomEditor editor(12);
     const IntRect area{0, 0, 700, 500};
     View view(area);
-    for (int step = 0; step < 250; ++step) {
-        const bool isZooming = step >= 180;
+    for (int step = 0; step < 280; ++step) {
+        // Towards the end the scale changes at most steps, and the picture at some steps.
+        const bool isZooming = step >= 160;
         for (int changes = editor.below(3) - (isZooming ? 1 : 0); changes >= 0; --changes)
             editor.change();
-        const double scale = isZooming && editor.below(3) == 0 ? 0.7 : 1;
-        // The window system may ask for a part before the changes are looked at.
+        const double scale = isZooming ? 0.5 + 0.5 * editor.below(3) : 1;
+        // The window system may ask for a part before the damage is taken.
         const Scene scene = sceneOf(editor.document, scale);
-        if (editor.below(4) == 0) view.paintPart(scene, {100, 100, 300, 200});
+        const int left = editor.below(300);
+        const int top = editor.below(200);
+        if (editor.below(2) == 0) view.paintPart(scene, {left, top, left + 350, top + 200});
         if (editor.below(50) == 0) view.picture().releaseMemory();
         view.showChanges(scene);
         ScreenPicture fresh(noImages);
@@ -310,6 +316,41 @@ TEST(ScreenPicture, ADragKeepsThePixelsFromItsStartOnly) {
         EXPECT_EQ(paint(picture, start, area), paint(fresh, start, area));
         EXPECT_EQ(picture.counts().repainted, repainted) << "the start is found again";
     }
+}
+
+TEST(ScreenPicture, ShowsTheExportedPictureAtScaleOne) {
+    DrawingDocument document;
+    document.canvasSize = CanvasSize{300, 200};
+    document.layers =
+        LayerList{imageLayer({2, 2, 255, 255, 0, 0, 128, 0, 64, 0, 255, 0, 9, 255, 0, 0, 0, 0})};
+    for (const auto type : {Stroke::ShapeType::freehand, Stroke::ShapeType::rect}) {
+        Stroke stroke = makeStroke({{-20, 40}, {150.25, 30.5}, {320, 150.75}}, 5, type);
+        stroke.opacity = 0.5;
+        addStroke(document, stroke);
+    }
+    const FakeImageCodec codec;
+    ImageCache images(&codec);
+    ScreenPicture picture(images);
+    const auto shown = paint(picture, sceneOf(document, 1), {0, 0, 300, 200});
+    const auto exported = renderPicture(pictureOf(document), images);
+    for (std::size_t at = 0; at < shown.size(); ++at)
+        ASSERT_EQ(shown[at], exported->bytes()[at ^ 3]) << at;  // in the opposite order
+}
+
+TEST(ScreenPicture, SharesARepaintAmongThreads) {
+    if (std::thread::hardware_concurrency() < 2) GTEST_SKIP() << "one core";
+    RandomEditor random(13);
+    Layer layer("Strokes");
+    for (int i = 0; i < 2000; ++i)
+        layer.strokes.append(makeStroke({random.anywhere(), random.anywhere()}, 9));
+    const Scene scene{{{layer}, {500, 500}, white}, false, 1, nullptr};
+    ScreenPicture picture(noImages);
+    EXPECT_TRUE(usesOtherThreads([&] {
+        picture.releaseMemory();
+        paint(picture, scene, {0, 0, 500, 500});  // one tile
+    }));
+    ImageCache images(nullptr);
+    EXPECT_TRUE(usesOtherThreads([&] { renderPicture(scene.picture, images); }));
 }
 
 TEST(ScreenPicture, KeepsNoMoreTilesThanItsBoundBesidesTheVisibleOnes) {
@@ -423,4 +464,3 @@ TEST(ScreenPicture, RepaintsALayerWhoseImageFades) {
 }
 
 }  // namespace
-}  // namespace marlevo

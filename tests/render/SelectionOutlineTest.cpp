@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(SelectionOutline, HasTheOpacityOfATopmostVisibleLayerWithoutStrokes) {
@@ -29,4 +30,3 @@ TEST(SelectionOutline, HasTheOpacityOfATopmostVisibleLayerWithoutStrokes) {
 }
 
 }  // namespace
-}  // namespace marlevo

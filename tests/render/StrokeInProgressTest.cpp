@@ -13,7 +13,8 @@
 #include <random>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 constexpr IntRect sight{-30, -20, 300, 240};
@@ -136,9 +137,9 @@ TEST(StrokeInProgress, IsDrawnWholeBeyondItsBounds) {
     }
 }
 
-TEST(StrokeInProgress, DrawsStrokesWithPointsOfAnyKindWhole) {
+TEST(StrokeInProgress, DrawsPointsAndWidthsOfAnyKindWhole) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    for (const double width : {3.0, 70.0}) {
+    for (const double width : {3.0, 70.0, infinity, -infinity}) {
         for (const Point odd :
              {Point{NAN, 50}, {infinity, 0}, {1e9, 1e9}, {1e300, -1e300}, {3e6, 40}, {6e4, 4e4}}) {
             Stroke stroke = makeStroke({{10, 10}, {60, 30}}, width);
@@ -154,4 +155,3 @@ TEST(StrokeInProgress, DrawsStrokesWithPointsOfAnyKindWhole) {
 }
 
 }  // namespace
-}  // namespace marlevo

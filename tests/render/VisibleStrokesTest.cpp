@@ -11,7 +11,8 @@
 #include <random>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 /// Scribbles over each other; one in `oddOnes` is translucent, wide, a shape or a fill.
@@ -43,7 +44,8 @@ Layer scribbles(int count, int oddOnes, unsigned seed) {
 
 /// Checks that drawing the visible strokes of each part gives the same picture as drawing all
 /// strokes from the lowest to the topmost. Returns the number of drawn strokes.
-std::size_t drawInParts(const Layer& layer, double scale, const std::vector<IntRect>& parts) {
+std::size_t drawInParts(const Layer& layer, double scale, const std::vector<IntRect>& parts,
+                        FrontToBackContext::Limits limits = {}) {
     IntRect whole;
     for (const IntRect& part : parts)
         whole = whole.unitedWith(part);
@@ -57,10 +59,11 @@ std::size_t drawInParts(const Layer& layer, double scale, const std::vector<IntR
     const VisibleStrokes strokes({{&layer}, {}}, whole, scale);
     for (const IntRect& part : parts) {
         BitmapContext context(picture.part(part), DeviceFrame::yDown(scale));
-        strokes.draw(context, [&](GraphicsContext& to, const Stroke& stroke) {
+        const auto draw = [&](GraphicsContext& to, const Stroke& stroke) {
             ++drawn;
             drawStrokeOnScreen(to, stroke);
-        });
+        };
+        strokes.draw(context, draw, limits);
     }
     EXPECT_TRUE(picture.bytes() == expected.bytes()) << "in " << parts.size() << " parts";
     return drawn;
@@ -90,6 +93,15 @@ TEST(VisibleStrokes, GiveThePictureOfAllStrokesAndSkipTheHiddenOnes) {
     }
 }
 
+TEST(VisibleStrokes, AreAllDrawnBelowTheOnesThatFillTheRecord) {
+    const Layer layer = scribbles(9000, 100, 0);
+    const IntRect area{0, 0, 260, 200};
+    const std::size_t all = VisibleStrokes({{&layer}, {}}, area, 1).count();
+    EXPECT_EQ(drawInParts(layer, 1, {area}, {.blocks = 0, .elements = 1000}), all);
+    EXPECT_EQ(drawInParts(layer, 1, {area}, {.blocks = 200, .elements = 1000}), all);
+    EXPECT_EQ(drawInParts(layer, 1, {area}, {.blocks = 100000, .elements = 4}), all);
+}
+
 /// Their distances are found in several bands of rows.
 TEST(VisibleStrokes, MaySpanLargeParts) {
     for (const double opacity : {1.0, 0.5}) {
@@ -111,4 +123,3 @@ TEST(VisibleStrokes, MaySpanLargeParts) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -6,7 +6,8 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 class FillTool : public testing::Test {
@@ -99,4 +100,3 @@ TEST(EyeDropper, PicksWhatAnExportShowsAndTurnsItselfOff) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -9,7 +9,8 @@
 
 #include <limits>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 void expectRegionOfTheDefinition(const RasterImage& image, GridPoint seed, int tolerance) {
@@ -112,4 +113,3 @@ TEST(MatchBlock, GivesTheSameBitsOnEveryInstructionSet) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -11,7 +11,8 @@
 #include <utility>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 struct Tool {
@@ -346,4 +347,3 @@ TEST(ClickDetector, APressThatStaysNearIsAClickAndTheWayBackMakesNone) {
 }
 
 }  // namespace
-}  // namespace marlevo

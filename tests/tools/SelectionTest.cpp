@@ -2,16 +2,15 @@
 
 #include "model/DrawingDocument.h"
 #include "tests/support/Drawing.h"
-#include "tools/HitTest.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
 #include <utility>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using Type = Stroke::ShapeType;
@@ -87,29 +86,6 @@ TEST_F(Selection, PrefersUpperLayersAndOlderStrokesAndSkipsHiddenLayersAndDots) 
     EXPECT_FALSE(hits({50, 50}));
 }
 
-TEST_F(Selection, TreeSearchFindsWhatAPlainScanFinds) {
-    std::mt19937 random(7);
-    std::uniform_real_distribution<double> at(0, 1000);
-    std::uniform_int_distribution<int> type(0, 3);
-    std::uniform_int_distribution<int> count(0, 6);
-    for (int i = 0; i < 400; ++i) {
-        std::vector<Point> points;
-        const Point start{at(random), at(random)};
-        for (int n = count(random); n > 0; --n)
-            points.push_back({start.x + at(random) / 20, start.y + at(random) / 20});
-        add(makeStroke(PointList(std::move(points)), 3, Stroke::allShapeTypes[type(random)]));
-    }
-    const StrokeList& strokes = document.layers->front().strokes;
-    for (int i = 0; i < 2000; ++i) {
-        const Point p{at(random), at(random)};
-        std::optional<std::size_t> expected;
-        for (std::size_t k = 0; k < strokes.size() && !expected; ++k) {
-            if (isHit(strokes[k], p, 10)) expected = k;
-        }
-        ASSERT_EQ(firstHit(strokes, p, 10), expected);
-    }
-}
-
 TEST_F(Selection, DraggingMovesEveryPointByTheWholeWayAndIsOneUndoStep) {
     add(makeStroke({{0.1, 0.2}, {100.3, 0.4}}));
     selectStroke(document, {50, 0});
@@ -142,7 +118,15 @@ TEST_F(Selection, DeletingTakesOneStrokeAndTheSelection) {
     add(makeStroke({{0, 0}, {100, 0}}));
     add(makeStroke({{0, 50}, {100, 50}}));
     selectStroke(document, {50, 0});
+    using P = DocumentProperty;
+    std::vector<P> published;
+    Reader reader(document.changeRegistry(), [&](P property) { published.push_back(property); });
+    reader.observe([&] {
+        (void)selectedStroke(document), (void)document.canUndo(), (void)document.canRedo();
+    });
     deleteSelectedStroke(document);
+    EXPECT_EQ(published, (std::vector{P::undoStack, P::redoStack, P::layers, P::selectedStrokeIndex,
+                                      P::selectedLayerID}));
     EXPECT_EQ(document.layers->front().strokes.size(), 1u);
     EXPECT_EQ(stroke(0).points[0], (Point{0, 50}));
     EXPECT_FALSE(document.selectedLayerID->has_value());
@@ -192,4 +176,3 @@ TEST_F(Selection, AStrokeWhoseNumberOfPointsHasChangedIsNotMoved) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -6,7 +6,8 @@
 
 #include <random>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using Points = std::vector<GridPoint>;
@@ -110,4 +111,3 @@ TEST(SimplifyPath, IsNeitherSlowNorDeepWhereThePlainAlgorithmIs) {
 }
 
 }  // namespace
-}  // namespace marlevo

@@ -6,7 +6,8 @@
 
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 using testing::ElementsAre;
@@ -115,16 +116,4 @@ TEST_F(StrokeCapture, PublishesTheLayersBeforeTheStrokeInProgress) {
     EXPECT_THAT(published, ElementsAre(P::currentStroke));
 }
 
-TEST_F(StrokeCapture, AHeldCopyOfTheStrokeInProgressStaysAsItWas) {
-    beginStroke(doc, {0, 0});
-    addPointToStroke(doc, {1, 1});
-    const Stroke held = **doc.currentStroke;
-    addPointToStroke(doc, {2, 2});
-    const Point* const place = (*doc.currentStroke)->points.span().data();
-    EXPECT_EQ(held.points.size(), 2u);
-    addPointToStroke(doc, {3, 3});
-    EXPECT_EQ((*doc.currentStroke)->points.span().data(), place);
-}
-
 }  // namespace
-}  // namespace marlevo

@@ -8,12 +8,12 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tools/EyeDropper.h"
 #include "tools/FillTool.h"
-#include "tools/Selection.h"
 #include "tools/StrokeCapture.h"
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
+
 namespace {
 
 TEST(Drawing, APictureMadeByTheToolsIsTheSameAfterSavingAndOpening) {
@@ -31,10 +31,6 @@ TEST(Drawing, APictureMadeByTheToolsIsTheSameAfterSavingAndOpening) {
     beginStroke(drawn, {60, 0});
     addPointToStroke(drawn, {60, 90});
     endStroke(drawn);
-    selectStroke(drawn, {24, 45});
-    beginSelectDrag(drawn);
-    updateSelectDrag(drawn, {5, 3});
-    endSelectDrag(drawn);
 
     const TemporaryFolder folder;
     writeDocument(drawn, folder / "a.marlevo");
@@ -47,15 +43,11 @@ TEST(Drawing, APictureMadeByTheToolsIsTheSameAfterSavingAndOpening) {
     EXPECT_EQ(renderCGImage(opened), *picture);
     EXPECT_EQ(renderPDFData(opened), renderPDFData(drawn));
 
-    // Where the fill was moved away, where it was moved to, and the erased stripe.
-    const auto colorAt = [&](Point at) {
-        pickColor(opened, at);
-        return *opened.selectedColor;
-    };
-    EXPECT_EQ(colorAt({23, 45}), white);
-    EXPECT_EQ(colorAt({100, 45}), (Color{1, 0, 0, 1}));
-    EXPECT_EQ(colorAt({60, 45}), white);
+    // Inside the fill, and on the erased stripe.
+    pickColor(opened, {90, 45});
+    EXPECT_EQ(*opened.selectedColor, (Color{1, 0, 0, 1}));
+    pickColor(opened, {60, 45});
+    EXPECT_EQ(*opened.selectedColor, white);
 }
 
 }  // namespace
-}  // namespace marlevo
