@@ -39,7 +39,7 @@ class AccessibilityTests : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theWindowIsToldInItsOrder() {
+    void theWindowIsReadInItsOrder() {
         RunningApp s;
         control<QAbstractButton>(s.window, "Layers").click();
         QTRY_VERIFY(treeOf(s.window).contains("picture Background"));

@@ -1,28 +1,19 @@
 #include "tests/ui/Pointer.h"
-#include "ui/windows/ContentView.h"
-#include "ui/windows/DocumentWindow.h"
-#include "ui/windows/MarlevoApp.h"
+#include "tests/ui/RunningApp.h"
 
 #include <QDialog>
 #include <QMenu>
+
+#include <utility>
+#include <vector>
 
 using namespace marlevo;
 
 class CanvasPointerTests : public QObject {
     Q_OBJECT
 
-    struct Setting {
-        MarlevoApp app{Services{}};
-        DocumentWindow window{app};
-        DrawingDocument& document = window.document();
+    struct Setting : RunningApp {
         Pointer pointer{window.canvasView()};
-
-        Setting() {
-            window.content().setShowNewCanvas(false);
-            window.show();
-            window.activateWindow();
-            if (!QTest::qWaitForWindowActive(&window)) qFatal("no active window");
-        }
 
         /// The points of the layer's only stroke.
         std::vector<Point> drawn() const {
@@ -32,8 +23,6 @@ class CanvasPointerTests : public QObject {
             return {points.begin(), points.end()};
         }
     };
-
-    using Cut = void (*)(Setting&);
 
 private Q_SLOTS:
     void positionsAreDividedByTheZoomAndKeepTheirFraction() {
@@ -70,7 +59,7 @@ private Q_SLOTS:
         QVERIFY(s.document.currentStroke->has_value());
     }
 
-    void aStrokeGoesOnWhenAnotherWindowTakesTheFocus() {
+    void aStrokeContinuesWhenAnotherWindowGetsTheFocus() {
         Setting s;
         s.pointer.press({20, 20});
         s.pointer.move({60, 20});
@@ -83,31 +72,31 @@ private Q_SLOTS:
         QCOMPARE(s.drawn().size(), std::size_t{3});
     }
 
-    void aPressWhoseReleaseCannotArriveEnds_data() {
-        QTest::addColumn<Cut>("cut");
-        const auto add = [](const char* name, Cut cut) { QTest::newRow(name) << cut; };
-        add("modal panel", [](Setting& s) {
-            auto* const panel = new QDialog(&s.window);
-            panel->setAttribute(Qt::WA_DeleteOnClose);
-            panel->open();
-        });
-        add("menu", [](Setting& s) { (new QMenu(&s.window))->popup(s.window.pos()); });
-        add("hidden view", [](Setting& s) { s.window.canvasView().hide(); });
-        add("new-canvas sheet", [](Setting& s) { s.window.content().setShowNewCanvas(true); });
-        add("button up", [](Setting& s) { Pointer(s.window.canvasView()).move({70, 20}); });
-    }
-
     void aPressWhoseReleaseCannotArriveEnds() {
-        QFETCH(Cut, cut);
-        Setting s;
-        s.pointer.press({20, 20});
-        s.pointer.move({60, 20});
-        cut(s);
-        QVERIFY(!s.document.currentStroke->has_value());
-        QCOMPARE(s.drawn().size(), std::size_t{2});
-        s.pointer.move({90, 20});
-        s.pointer.release({90, 20});
-        QCOMPARE(s.drawn().size(), std::size_t{2});
+        const std::vector<std::pair<const char*, void (*)(Setting&)>> cuts{
+            {"modal panel",
+             [](Setting& s) {
+                 auto* const panel = new QDialog(&s.window);
+                 panel->setAttribute(Qt::WA_DeleteOnClose);
+                 panel->open();
+             }},
+            {"menu", [](Setting& s) { (new QMenu(&s.window))->popup(s.window.pos()); }},
+            {"hidden view", [](Setting& s) { s.window.canvasView().hide(); }},
+            {"new-canvas sheet", [](Setting& s) { s.window.content().setShowNewCanvas(true); }},
+            {"button up", [](Setting& s) {
+                 Pointer(s.window.canvasView()).move({70, 20});
+             }}};
+        for (const auto& [name, cut] : cuts) {
+            Setting s;
+            s.pointer.press({20, 20});
+            s.pointer.move({60, 20});
+            cut(s);
+            QVERIFY2(!s.document.currentStroke->has_value(), name);
+            QCOMPARE(s.drawn().size(), std::size_t{2});
+            s.pointer.move({90, 20});
+            s.pointer.release({90, 20});
+            QCOMPARE(s.drawn().size(), std::size_t{2});
+        }
     }
 };
 

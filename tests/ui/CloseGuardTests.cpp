@@ -72,7 +72,7 @@ private Q_SLOTS:
         QVERIFY(!s.app.focusedDocument().get());
     }
 
-    void theAlertSaysWhatIsAtStake() {
+    void theAlertNamesTheFileAndTheLoss() {
         Setting s;
         s.document.currentFileURL = "/tmp/saved.marlevo";
         drawStroke(s.document);
@@ -155,14 +155,6 @@ private Q_SLOTS:
         QVERIFY(std::filesystem::exists(folder / "saved.marlevo"));
     }
 
-    void dontSaveClosesTheWindow() {
-        Setting s;
-        s.drawAndClose();
-        answer(s.window, "Don't Save");
-        QTRY_VERIFY(!s.open);
-        QVERIFY(!s.panels.save);
-    }
-
     void saveWritesThePictureThenCloses() {
         Setting s;
         const TemporaryFolder folder;
@@ -178,14 +170,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!s.open);
         QCOMPARE(QImage(QString::fromStdString((folder / "picture.png").string())).size(),
                  QSize(120, 80));
-    }
-
-    void theWindowClosesAlsoWhenThePanelIsCancelled() {
-        Setting s;
-        s.drawAndClose();
-        answer(s.window, "Save");
-        s.panels.answer(std::nullopt);
-        QTRY_VERIFY(!s.open);
     }
 
     void quitStopsAtTheFirstWindowThatIsKept() {
@@ -209,7 +193,7 @@ private Q_SLOTS:
         QVERIFY2(s.open && !alertOf(s.window), "closing one window later does not quit");
     }
 
-    void quitGoesOnAfterAPictureWasSaved() {
+    void quitContinuesAfterAPictureWasSaved() {
         Setting s;
         drawStroke(s.document);
         QPointer<DocumentWindow> front = &s.openWindow();

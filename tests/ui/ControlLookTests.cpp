@@ -7,6 +7,7 @@
 #include "ui/controls/IconButton.h"
 #include "ui/controls/ModeButton.h"
 #include "ui/controls/SemanticColors.h"
+#include "ui/controls/SmallButton.h"
 #include "ui/controls/Switch.h"
 #include "ui/windows/PresetRow.h"
 
@@ -60,6 +61,12 @@ QWidget* slider() {
     slider->setFixedWidth(116);
     slider->showValue(5, "5");
     return slider;
+}
+/// Has the look of every push button with the focus in a sheet.
+QWidget* defaultButton() {
+    auto* button = new QPushButton("Label");
+    button->setDefault(true);
+    return button;
 }
 template <class Button>
 std::function<QWidget*()> button(bool isChecked) {
@@ -124,12 +131,7 @@ const std::vector<Case>& cases() {
         {"framed icon", icon(bordered), focused, {{0, 0, blue()}, {3, 0, gray(0.06)}}},
         {"black swatch", swatch(none), rest, {{8, -5, blackPaint}, {8, 0, blackPaint}}},
         {"swatch in use", swatch(active), rest, {{8, -7, blue()}, {8, 0, blackPaint}}},
-        {"check box",
-         box(false),
-         rest,
-         {{1, 0, nothing}, {3, 0, gray()}, {10, 0, gray(0.06)}},
-         3,
-         3},
+        {"check box", box(false), rest, {{3, 0, gray()}, {10, 0, gray(0.06)}}, 3, 3},
         {"check box", box(false), hover, {{10, 0, gray(0.12)}}, 3, 3},
         {"check box", box(false), pressed, {{10, 0, gray(0.25)}}, 3, 3},
         {"check box", box(false), focused, {{0, 0, blue()}, {3, 0, gray()}}},
@@ -139,15 +141,22 @@ const std::vector<Case>& cases() {
         {"checked box", box(true), disabled, {{4, 0, blue()}}, 3, 3},
         {"switch", toggle(false), rest, {{-8, 0, gray()}, {-25, 0, white}}},
         {"switch", toggle(false), focused, {{-8, 0, gray()}, {-33, 0, blue()}}},
+        {"switch", toggle(false), pressed, {{-8, 0, gray()}, {-25, 0, white}}},
+        {"switch", toggle(false), disabled, {{-8, 0, gray()}}},
+        {"switched on", toggle(true), disabled, {{-25, 0, blue()}}},
         {"switched on", toggle(true), rest, {{-8, 0, white}, {-25, 0, blue()}, {-40, 0, nothing}}},
+        {"default button", defaultButton, focused, {{3, 0, blue()}, {-4, 4, blue()}}},
+        {"small button", button<SmallButton>(false), focused, {{0, 0, blue()}, {-1, 0, blue()}}},
         {"slider", slider, rest, {{20, 0, blue()}, {58, 0, white}, {95, 0, gray(0.35)}}, 1, 1},
         {"slider", slider, focused, {{52, 0, blue()}, {58, 0, white}}, 1, 1},
         {"slider", slider, pressed, {{52, 0, blue()}, {58, 0, shade(QColor(0xe8e8ec))}}, 1, 1},
         {"slider", slider, disabled, {{95, 0, gray(0.35)}}, 1, 1},
         {"preset", preset(false), rest, {{3, 0, nothing}, {-5, 0, nothing}}, 10, 36},
         {"preset", preset(false), hover, {{3, 0, shade(SemanticColor::primary, 0.05)}}},
+        {"preset", preset(false), pressed, {{3, 0, shade(SemanticColor::primary, 0.05)}}},
         {"preset", preset(false), focused, {{0, 0, blue()}, {5, 0, nothing}}},
         {"chosen preset", preset(true), rest, {{3, 0, blue(0.1)}, {-14, -4, blue()}}},
+        {"chosen preset", preset(true), pressed, {{3, 0, blue(0.1)}, {-14, -4, blue()}}},
         {"chosen preset", preset(true), focused, {{0, 0, blue()}, {5, 0, blue(0.1)}}},
     };
     return all;
@@ -174,7 +183,7 @@ class ControlLookTests : public QObject {
     MarlevoLook look_;
 
 private Q_SLOTS:
-    void aControlLooksAsItsStateSays_data() {
+    void aControlIsPaintedInItsState_data() {
         QTest::addColumn<std::size_t>("index");
         QTest::addColumn<bool>("isDark");
         QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -187,7 +196,7 @@ private Q_SLOTS:
                         << i << isDark << direction;
     }
 
-    void aControlLooksAsItsStateSays() {
+    void aControlIsPaintedInItsState() {
         QFETCH(std::size_t, index);
         QFETCH(bool, isDark);
         QFETCH(Qt::LayoutDirection, direction);

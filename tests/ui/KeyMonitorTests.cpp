@@ -10,13 +10,6 @@ using namespace marlevo;
 
 namespace {
 
-/// A press and release as a keyboard sends them, through the window. A press at the very time of
-/// the last release would be a repeat.
-void type(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::qWait(2);
-    QTest::keyClick(window.windowHandle(), key, modifiers);
-}
-
 /// A key with Ctrl as an X11 or Wayland server reports it.
 struct NativeKey {
     int key;
@@ -180,24 +173,20 @@ private Q_SLOTS:
         QCOMPARE(s.document.zoom.get(), 1.2 * 1.2);
     }
 
-    void bothDeleteKeysDeleteTheSelectedStrokeOnly_data() {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::newRow("Backspace") << Qt::Key_Backspace;
-        QTest::newRow("Delete") << Qt::Key_Delete;
-    }
     void bothDeleteKeysDeleteTheSelectedStrokeOnly() {
-        QFETCH(const Qt::Key, key);
-        RunningApp s;
-        drawStroke(s.document);
-        s.document.isSelectTool = true;
-        type(s.window, key);
-        selectTheStroke(s.document);
-        s.document.isSelectTool = false;
-        type(s.window, key);
-        QCOMPARE(strokeCount(s.document.layers), std::size_t{1});
-        s.document.isSelectTool = true;
-        type(s.window, key, Qt::ShiftModifier);
-        QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
+        for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Delete}) {
+            RunningApp s;
+            drawStroke(s.document);
+            s.document.isSelectTool = true;
+            type(s.window, key);
+            selectTheStroke(s.document);
+            s.document.isSelectTool = false;
+            type(s.window, key);
+            QCOMPARE(strokeCount(s.document.layers), std::size_t{1});
+            s.document.isSelectTool = true;
+            type(s.window, key, Qt::ShiftModifier);
+            QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
+        }
     }
 
     void noKeyReachesTheDocumentBehindTheSheet() {
@@ -226,18 +215,6 @@ private Q_SLOTS:
         type(s.window, Qt::Key_Delete);
         QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
         QVERIFY(command(s.window, "Undo").isEnabled());
-    }
-
-    void onlyTheFocusedWindowActs() {
-        RunningApp s;
-        DocumentWindow& second = s.openWindow();
-        type(second, Qt::Key_Equal, Qt::ControlModifier);
-        QCOMPARE(second.document().zoom.get(), 1.2);
-        QCOMPARE(s.document.zoom.get(), 1.0);
-        RunningApp::activate(s.window);
-        type(s.window, Qt::Key_N, Qt::ControlModifier);
-        QVERIFY(s.window.content().showNewCanvas());
-        QVERIFY(!second.content().showNewCanvas());
     }
 };
 

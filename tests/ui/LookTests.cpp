@@ -46,7 +46,7 @@ class LookTests : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void textStandsOutOnEveryBackground() {
+    void textHasContrastOnEveryBackground() {
         using enum SemanticColor;
         for (const Appearance appearance : {Appearance::light, Appearance::dark}) {
             const auto color = [&](SemanticColor which) {

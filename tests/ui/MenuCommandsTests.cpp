@@ -6,86 +6,51 @@
 
 using namespace marlevo;
 
-namespace {
-
-const QStringList documentCommands{"Save",
-                                   "Save As…",
-                                   "Print…",
-                                   "Export…",
-                                   "PNG",
-                                   "JPEG",
-                                   "TIFF",
-                                   "BMP",
-                                   "PDF",
-                                   "Copy Canvas",
-                                   "Clear Active Layer",
-                                   "Clear All Layers",
-                                   "Toggle Grid",
-                                   "Add Layer",
-                                   "Delete Active Layer",
-                                   "Move Layer Up",
-                                   "Move Layer Down"};
-
-}  // namespace
-
 class MenuCommandsTests : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void theMenusHaveTheirItemsInOrder() {
         RunningApp s;
-        const auto titles = [&](const QMenu& menu) {
+        const auto items = [&](const QMenu& menu) {
             QStringList found;
             for (const QAction* action : menu.actions())
-                found << (action->isSeparator() ? QString("-") : action->text());
+                found << (action->isSeparator()
+                              ? QString("-")
+                              : action->text() + ' ' + action->shortcut().toString())
+                             .trimmed();
             return found;
         };
         const QList<QAction*> menus = s.window.menuBar()->actions();
-        QCOMPARE(titles(*menus[0]->menu()),
-                 QStringList({"New Window", "New Canvas…", "Open…", "-", "Close", "Save",
-                              "Save As…", "-", "Print…", "Export…", "-", "Quit"}));
-        QCOMPARE(titles(*menus[1]->menu()),
-                 QStringList({"Undo", "Redo", "-", "Cut", "Copy", "Paste", "Select All",
-                              "Copy Canvas", "-", "Settings…"}));
-        QCOMPARE(titles(*menus[2]->menu()),
-                 QStringList({"New Canvas…", "-", "Clear Active Layer", "Clear All Layers", "-",
-                              "Toggle Grid", "-", "Layers"}));
-        QCOMPARE(
-            titles(*command(s.window, "Layers").menu()),
-            QStringList({"Add Layer", "Delete Active Layer", "Move Layer Up", "Move Layer Down"}));
-        QCOMPARE(titles(*command(s.window, "Export…").menu()),
+        QCOMPARE(items(*menus[0]->menu()),
+                 QStringList({"New Window Ctrl+Shift+N", "New Canvas… Ctrl+N", "Open… Ctrl+O", "-",
+                              "Close Ctrl+W", "Save Ctrl+S", "Save As… Ctrl+Shift+S", "-",
+                              "Print… Ctrl+P", "Export… Ctrl+Shift+E", "-", "Quit Ctrl+Q"}));
+        QCOMPARE(items(*menus[1]->menu()),
+                 QStringList({"Undo Ctrl+Z", "Redo Ctrl+Shift+Z", "-", "Cut Ctrl+X", "Copy Ctrl+C",
+                              "Paste Ctrl+V", "Select All Ctrl+A", "Copy Canvas Ctrl+Shift+C", "-",
+                              "Settings… Ctrl+,"}));
+        QCOMPARE(items(*menus[2]->menu()),
+                 QStringList({"New Canvas… Ctrl+N", "-", "Clear Active Layer Ctrl+K",
+                              "Clear All Layers", "-", "Toggle Grid Ctrl+G", "-", "Layers"}));
+        QCOMPARE(items(*command(s.window, "Layers").menu()),
+                 QStringList({"Add Layer Ctrl+Shift+L", "Delete Active Layer", "Move Layer Up",
+                              "Move Layer Down"}));
+        QCOMPARE(items(*command(s.window, "Export…").menu()),
                  QStringList({"PNG", "JPEG", "TIFF", "BMP", "PDF"}));
     }
 
-    void everyShortcutIsThereOnceAndDoesNotRepeat() {
+    void noShortcutIsThereTwiceOrRepeats() {
         RunningApp s;
-        QHash<QString, QString> commandOf;
+        QSet<QKeySequence> known;
         for (const QAction* action : s.window.menuBar()->findChildren<QAction*>()) {
-            const QString keys = action->shortcut().toString();
+            const QKeySequence keys = action->shortcut();
             if (keys.isEmpty()) continue;
             QVERIFY2(!action->autoRepeat(), qPrintable(action->text()));
             if (action->shortcutContext() == Qt::WidgetShortcut) continue;
-            QVERIFY2(!commandOf.contains(keys), qPrintable(keys));
-            commandOf[keys] = action->text();
+            QVERIFY2(!known.contains(keys), qPrintable(action->text()));
+            known << keys;
         }
-        const QList<QPair<QString, QString>> expected{{"Ctrl+N", "New Canvas…"},
-                                                      {"Ctrl+O", "Open…"},
-                                                      {"Ctrl+S", "Save"},
-                                                      {"Ctrl+Shift+S", "Save As…"},
-                                                      {"Ctrl+P", "Print…"},
-                                                      {"Ctrl+Shift+E", "Export…"},
-                                                      {"Ctrl+Shift+C", "Copy Canvas"},
-                                                      {"Ctrl+K", "Clear Active Layer"},
-                                                      {"Ctrl+G", "Toggle Grid"},
-                                                      {"Ctrl+Shift+L", "Add Layer"},
-                                                      {"Ctrl+Z", "Undo"},
-                                                      {"Ctrl+Shift+Z", "Redo"},
-                                                      {"Ctrl+Shift+N", "New Window"},
-                                                      {"Ctrl+W", "Close"},
-                                                      {"Ctrl+Q", "Quit"},
-                                                      {"Ctrl+,", "Settings…"}};
-        for (const auto& [keys, title] : expected)
-            QCOMPARE(commandOf.value(keys), title);
     }
 
     void behindTheSheetOnlyTheDocumentsCommandsAreDisabled() {
@@ -94,8 +59,12 @@ private Q_SLOTS:
         drawStroke(s.document);
         s.document.undo();
         const auto expectEnabled = [&](bool enabled) {
-            for (const QString& title : documentCommands + QStringList{"Undo", "Redo"})
-                QVERIFY2(command(s.window, title).isEnabled() == enabled, qPrintable(title));
+            for (const char* title :
+                 {"Save", "Save As…", "Print…", "Export…", "PNG", "JPEG", "TIFF", "BMP", "PDF",
+                  "Undo", "Redo", "Copy Canvas", "Clear Active Layer", "Clear All Layers",
+                  "Toggle Grid", "Add Layer", "Delete Active Layer", "Move Layer Up",
+                  "Move Layer Down"})
+                QVERIFY2(command(s.window, title).isEnabled() == enabled, title);
             for (const char* title : {"New Canvas…", "Open…", "Layers"})
                 QVERIFY(command(s.window, title).isEnabled());
         };
@@ -104,47 +73,6 @@ private Q_SLOTS:
         expectEnabled(false);
         s.window.content().setShowNewCanvas(false);
         expectEnabled(true);
-    }
-
-    void undoAndRedoFollowTheHistory() {
-        RunningApp s;
-        QAction& undo = command(s.window, "Undo");
-        QAction& redo = command(s.window, "Redo");
-        QVERIFY(!undo.isEnabled() && !redo.isEnabled());
-        drawStroke(s.document);
-        QVERIFY(undo.isEnabled() && !redo.isEnabled());
-        undo.trigger();
-        QVERIFY(!undo.isEnabled() && redo.isEnabled());
-    }
-
-    void layerCommandsStopAtTheEndsOfTheStack() {
-        RunningApp s;
-        command(s.window, "Delete Active Layer").trigger();
-        command(s.window, "Move Layer Up").trigger();
-        command(s.window, "Move Layer Down").trigger();
-        QVERIFY(!s.document.canUndo());
-
-        command(s.window, "Add Layer").trigger();
-        command(s.window, "Add Layer").trigger();
-        const Uuid top = s.document.layers->back().id;
-        command(s.window, "Move Layer Up").trigger();
-        QCOMPARE(s.document.activeLayerIndex.get(), 2);
-        command(s.window, "Move Layer Down").trigger();
-        QCOMPARE(s.document.activeLayerIndex.get(), 1);
-        QVERIFY((*s.document.layers)[1].id == top);
-        command(s.window, "Delete Active Layer").trigger();
-        QCOMPARE(s.document.layers->size(), std::size_t{2});
-    }
-
-    void clearingAllLayersAsksNothingAndCanBeUndone() {
-        RunningApp s;
-        drawStroke(s.document);
-        command(s.window, "Add Layer").trigger();
-        drawStroke(s.document);
-        command(s.window, "Clear All Layers").trigger();
-        QCOMPARE(strokeCount(s.document.layers), std::size_t{0});
-        command(s.window, "Undo").trigger();
-        QCOMPARE(strokeCount(s.document.layers), std::size_t{2});
     }
 
     void commandsActOnTheirWindowAndTheFocusedDocumentFollowsTheFocus() {
@@ -156,6 +84,9 @@ private Q_SLOTS:
         command(s.window, "Toggle Grid").trigger();
         command(s.window, "Undo").trigger();
         QVERIFY(s.document.showGrid && !third.document().showGrid);
+        type(third, Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(third.document().zoom.get(), 1.2);
+        QCOMPARE(s.document.zoom.get(), 1.0);
         QCOMPARE(strokeCount(s.document.layers), qint64{0});
 
         {
@@ -195,15 +126,6 @@ private Q_SLOTS:
         QVERIFY(s.window.content().showNewCanvas() && second.content().showNewCanvas());
     }
 
-    void anOpenedDrawingGoesToTheDocumentFocusedThen() {
-        RunningApp s;
-        command(s.window, "Open…").trigger();
-        QCOMPARE(s.panels.open->title, std::string("Open Drawing"));
-        s.app.focusedDocument().set(nullptr);
-        s.panels.answer("/nowhere/at/all.marlevo");
-        QVERIFY(!s.document.currentFileURL->has_value());
-    }
-
     void textFieldCommandsServeTheFieldWithTheKeyboard() {
         RunningApp s;
         QVERIFY(!command(s.window, "Select All").isEnabled());
@@ -216,14 +138,6 @@ private Q_SLOTS:
         QCOMPARE(field.text(), QString());
         command(s.window, "Paste").trigger();
         QCOMPARE(field.text(), QString("text"));
-    }
-
-    void exportProposesTheFormatsName() {
-        RunningApp s;
-        s.document.canvasSize = {1920.7, 1080};
-        command(s.window, "JPEG").trigger();
-        QCOMPARE(s.panels.save->title, std::string("Export Drawing"));
-        QCOMPARE(s.panels.save->proposedName, std::string("Drawing-1920x1080.jpeg"));
     }
 };
 

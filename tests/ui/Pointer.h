@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <QWindow>
 
-/// A mouse over a widget that goes the way of a real one, through the window; positions keep their
-/// fraction. In points from the widget's top left corner.
+/// A mouse over a widget. Its events pass through the window, like real ones. Positions are in
+/// points from the widget's top left corner and may have fractions.
 class Pointer {
 public:
     explicit Pointer(QWidget& widget) : widget_(widget) {}

@@ -1,3 +1,4 @@
+#include "platform/qt/OpenPanel.h"
 #include "platform/qt/QtFilePanels.h"
 #include "platform/qt/SavePanel.h"
 
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 #include <memory>
 
@@ -33,13 +35,25 @@ class QtFilePanelsTests : public QObject {
             return *window.findChild<SavePanel*>();
         }
 
+        OpenPanel& showOpenPanel() {
+            panels->showOpenPanel({"Open Drawing", {"Marlevo drawing", {"marlevo"}}},
+                                  [this](const auto& answer) { answers.push_back(answer); });
+            OpenPanel& panel = *window.findChild<OpenPanel*>();
+            panel.setDirectory(folder.path());
+            return panel;
+        }
+        static void confirm(OpenPanel& panel, const QString& name) {
+            panel.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+            panel.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
+        }
+
         static void type(SavePanel& panel, const QString& name) {
             panel.findChild<QLineEdit*>("fileNameEdit")->setText(name);
         }
 
         void create(const QString& name) const {
             QFile file(folder.filePath(name));
-            if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write");
+            if (!file.open(QIODevice::WriteOnly) || file.write("{}") != 2) qFatal("cannot write");
         }
 
         /// The text of the message over the panel, which it ends by clicking a button.
@@ -65,16 +79,6 @@ class QtFilePanelsTests : public QObject {
     };
 
 private Q_SLOTS:
-    void proposesTheNameUnderTheTitle() {
-        Setting s;
-        SavePanel& panel = s.open();
-        QVERIFY(panel.isVisible());
-        QCOMPARE(panel.windowTitle(), QString("Export Drawing"));
-        QVERIFY(s.answers.empty());
-        panel.accept();
-        QCOMPARE(s.names(), QStringList{"Drawing-1280x720.png"});
-    }
-
     void addsTheExtensionWhenItIsMissing() {
         const std::vector<std::pair<QString, QString>> cases{{"name", "name.png"},
                                                              {"my.drawing", "my.drawing.png"},
@@ -177,6 +181,59 @@ private Q_SLOTS:
         QTest::qWait(1);
         QVERIFY(s.answers.empty());
         QVERIFY(!s.window.findChild<SavePanel*>());
+    }
+
+    void anOpenPanelAnswersWithTheFileChosen() {
+        Setting s;
+        OpenPanel& panel = s.showOpenPanel();
+        QVERIFY(panel.isVisible());
+        QCOMPARE(panel.windowTitle(), QString("Open Drawing"));
+        QCOMPARE(panel.nameFilters(), QStringList("Marlevo drawing (*.marlevo)"));
+        s.create("a.marlevo");
+        QVERIFY(s.answers.empty());
+        Setting::confirm(panel, "a.marlevo");
+        QCOMPARE(s.names(), QStringList{"a.marlevo"});
+    }
+
+    void aQuoteIsPartOfAFilesName() {
+        Setting s;
+        OpenPanel& panel = s.showOpenPanel();
+        s.create("say \"hi\".marlevo");
+        s.create("hi");
+        Setting::confirm(panel, "say \"hi\".marlevo");
+        QCOMPARE(s.names(), QStringList{"say \"hi\".marlevo"});
+    }
+
+    void theListShowsSizeTypeAndDateWhole() {
+        Setting s;
+        OpenPanel& panel = s.showOpenPanel();
+        s.create("a.marlevo");
+        auto& list = *panel.findChild<QTreeView*>("treeView");
+        QTRY_VERIFY(list.model()->rowCount(list.rootIndex()) == 1);
+        for (int column = 1; column < list.model()->columnCount(); ++column) {
+            const QModelIndex cell = list.model()->index(0, column, list.rootIndex());
+            QTRY_VERIFY(!cell.data().toString().isEmpty());
+            const int needed = list.fontMetrics().horizontalAdvance(cell.data().toString());
+            QTRY_VERIFY2(list.visualRect(cell).width() > needed,
+                         qPrintable(cell.data().toString()));
+        }
+    }
+
+    void anOpenPanelStaysOpenForAMissingFileAndForAFolder() {
+        Setting s;
+        OpenPanel& panel = s.showOpenPanel();
+        QVERIFY(QDir(s.folder.path()).mkdir("sub"));
+        Setting::confirm(panel, "missing.marlevo");
+        QMessageBox* const message = panel.findChild<QMessageBox*>();
+        QVERIFY(message && message->isVisible());
+        message->accept();
+        Setting::confirm(panel, "sub");
+        QVERIFY(panel.isVisible());
+        QCOMPARE(panel.directory().dirName(), QString("sub"));
+        QVERIFY(s.answers.empty());
+
+        panel.reject();
+        QCOMPARE(s.names(), QStringList{"cancelled"});
     }
 };
 

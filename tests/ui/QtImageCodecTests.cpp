@@ -81,7 +81,7 @@ private Q_SLOTS:
         }
     }
 
-    void jpegAndBmpLieOnWhite() {
+    void jpegAndBmpHaveAWhiteBackground() {
         // A transparent, a half black and a full blue quarter.
         constexpr int side = 32;
         std::vector<std::uint8_t> bytes;

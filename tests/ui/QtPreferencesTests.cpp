@@ -49,22 +49,18 @@ private Q_SLOTS:
         }
     }
 
-    void aStoreThatCannotBeReadHasTheInitialValues_data() {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::newRow("wrong types") << QByteArray(
-            "[General]\ndefaultCanvasWidth=wide\ndefaultCanvasHeight=1, 2\nautoSaveEnabled=8\n");
-        QTest::newRow("no INI") << QByteArray("\xFF\xFE{]\n\n=\n[[[\n%%");
-        QTest::newRow("zeros") << QByteArray(3000, '\0');
-    }
-
     void aStoreThatCannotBeReadHasTheInitialValues() {
-        QFETCH(QByteArray, contents);
-        const QString name = file(contents);
-        QtPreferences preferences(name);
-        QVERIFY(isInitial(preferences));
-        preferences.set(preference::defaultCanvasHeight, 900);
-        QCOMPARE(preferences.get(preference::defaultCanvasHeight), 900.0);
-        QCOMPARE(QtPreferences(name).get(preference::defaultCanvasHeight), 900.0);
+        const QByteArray wrongTypes =
+            "[General]\ndefaultCanvasWidth=wide\ndefaultCanvasHeight=1, 2\nautoSaveEnabled=8\n";
+        for (const QByteArray& contents :
+             {wrongTypes, QByteArray("\xFF\xFE{]\n\n=\n[[[\n%%"), QByteArray(3000, '\0')}) {
+            const QString name = file(contents);
+            QtPreferences preferences(name);
+            QVERIFY2(isInitial(preferences), contents);
+            preferences.set(preference::defaultCanvasHeight, 900);
+            QCOMPARE(preferences.get(preference::defaultCanvasHeight), 900.0);
+            QCOMPARE(QtPreferences(name).get(preference::defaultCanvasHeight), 900.0);
+        }
     }
 
     void aStoreThatCannotBeWrittenStillTakesChangesForThisRun() {

@@ -13,7 +13,7 @@
 
 namespace marlevo {
 
-/// The application over fakes, with a window in front whose sheet is gone.
+/// The application with fake services and one active window without the sheet.
 struct RunningApp {
     MarlevoLook look;
     FakeFilePanels panels;
@@ -46,6 +46,13 @@ inline void drawStroke(DrawingDocument& document) {
     beginStroke(document, {10, 10});
     addPointToStroke(document, {90, 70});
     endStroke(document);
+}
+
+/// A press and release of a key as a keyboard sends them, through the window.
+inline void type(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::qWait(2);  // a press at the very time of the last release would be a repeat
+    QTest::keyClick(window.windowHandle(), key, modifiers);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
 /// The command with this title in the window's menus.

@@ -1,17 +1,13 @@
 #pragma once
 
 #include "model/ImageCache.h"
-#include "tests/support/FakeServices.h"
 #include "tests/support/ManualQueue.h"
-#include "tests/ui/MarlevoLook.h"
+#include "tests/ui/RunningApp.h"
+#include "ui/controls/DisclosureSection.h"
 #include "ui/sidebar/SidebarView.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QTest>
 #include <QVBoxLayout>
-
-#include <cstdlib>
 
 namespace marlevo {
 
@@ -41,18 +37,10 @@ struct SidebarSetting {
         field->setFocus();
     }
 
-    /// The control of a type with an accessible name; null when there is none.
-    template <typename Control>
-    Control* find(const QString& name) {
-        for (auto* candidate : window.findChildren<Control*>())
-            if (candidate->accessibleName() == name) return candidate;
-        return nullptr;
-    }
-
+    /// The control of a type with an accessible name.
     template <typename Control = QAbstractButton>
     Control& get(const QString& name) {
-        if (auto* control = find<Control>(name)) return *control;
-        qFatal("no control %s", qPrintable(name));
+        return control<Control>(window, name);
     }
 
     void click(const QString& name) {
@@ -71,12 +59,14 @@ struct SidebarSetting {
 
     static QString focused() { return QApplication::focusWidget()->accessibleName(); }
 
-    /// Opens the list of layers and waits until it has come to rest.
+    /// Opens the list of layers and waits for the end of the animation.
     void openLayers() {
         click("Layers");
-        auto& add = get("Add layer");
-        if (!QTest::qWaitFor([&] { return !add.visibleRegion().isEmpty(); })) qFatal("not open");
-        QTest::qWait(200);
+        QWidget* content = &get("Add layer");
+        while (!qobject_cast<DisclosureSection*>(content->parentWidget()->parentWidget()))
+            content = content->parentWidget();
+        const auto isOpen = [&] { return content->parentWidget()->height() == content->height(); };
+        if (!QTest::qWaitFor(isOpen)) qFatal("not open");
     }
 };
 
