@@ -9,7 +9,7 @@
 #include <random>
 #include <vector>
 
-namespace marlevo {
+using namespace marlevo;
 
 TEST(Blend, RoundsEveryProductToNearest) {
     for (unsigned a = 0; a <= 255; ++a) {
@@ -90,5 +90,3 @@ TEST(Blend, VectorsGiveTheBytesOfScalarCode) {
         }
     });
 }
-
-}  // namespace marlevo

@@ -8,7 +8,7 @@
 #include <limits>
 #include <random>
 
-namespace marlevo {
+using namespace marlevo;
 
 namespace {
 
@@ -125,5 +125,3 @@ TEST(Flatten, GivesFinitePointsInRangeForAnyInput) {
         }
     }
 }
-
-}  // namespace marlevo

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace marlevo {
+using namespace marlevo;
 
 TEST(FrontToBackContext, IsFullAtEitherOfItsLimits) {
     Canvas canvas(200, 20);
@@ -22,5 +22,3 @@ TEST(FrontToBackContext, IsFullAtEitherOfItsLimits) {
     ofElements.fillPath(line({4, 5}, {190, 5}), black);
     EXPECT_TRUE(ofElements.isFull());
 }
-
-}  // namespace marlevo

@@ -9,7 +9,7 @@
 #include <limits>
 #include <random>
 
-namespace marlevo {
+using namespace marlevo;
 
 namespace {
 
@@ -118,5 +118,3 @@ TEST(RasterizeByDistance, GetsLighterEvenlyAsThePenGetsThinner) {
         last = sum;
     }
 }
-
-}  // namespace marlevo

@@ -157,19 +157,6 @@ TEST(StrokeList, SharesWithCopiesUntilOneChanges) {
     }
 }
 
-TEST(StrokeList, FreesTheSpareMemoryOfAppendedPointsAndLeavesTheirOtherOwnersAlone) {
-    Stroke stroke;
-    for (int i = 0; i < 40; ++i)
-        stroke.points.append({1.0 * i, 2.0 * i});
-    StrokeList list;
-    list.append(stroke);
-    EXPECT_FALSE(list[0].points.sharesWith(stroke.points));
-    EXPECT_EQ(list[0].points, stroke.points);
-    Stroke again = list[0];
-    list.append(again);
-    EXPECT_TRUE(list[1].points.sharesWith(again.points));
-}
-
 TEST(StrokeList, VisitsWhatThePlainScanFindsInOrderAndStopsWhenAsked) {
     RandomEdits edits(3);
     Twin twin;
@@ -183,7 +170,7 @@ TEST(StrokeList, VisitsWhatThePlainScanFindsInOrderAndStopsWhenAsked) {
     twin.replace(500, wide);
 
     for (int i = 0; i < 200; ++i) {
-        // Behind those two.
+        // An index after both.
         const auto edited = [&] { return 2000 + edits.below(twin.plain.size() - 2000); };
         twin.replace(edited(), edits.stroke());
         twin.modify(edited());
@@ -364,7 +351,7 @@ TEST(StrokeSummary, ReachesWhatTouchesByRoundingAlone) {
         Stroke stroke;
         stroke.points = {at};
         const StrokeSummary summary = StrokeSummary::of(stroke);
-        // The next coordinate beyond the margin. Some tests add the margin to it, which rounds.
+        // The next coordinate beyond the margin. Adding the margin to it rounds.
         const double left = std::nextafter(at.x - margin, -1e9);
         const double below = std::nextafter(at.y + margin, 1e9);
         if (left + margin >= at.x) {

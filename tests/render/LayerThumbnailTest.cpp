@@ -121,16 +121,6 @@ TEST_F(LayerThumbnailTest, MayGoAwayDuringARender) {
     EXPECT_FALSE(mainQueue.run());
 }
 
-TEST_F(LayerThumbnailTest, CanvasesOfNoExtentAreRenderedOnce) {
-    document.canvasSize = CanvasSize{0, -5};
-    draw(document, {10, 10});
-    thumbnail.show(layer(), document.canvasSize);
-    settle();
-    thumbnail.show(layer(), document.canvasSize);
-    EXPECT_EQ(backgroundQueue.size(), 0);
-    EXPECT_EQ(changes, 1);
-}
-
 TEST_F(LayerThumbnailTest, RendersWhileTheLayerIsDrawnOn) {
     BackgroundThread thread;
     DrawingDocument busy(services(thread));

@@ -7,8 +7,8 @@ using namespace marlevo;
 
 namespace {
 
-/// What assistive technology gets to see below a window: "role name", in the order of the tree,
-/// without what has no role of its own.
+/// The accessible objects below a window as "role name", in the order of the tree. Objects of other
+/// roles are left out.
 QStringList treeOf(QAccessibleInterface& parent) {
     static const QHash<QAccessible::Role, QString> roles{
         {QAccessible::Pane, "pane"},          {QAccessible::Canvas, "canvas"},

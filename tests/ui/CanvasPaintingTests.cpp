@@ -48,14 +48,14 @@ class CanvasPaintingTests : public QObject {
 
         Setting() { document.canvasSize = {300, 200}; }
 
-        /// Handles what is posted, and paints what is due now instead of with the next frame.
+        /// Handles posted events and paints at once instead of with the next frame.
         void settle() {
             QCoreApplication::processEvents();
             QEvent dueNow(QEvent::UpdateRequest);
             QCoreApplication::sendEvent(&window, &dueNow);
         }
 
-        /// What the screen shows of the canvas and of `margin` points around it.
+        /// The screen's pixels of the canvas and of `margin` points around it.
         QImage shot(int margin = 0) {
             settle();
             const QImage image = window.screen()->grabWindow(window.winId()).toImage();

@@ -70,7 +70,7 @@ QString fault(const QString& source, const QString& translation) {
     return {};
 }
 
-/// Puts each text into brackets and keeps what it was asked for.
+/// Puts each text into brackets and records it.
 class Brackets : public QTranslator {
 public:
     QString translate(const char* context, const char* text, const char*, int) const override {
@@ -106,7 +106,7 @@ bool isSameEverywhere(const QString& text) {
     return names.contains(text) || text.startsWith('#') || !text.contains(letter);
 }
 
-/// Opens whatever of the program has texts.
+/// Opens everything that shows texts.
 void openEverything(RunningApp& s) {
     drawStroke(s.document);
     control<IconButton>(s.window, "⟦Export⟧").click();

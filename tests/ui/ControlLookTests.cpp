@@ -176,7 +176,7 @@ int difference(const QColor& a, const QColor& b) {
 
 }  // namespace
 
-/// What each control looks like in each state, in both appearances and both reading directions.
+/// The look of each control in each state, in both appearances and both reading directions.
 class ControlLookTests : public QObject {
     Q_OBJECT
 

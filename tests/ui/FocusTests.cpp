@@ -100,7 +100,7 @@ private Q_SLOTS:
         QVERIFY(!isFramed(s.window));
         type(s.window, Qt::Key_Left);
         QVERIFY(isFramed(s.window));
-        // Away to another window and back.
+        // To another window and back.
         QWidget other;
         other.show();
         RunningApp::activate(other);

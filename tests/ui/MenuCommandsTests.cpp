@@ -105,12 +105,12 @@ private Q_SLOTS:
         for (QWidget* window : QApplication::topLevelWidgets())
             if (auto* settings = qobject_cast<SettingsWindow*>(window)) settings->close();
         RunningApp::activate(second);
-        // A window that the desktop has not given the focus yet.
+        // A window without the focus so far.
         DocumentWindow& behind = s.app.openWindow();
         QCOMPARE(s.app.focusedDocument().get(), &second.document());
         const QPointer<DocumentWindow> closing = &second;
         second.close();
-        // At once, though the desktop gives the focus later.
+        // At once: the desktop moves the focus later.
         QCOMPARE(s.app.focusedDocument().get(), &s.document);
         s.window.close();
         QCOMPARE(s.app.focusedDocument().get(), &third.document());

@@ -27,7 +27,7 @@ using std::chrono::milliseconds;
 class QtDesktopTests : public QObject {
     Q_OBJECT
 
-    /// What a file manager drops.
+    /// The items of a drop from a file manager.
     static std::vector<std::unique_ptr<ItemProvider>> dropped(const QByteArray& addresses) {
         QMimeData data;
         data.setData("text/uri-list", addresses);

@@ -56,7 +56,7 @@ class QtFilePanelsTests : public QObject {
             if (!file.open(QIODevice::WriteOnly) || file.write("{}") != 2) qFatal("cannot write");
         }
 
-        /// The text of the message over the panel, which it ends by clicking a button.
+        /// The text of the message over the panel. Clicks a button of the message.
         static QString answerMessage(SavePanel& panel, const QString& clicked) {
             auto* message = panel.findChild<QMessageBox*>();
             if (!message) return {};
@@ -140,7 +140,7 @@ private Q_SLOTS:
         };
         QVERIFY(refusal("nowhere/name").contains("nowhere"));
         QVERIFY(refusal("<b>x").contains("<b>x.png"));
-        // 255 bytes are the most.
+        // A file name has at most 255 bytes.
         for (const QString& tooLong :
              {QString(126, QChar(0xfc)), QString(252, 'x'), QString(999, 'x')})
             QVERIFY(refusal(tooLong).contains("too long"));

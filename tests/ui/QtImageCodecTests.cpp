@@ -127,7 +127,7 @@ private Q_SLOTS:
     }
 
     void tooManyPixelsAreRefused() {
-        // Small as a file and, one bit a pixel, also for the reader; not for us.
+        // Small as a file and, at one bit a pixel, for the reader; too large when decoded.
         QImage image(11600, 11600, QImage::Format_Mono);
         image.fill(0);
         const auto png = fileOf(image, "png");

@@ -11,7 +11,7 @@
 
 namespace marlevo {
 
-/// A sidebar in a window of its own, beside a field that has the keyboard.
+/// A sidebar in a window of its own, beside a field with the focus.
 struct SidebarSetting {
     MarlevoLook look;
     FakeFilePanels panels;
@@ -48,7 +48,7 @@ struct SidebarSetting {
         showChanges();
     }
 
-    /// Lets the list of layers show what has changed.
+    /// Updates the list of layers.
     static void showChanges() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
 
     /// Presses a key in the focused widget.

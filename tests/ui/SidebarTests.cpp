@@ -66,7 +66,7 @@ private Q_SLOTS:
             s.click(name);
             QVERIFY2(isChosen(), qPrintable(name));
             QCOMPARE(activeOf<ModeButton>(s), QStringList{name});
-            // Pressed again, as a click and as assistive technology does it, it stays.
+            // A second press, by a click and by assistive technology, changes nothing.
             s.click(name);
             auto* accessible = QAccessible::queryAccessibleInterface(&s.get(name));
             accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -162,7 +162,7 @@ private Q_SLOTS:
         const int middle = size.height() / 2;
         QTest::mousePress(&size, Qt::LeftButton, {}, {size.width() / 2, middle});
         QVERIFY(std::abs(s.document.lineWidth - 10.5) < 0.2);
-        // Grabbed off its centre, it does not jump.
+        // A press beside the centre of the knob does not move it.
         QTest::mouseRelease(&size, Qt::LeftButton);
         const double before = s.document.lineWidth;
         QTest::mousePress(&size, Qt::LeftButton, {}, {size.width() / 2 + 5, middle});
@@ -295,7 +295,7 @@ private Q_SLOTS:
         const QColor first = chosenAt(hues->width() / 3);
         QCOMPARE(first.value(), 255);
         QVERIFY(first.saturation() > 200);
-        // A value that was chosen stays.
+        // A colour with another value keeps it.
         s.document.selectedColor = Color{0.5, 0, 0, 1};
         QVERIFY(std::abs(chosenAt(hues->width() / 2).value() - 128) <= 1);
     }
@@ -333,7 +333,7 @@ private Q_SLOTS:
         QTest::keyClick(s.window.focusWidget(), Qt::Key_Escape);
         QTRY_VERIFY(!isOpen());
 
-        // A widget that takes the focus when it is clicked, as the canvas does.
+        // Gets the focus by a click, like the canvas.
         QPushButton other(s.field);
         other.setFocusPolicy(Qt::StrongFocus);
         other.move(200, 400);
@@ -362,19 +362,6 @@ private Q_SLOTS:
         s.field->setFocus();
         QTRY_VERIFY(!isOpen());
         QCOMPARE(QApplication::focusWidget(), s.field);
-    }
-
-    void historyButtonsFollowTheHistoryAndSaveAsksForAFile() {
-        SidebarSetting s;
-        QVERIFY(!s.get("Undo").isEnabled() && !s.get("Redo").isEnabled());
-        s.document.addLayer();
-        s.showChanges();
-        s.click("Undo");
-        QVERIFY(!s.get("Undo").isEnabled() && s.get("Redo").isEnabled());
-        s.click("Redo");
-        QCOMPARE(s.document.layers->size(), std::size_t{2});
-        s.click("Save");
-        QVERIFY(s.panels.save.has_value());
     }
 
     void aDarkPaletteIsFollowedWhileTheProgramRuns() {
