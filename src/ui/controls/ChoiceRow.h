@@ -5,8 +5,8 @@
 namespace marlevo {
 
 /// One of several choices as a row of a list, with a mark at the trailing side while it is chosen.
-/// The owner decides which row is chosen: a press only asks to choose the row, by toggled(true). A
-/// text that does not fit is elided and shown whole in a tooltip.
+/// A press emits toggled(true). The owner then shows with showChosen() which row is chosen. A text
+/// that does not fit is elided and shown whole in a tooltip.
 class ChoiceRow : public QRadioButton {
     Q_OBJECT
 

@@ -4,6 +4,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace marlevo {
 
 namespace {
@@ -17,8 +20,14 @@ Separator::Separator(int padding, QWidget* parent) : QWidget(parent) {
 }
 
 void Separator::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(0, (height() - thickness) / 2, width(), thickness,
-                            semanticColor(SemanticColor::separator));
+    QPainter painter(this);
+    // Whole device pixels, so that all separators are equally thick at fractional scales.
+    const QTransform toDevice = painter.deviceTransform();
+    const double top = std::round(toDevice.map(QPointF(0, (height() - thickness) / 2)).y());
+    const double pixels = std::max(1.0, std::floor(thickness * devicePixelRatioF()));
+    const QRectF line(0, toDevice.inverted().map(QPointF(0, top)).y(), width(),
+                      pixels / devicePixelRatioF());
+    painter.fillRect(line, semanticColor(SemanticColor::separator));
 }
 
 }  // namespace marlevo
