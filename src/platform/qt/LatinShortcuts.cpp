@@ -5,11 +5,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QWidget>
 #include <QWindow>
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace marlevo {
@@ -43,7 +45,8 @@ quint32 layoutOf(const QKeyEvent& event) { return event.nativeModifiers() >> 13 
 /// The key that replaces the one of the event; 0 if the event stays as it is.
 int latinKey(const QKeyEvent& event) {
     const quint32 code = event.nativeScanCode();
-    if (!event.modifiers().testFlag(Qt::ControlModifier) || usKey(code) == 0) return 0;
+    const bool isShortcut = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    if (!isShortcut || usKey(code) == 0) return 0;
     const KeyboardLayouts layouts;
     if (layouts.isLatin(layoutOf(event)).value_or(true) && !isOfAnotherScript(event.key()))
         return 0;
@@ -81,6 +84,24 @@ QAction* actionFor(const QKeyEvent& press, const QObject& window) {
     return nullptr;
 }
 
+struct MenuTitle {
+    QMenuBar* bar;
+    QAction* action;
+};
+
+/// The menu of the window's bar whose underlined letter is pressed with Alt.
+std::optional<MenuTitle> menuFor(const QKeyEvent& press, const QObject& window) {
+    const QKeySequence keys(press.keyCombination());
+    for (const QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (widget->windowHandle() != &window) continue;
+        for (QMenuBar* const bar : widget->findChildren<QMenuBar*>())
+            for (QAction* const action : bar->actions())
+                if (action->isEnabled() && QKeySequence::mnemonic(action->text()) == keys)
+                    return MenuTitle{bar, action};
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
@@ -99,6 +120,10 @@ bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
             if (!changed.isAutoRepeat() || action->autoRepeat()) action->trigger();
             return true;
         }
+        if (const auto menu = menuFor(changed, *receiver)) {
+            menu->bar->setActiveAction(menu->action);
+            return true;
+        }
     }
     {
         const QScopedValueRollback passingOn(isPassingOn_, true);
@@ -108,7 +133,8 @@ bool LatinShortcuts::eventFilter(QObject* receiver, QEvent* event) {
     if (type == QEvent::ShortcutOverride) {
         isClaimed_ = changed.isAccepted();
         // Accepted, so that Qt does not run a shortcut of the original key.
-        if (actionFor(changed, *receiver) != nullptr) event->accept();
+        if (actionFor(changed, *receiver) != nullptr || menuFor(changed, *receiver))
+            event->accept();
     }
     return true;
 }

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace marlevo {
-
-/// True unless the style or the desktop's settings disable animation.
-bool isMotionWanted();
-
-}  // namespace marlevo
