@@ -101,7 +101,7 @@ void ColorWell::openPanel() {
     panel_->setOption(QColorDialog::NoButtons);
     panel_->setOption(QColorDialog::ShowAlphaChannel, opacity_ == Opacity::choosable);
     connect(panel_, &QColorDialog::currentColorChanged, this, &ColorWell::choose);
-    // The panel's field of hues is a private class of the toolkit, known by its signal.
+    // The panel's field of hues is a private class of the toolkit. Its signal identifies it.
     constexpr const char* hueChosen = "newCol(int,int)";
     for (const QWidget* const part : panel_->findChildren<QWidget*>())
         if (part->metaObject()->indexOfSignal(hueChosen) >= 0)

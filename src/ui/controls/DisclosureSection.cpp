@@ -1,7 +1,8 @@
 #include "ui/controls/DisclosureSection.h"
 
-#include "ui/controls/Motion.h"
+#include "platform/qt/DesktopSettings.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QStyle>
 
@@ -14,6 +15,12 @@ namespace {
 
 constexpr int contentIndent = 4;
 constexpr int openingDuration = 150;
+
+/// True unless the style or the desktop's settings disable animation.
+bool isMotionWanted() {
+    const int duration = QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration);
+    return duration > 0 && DesktopSettings::instance().isMotionWanted();
+}
 
 }  // namespace
 

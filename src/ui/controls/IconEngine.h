@@ -13,8 +13,8 @@ namespace marlevo {
 /// every scale of the screen.
 class IconEngine final : public QIconEngine {
 public:
-    /// Without a colour the icon is text: it has the colour of the painter's pen, or of primary
-    /// text where the toolkit asks for a pixmap.
+    /// Without a colour, the icon has the colour of the painter's pen, or that of primary text
+    /// where the toolkit asks for a pixmap.
     explicit IconEngine(Icon icon, std::optional<SemanticColor> color = {});
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;

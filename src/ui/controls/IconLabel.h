@@ -8,7 +8,7 @@
 
 namespace marlevo {
 
-/// An icon beside text of a size; only to be looked at.
+/// Shows an icon beside text of a size.
 class IconLabel final : public QWidget {
     Q_OBJECT
 

@@ -39,8 +39,8 @@ enum class Icon : unsigned char {
     undoArrow,
 };
 
-/// Paints the icon in one colour, as a square in the centre of `rect`, with edges on whole device
-/// pixels.
+/// Paints the icon in one colour, as a square in the centre of `rect`, with straight lines on
+/// whole device pixels.
 void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& color);
 
 /// The icon of the program itself.
