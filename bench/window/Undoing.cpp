@@ -62,7 +62,7 @@ void measureLongStrokes(Bench& bench, RealWindow& real, const QJsonObject& about
 /// Draws more strokes over all of the canvas than their pixels are kept.
 void measureBeyondBound(Bench& bench, RealWindow& real, const QJsonObject& about) {
     constexpr std::size_t pointsPerStroke = 400;
-    const int strokes = bench.isQuick ? 60 : 120;
+    const int strokes = 120;
     Random random(5);
     for (int i = 0; i < strokes; ++i) {
         const std::vector<Point> way = scribble(random, pointsPerStroke, canvas);

@@ -1,6 +1,7 @@
 #include "render/CellSearch.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace marlevo {
@@ -26,10 +27,14 @@ std::optional<std::size_t> CellSearch::findSame(const KeptCells::Versions& versi
 
 std::optional<CellSearch::Found> CellSearch::findSimilar(const KeptCells::Versions& versions,
                                                          const IntRect& tile, CellMask cell) {
-    // Pictures with nearly as many strokes are likely to be near in the history.
+    // Pictures with nearly as many strokes are likely to be near in the history, and strokes can be
+    // added to older ones.
+    const auto remoteness = [&](std::size_t version) {
+        const std::size_t strokes = versions[version].picture->strokes;
+        return std::pair(strokes > wantedStrokes_, distance(strokes, wantedStrokes_));
+    };
     const auto isNearer = [&](std::size_t a, std::size_t b) {
-        return distance(versions[a].picture->strokes, wantedStrokes_) <
-               distance(versions[b].picture->strokes, wantedStrokes_);
+        return remoteness(a) < remoteness(b);
     };
     std::vector<std::size_t> nearest(versions.size());
     for (std::size_t i = 0; i < nearest.size(); ++i)
