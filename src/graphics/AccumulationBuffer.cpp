@@ -90,8 +90,8 @@ inline void addPair(const SumRow& row, const EdgePiece& piece) {
     addWrapping(cell[0], first * piece.winding * (2 * subpixels - firstX));
     addWrapping(cell[1], piece.winding * (first * firstX + second * (2 * subpixels - beyond)));
     addWrapping(cell[2], second * piece.winding * beyond);
-    row.markDirty(static_cast<std::size_t>(column));
-    row.markDirty(static_cast<std::size_t>(pixelAt(piece.right) + 1));
+    row.markDirty(column);
+    row.markDirty(pixelAt(piece.right) + 1);
 }
 
 /// Adds any piece, cell by cell from left to right.
@@ -115,8 +115,8 @@ void addPiece(const SumRow& row, std::int32_t& leftCover, std::int32_t width,
         const std::int32_t positions = x + nextX - 2 * columnX;
         addWrapping(row.cells[column], cover * (2 * subpixels - positions));
         addWrapping(row.cells[column + 1], cover * positions);
-        row.markDirty(static_cast<std::size_t>(column));
-        row.markDirty(static_cast<std::size_t>(column + 1));
+        row.markDirty(column);
+        row.markDirty(column + 1);
         x = nextX;
         y = nextY;
     }
@@ -189,8 +189,8 @@ void AccumulationBuffer::add(const AccumulationBuffer& other) {
             for (int i = first; i < end; ++i)
                 addWrapping(to.cells[column + i], sums[i]);
             if (first == end) continue;
-            to.markDirty(static_cast<std::size_t>(column + first));
-            to.markDirty(static_cast<std::size_t>(column + end - 1));
+            to.markDirty(column + first);
+            to.markDirty(column + end - 1);
         }
     }
 }

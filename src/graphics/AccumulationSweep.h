@@ -20,7 +20,9 @@ struct SumRow {
     std::size_t markCount;
     std::int32_t before;  ///< the sum before the first cell
 
-    void markDirty(std::size_t cell) const { marks[cell / cellsPerMark] = dirtyMark; }
+    void markDirty(std::int32_t cell) const {
+        marks[static_cast<std::size_t>(cell) / cellsPerMark] = dirtyMark;
+    }
 };
 
 /// Blends `color` onto `count` pixels by the coverage that the running sums give, and sets the

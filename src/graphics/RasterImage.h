@@ -47,7 +47,7 @@ public:
 private:
     using Vector = std::shared_ptr<std::vector<std::uint8_t>>;
 
-    RasterImage(int width, int height, Vector bytes)
+    RasterImage(int width, int height, const Vector& bytes)
         : RasterImage(width, height, std::span<const std::uint8_t>(*bytes), bytes) {}
 
     int width_;

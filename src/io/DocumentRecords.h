@@ -13,7 +13,7 @@ struct DocumentData;
 struct DocumentSnapshot {
     CanvasSize canvasSize;
     Color backgroundColor;
-    bool backgroundIsTransparent;
+    bool backgroundIsTransparent = false;
     LayerList layers;
 };
 

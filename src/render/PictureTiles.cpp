@@ -203,7 +203,7 @@ void PictureTiles::limitKept(std::size_t mostBytes) {
     for (const auto& [usedAt, size] : uses) {
         bytes += size;
         if (bytes <= wanted) continue;
-        tiles_.forEachKnownTile([&](Tile& tile) { tile.kept.dropUsedBefore(usedAt + 1); });
+        tiles_.forEachKnownTile([end = usedAt + 1](Tile& tile) { tile.kept.dropUsedBefore(end); });
         return;
     }
 }
