@@ -56,7 +56,7 @@ void beginAutoSave(benchmark::State& state) {
     DrawingDocument document({.writeQueue = &writeQueue});
     draw(document, state.range(0));
     for (auto _ : state) {
-        writeDocumentBehind(document, folder / "drawing.marlevo");
+        writeDocumentBehind(document, folder / "drawing.marlevo", [](bool) {});
         state.PauseTiming();
         writeQueue.wait();
         state.ResumeTiming();

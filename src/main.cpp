@@ -42,7 +42,7 @@ std::vector<std::filesystem::path> drawingsToOpen(std::span<const char* const> a
 /// The application, while it runs.
 marlevo::MarlevoApp* running = nullptr;
 
-/// The toolkit calls exit() when the display is gone. Else `running` is null by now.
+/// For the toolkit's call of exit() when the display is gone. At a normal end `running` is null.
 void saveAtExit() {
     if (running) running->saveBeforeEnd();
 }

@@ -27,7 +27,9 @@ bool AutoSave::isOn() const {
 void AutoSave::runCycle() {
     if (!isOn()) return;
     const std::filesystem::path file = *document_.currentFileURL.get();
-    writeDocumentBehind(document_, file);
+    *isWritten_ = false;
+    writeDocumentBehind(document_, file,
+                        [result = isWritten_](bool isWritten) { *result = isWritten; });
 }
 
 }  // namespace marlevo

@@ -2,6 +2,7 @@
 
 #include "platform/SleepingClock.h"
 
+#include <atomic>
 #include <chrono>
 #include <memory>
 
@@ -25,6 +26,9 @@ public:
     /// True if a cycle writes the document.
     bool isOn() const;
 
+    /// True if it is on and the write of the last cycle has succeeded.
+    bool isWritten() const { return isOn() && *isWritten_; }
+
     /// One cycle now, without a change of the next one's time.
     void runCycle();
 
@@ -32,6 +36,8 @@ private:
     void sleep();
 
     DrawingDocument& document_;
+    /// Shared with a write that may end after this object.
+    std::shared_ptr<std::atomic<bool>> isWritten_ = std::make_shared<std::atomic<bool>>(false);
     std::unique_ptr<SleepingClock::Sleep> sleep_;
 };
 

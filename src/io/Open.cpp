@@ -8,6 +8,7 @@
 #include "model/DrawingDocument.h"
 #include "platform/Console.h"
 #include "platform/FilePanels.h"
+#include "platform/WorkQueue.h"
 
 #include <new>
 #include <string>
@@ -53,6 +54,8 @@ void openDocument(const Services& services, FrontmostDocument frontmostDocument,
             if (!file) return;
             DrawingDocument* const document = frontmostDocument();
             if (document == nullptr) return;
+            // Auto-save may be writing this file.
+            if (WorkQueue* const queue = document->services().writeQueue) queue->wait();
             const auto drawing = loadDrawing(*file, document->services().console);
             if (!drawing) return;
             replacePicture(*document, *drawing, *file);

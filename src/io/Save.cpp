@@ -12,6 +12,7 @@
 
 #include <new>
 #include <string>
+#include <utility>
 
 namespace marlevo {
 
@@ -54,15 +55,16 @@ void writeDocument(DrawingDocument& document, const std::filesystem::path& to) {
         document.currentFileURL = to;
 }
 
-void writeDocumentBehind(const DrawingDocument& document, const std::filesystem::path& to) {
+void writeDocumentBehind(const DrawingDocument& document, const std::filesystem::path& to,
+                         std::function<void(bool)> ended) {
     const Services& services = document.services();
-    const auto write = [to, console = services.console,
-                        flushQueue = services.flushQueue](const DocumentSnapshot& snapshot) {
-        writeSnapshot(snapshot, to, console, flushQueue);
+    const auto write = [to, console = services.console, flushQueue = services.flushQueue,
+                        ended = std::move(ended)](const DocumentSnapshot& snapshot) {
+        ended(writeSnapshot(snapshot, to, console, flushQueue));
     };
     if (services.writeQueue == nullptr) return write(snapshotOf(document));
     services.writeQueue->post([write, snapshot = snapshotOf(document)] {
-        const OneCore leavesTheOthersToTheWindows;
+        const OneCore oneCore;
         write(snapshot);
     });
 }

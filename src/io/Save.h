@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 namespace marlevo {
 
@@ -13,7 +14,9 @@ void writeDocument(DrawingDocument& document, const std::filesystem::path& to);
 /// Writes the drawing as it is now to the file, on the write queue, in place and whole. Returns at
 /// once. A later writeDocument() waits for it. A failure is one line "Save failed: …" on the
 /// console. Without a write queue it writes before it returns.
-void writeDocumentBehind(const DrawingDocument& document, const std::filesystem::path& to);
+/// `ended` is called with the success after the write, on the thread that writes.
+void writeDocumentBehind(const DrawingDocument& document, const std::filesystem::path& to,
+                         std::function<void(bool)> ended);
 
 /// Writes to the document's file; without one, asks as saveAs() does.
 void save(DrawingDocument& document);

@@ -15,7 +15,7 @@ namespace marlevo {
 void parallelFor(std::size_t count, const std::function<void(std::size_t)>& work);
 
 /// Keeps the calls of parallelFor() by this thread on this thread, for the time of its existence:
-/// for work behind the user's back, which leaves the other cores to the windows.
+/// for background work, so that the other cores stay free for the user interface.
 class OneCore {
 public:
     OneCore();

@@ -52,7 +52,7 @@ void matchWholeRows(const PixelBlock& block, const ColorRange& range, BlockBits&
     const auto lowest = splat(range.lowest);
     const auto highest = splat(range.highest);
 
-    // The rows lie far apart in memory, where the processor does not foresee the next ones.
+    // The rows are far apart in memory, so the processor does not prefetch them.
     constexpr std::size_t rowsAhead = 6;
     constexpr std::size_t cacheLine = 64;
     const std::uint8_t* from = block.pixels.data();

@@ -28,7 +28,7 @@ struct PixelBlock {
 /// zero.
 using BlockBits = std::array<std::uint64_t, 64>;
 
-/// The pixels of the block that lie in the range.
+/// The pixels of the block whose colours are in the range.
 BlockBits matchBlock(const PixelBlock& block, const ColorRange& range);
 
 }  // namespace marlevo

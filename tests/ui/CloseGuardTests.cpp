@@ -140,9 +140,11 @@ private Q_SLOTS:
         const auto mayEnd = [&](const char* title) {
             QMetaObject::invokeMethod(
                 &saved, [&s, title] { answer(s.window, title); }, Qt::QueuedConnection);
+            s.app.saveBeforeEnd();
             return s.app.closeUnsavedDrawings();
         };
         QVERIFY(!mayEnd("Cancel"));
+        s.window.close();  // its question stays open
         QVERIFY(s.open);
         QVERIFY(mayEnd("Don't Save"));
         QTRY_VERIFY(!s.open);

@@ -29,7 +29,7 @@ bool isScreenComposited() {
     const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
     if (x11 == nullptr) return true;
     xcb_connection_t* const server = x11->connection();
-    // The selection that a compositing manager owns, as the window manager specification defines.
+    // The selection that a compositing manager owns, as EWMH defines.
     const std::string name = "_NET_WM_CM_S" + std::to_string(defaultScreen());
     const std::unique_ptr<xcb_intern_atom_reply_t, Free> atom(xcb_intern_atom_reply(
         server, xcb_intern_atom(server, 0, std::uint16_t(name.size()), name.data()), nullptr));

@@ -16,15 +16,25 @@ constexpr std::array handled{SIGTERM, SIGHUP, SIGINT};
 
 int writeEnd = -1;
 
-void setHandler(void (*handler)(int)) {
+extern "C" void passToEventLoop(int signal);
+
+using Handler = void (*)(int);
+
+Handler handlerOf(int signal) {
+    struct sigaction current {};
+    ::sigaction(signal, nullptr, &current);
+    return current.sa_handler;
+}
+
+void removeHandlers() {
     for (const int signal : handled)
-        std::signal(signal, handler);
+        if (handlerOf(signal) == passToEventLoop) std::signal(signal, SIG_DFL);
 }
 
 /// Only calls that are allowed in a handler: the event loop does the work.
 extern "C" void passToEventLoop(int signal) {
     const int error = errno;
-    setHandler(SIG_DFL);
+    removeHandlers();
     const auto number = static_cast<unsigned char>(signal);
     // A pipe that takes nothing leaves the program running, and the next signal ends it.
     [[maybe_unused]] const ssize_t written = ::write(writeEnd, &number, 1);
@@ -41,11 +51,15 @@ TerminationSignals::TerminationSignals(std::function<void()> beforeEnd)
     writeEnd = ends[1];
     notifier_ = std::make_unique<QSocketNotifier>(readEnd_, QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { finish(); });
-    setHandler(passToEventLoop);
+    // A signal that the parent has set to be ignored, as nohup(1) does, stays ignored.
+    for (const int signal : handled)
+        if (handlerOf(signal) != SIG_IGN) std::signal(signal, passToEventLoop);
 }
 
 TerminationSignals::~TerminationSignals() {
-    setHandler(SIG_DFL);
+    if (readEnd_ < 0) return;
+    removeHandlers();
+    notifier_.reset();
     ::close(readEnd_);
     ::close(writeEnd);
 }

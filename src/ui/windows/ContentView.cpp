@@ -104,7 +104,7 @@ void ContentView::fitToWindow() {
     document_.zoom = std::max(minZoom, document_.zoom.get());
 }
 
-bool ContentView::isAutoSaved() const { return parts_->autoSave && parts_->autoSave->isOn(); }
+bool ContentView::isSaved() const { return parts_->autoSave && parts_->autoSave->isWritten(); }
 
 void ContentView::saveBeforeEnd() {
     parts_->canvas.view().interruptGesture();

@@ -38,8 +38,8 @@ public:
     /// range of the zoom. Does nothing without an active window.
     void fitToWindow();
 
-    /// True if auto-save keeps the drawing.
-    bool isAutoSaved() const;
+    /// True if the last write of auto-save holds the drawing of its moment.
+    bool isSaved() const;
 
     /// Ends the gesture on the canvas and saves as auto-save does: before the program is ended.
     void saveBeforeEnd();

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QMessageBox>
 #include <QScreen>
 
 namespace marlevo {
@@ -54,7 +55,7 @@ void DocumentWindow::followSheet() {
 
 void DocumentWindow::closeDismissingPanels() {
     for (QDialog* const panel : findChildren<QDialog*>(Qt::FindDirectChildrenOnly))
-        if (panel->isVisible()) panel->reject();
+        if (panel->isVisible() && !qobject_cast<QMessageBox*>(panel)) panel->reject();
     if (isVisible()) close();
 }
 

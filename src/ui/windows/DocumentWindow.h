@@ -29,7 +29,7 @@ public:
     QWidget& canvasView();
 
     /// Closes the window; the close guard may ask the user and refuse. Open panels are cancelled
-    /// first, because they would block the close.
+    /// first, because they would block the close; an open question of the guard stays.
     void closeDismissingPanels();
 
 Q_SIGNALS:

@@ -15,7 +15,7 @@ namespace marlevo {
 
 MarlevoApp::MarlevoApp(const Services& services) : services_(services) {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &MarlevoApp::focusFollows);
-    // Direct, since the session waits for the return only.
+    // Direct, because the session manager continues when this signal returns.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &MarlevoApp::commitSession,
             Qt::DirectConnection);
     qApp->installEventFilter(this);
@@ -97,8 +97,7 @@ void MarlevoApp::saveBeforeEnd() {
 
 bool MarlevoApp::closeUnsavedDrawings() {
     for (DocumentWindow* const window : documentWindows()) {
-        if (window->content().isAutoSaved() || strokeCount(window->document().layers) == 0)
-            continue;
+        if (window->content().isSaved() || strokeCount(window->document().layers) == 0) continue;
         QEventLoop answer;
         bool isKept = false;
         connect(window, &DocumentWindow::kept, &answer, [&] {
@@ -125,7 +124,13 @@ bool MarlevoApp::eventFilter(QObject* watched, QEvent* event) {
     if (watched == qApp && event->type() == QEvent::Quit) {
         saveBeforeEnd();
         for (DocumentWindow* const window : documentWindows())
-            if (window->content().isAutoSaved()) window->content().closeGuard().skipClose();
+            window->content().closeGuard().setEndsWithSession(window->content().isSaved());
+        // The user can keep a window, and then the others stay open.
+        const auto reset = [this] {
+            for (DocumentWindow* const window : documentWindows())
+                window->content().closeGuard().setEndsWithSession(false);
+        };
+        QMetaObject::invokeMethod(this, reset, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }

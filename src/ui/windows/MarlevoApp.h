@@ -64,12 +64,12 @@ public:
     /// disk for at most five seconds. For an end of the program that cannot be refused.
     void saveBeforeEnd();
 
-    /// Closes the windows whose drawings auto-save does not keep, each as if the user had closed
-    /// it, and waits for the answers. Returns false if the user keeps one.
+    /// Closes the windows whose drawings saveBeforeEnd() did not write, each as if the user had
+    /// closed it, and waits for the answers. Returns false if the user keeps one.
     bool closeUnsavedDrawings();
 
     /// Lets the toolkit close the windows at the end of the session: without a question about a
-    /// drawing that auto-save keeps.
+    /// drawing that auto-save has written.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -49,7 +49,7 @@ bool WindowAccessor::Coordinator::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool WindowAccessor::Coordinator::windowShouldClose(QWidget& window) {
-    if (shouldSkipClose_ || strokeCount(document_.layers) < 1) return true;
+    if (shouldSkipClose_ || endsWithSession_ || strokeCount(document_.layers) < 1) return true;
     if (alert_)
         alert_->raise();
     else

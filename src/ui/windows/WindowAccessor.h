@@ -31,7 +31,9 @@ public:
 
     /// Once true, the window closes without a question.
     bool shouldSkipClose() const { return shouldSkipClose_; }
-    void skipClose() { shouldSkipClose_ = true; }
+
+    /// While true, the window closes without a question: the session ends and the drawing is saved.
+    void setEndsWithSession(bool ends) { endsWithSession_ = ends; }
 
     /// True if the window may close now. Otherwise a question to the user is open. Its answer
     /// closes the window, at once or after a file panel, or keeps it open.
@@ -49,6 +51,7 @@ private:
 
     DrawingDocument& document_;
     bool shouldSkipClose_ = false;
+    bool endsWithSession_ = false;
     QPointer<QMessageBox> alert_;
 };
 
